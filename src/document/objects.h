@@ -1,0 +1,138 @@
+// The label document: one flat array of records in drawing order, and the state around it that the
+// rest of the program shares. Lengths are millimetres from the label's top left corner, x to the
+// right and y downward; font sizes points; pen widths device pixels; colours 0x00BBGGRR.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "platform/controls.h"
+#include "platform/surface.h"
+#include "platform/text.h"
+
+namespace tagwright {
+
+// A boolean of the records and files: 0 or -1 in 16 bits.
+using Flag = std::int16_t;
+constexpr Flag kTrue = -1;
+constexpr Flag kFalse = 0;
+
+// Kind codes (`ObjType`). Any other code draws nothing.
+enum Kind : std::int16_t {
+  kBlank = 0,
+  kBarcode = 1,
+  kPicture = 2,
+  kText = 3,
+  kLine = 10,
+  kRectangle = 11,
+  kRoundedRectangle = 12,
+  kEllipse = 13,
+  kDataField = 20,
+  kSourceTrailer = -1,   // only in the project file and while saving
+  kSerialTrailer = -2,   // likewise
+  kDeleteMark = -100,    // for the length of one delete operation
+};
+
+// Whether `kind` is one of the shapes, lines included: above 9 and below 20.
+inline bool IsShape(std::int16_t kind) { return kind > 9 && kind < 20; }
+
+// One object. Several fields have a double use by kind; that is how the project file stores them
+// and is not to be normalised:
+//   barcode     Text data, Param format, Bold print characters under the bars
+//   picture     Text full path
+//   text        Text lines separated by CR LF, Param alignment (0 left, 1 right, 2 centre)
+//   shapes      Param pen width (0 no pen), ForeColor pen, FillColor fill (-1 transparent)
+//   data field  Text column name, Param column, FillColor format (0 plain, 1 currency, 2 number,
+//               100 + n barcode of format n), Italic print characters of that barcode
+struct ObjectRecord {
+  float Left = 0;
+  float Top = 0;
+  double Width = 0;
+  double Height = 0;
+  std::int16_t ObjType = kBlank;
+  FixedText<250> Text;
+  std::int16_t Param = 0;
+  FixedText<35> FontName;
+  double FontSize = 0;
+  Flag Bold = kFalse;
+  Flag Italic = kFalse;
+  std::int32_t ForeColor = 0;
+  std::int32_t FillColor = 0;
+
+  bool operator==(const ObjectRecord&) const = default;
+};
+
+// --- state --------------------------------------------------------------------------------------
+
+// The document. `ObjectUB` is its upper bound, -1 when empty; the array may be longer (after a load
+// or a save the two trailers lie beyond the bound).
+inline std::vector<ObjectRecord> Objects;
+inline std::int16_t ObjectUB = -1;
+
+inline double ZoomFactor = 1.0;    // 1.0 is 100 %; replaced during a print or preview redraw
+inline double BoardOriginX = 0;    // the label's corner on the drawing target, its millimetres
+inline double BoardOriginY = 0;
+inline std::int16_t SelectedObject = -1;  // -1 none
+inline std::int16_t RedrawSkip = -1;      // object that the next redraw leaves out, -1 none
+inline std::int16_t CurrentTool = 0;      // the kind a tool will create; 30, 31 zoom; 0 none
+inline std::int16_t CursorShape = 0;      // pointer that board and hit areas keep restoring
+inline std::int16_t SuspendRedraw = 0;    // non-zero: RedrawBoard does nothing
+inline std::int16_t BoardReady = 0;       // zero until the window's first activation
+inline std::int64_t RedrawCount = 0;      // redraws begun
+inline bool PreviewMode = false;          // a redraw for the preview is under way
+inline bool SerialUsed = false;           // a printed text held the serial token
+inline std::string ProjectPath;           // full path, empty when untitled
+inline Flag DirtyFlag = kFalse;           // unsaved changes
+inline Flag MetricUnits = kTrue;          // millimetres; 0 inches
+inline double UnitScale = 1.0;            // millimetres per display unit: 1.0 or 25.4
+inline double RulerScale = 1.0;           // millimetres between ruler ticks: 1.0 or 2.54
+inline Surface* DrawTarget = nullptr;     // what all drawing goes to
+inline double LabelWidth = 0;             // of one label
+inline double LabelHeight = 0;
+inline std::int16_t PrintOffsetX = 0;     // added to the origin of every printed label
+inline std::int16_t PrintOffsetY = 0;
+
+// The columns of the current data row (their names while designing).
+inline std::vector<std::string> FieldValues = std::vector<std::string>(101);
+inline std::int16_t FieldUB = -1;         // highest used column, -1 no data source
+
+// Serial numbers.
+inline std::string SerialPrefix;
+inline std::int32_t SerialValue = 1001;
+inline std::int16_t SerialIncrement = 1;
+inline std::int16_t SerialBarcodeType = 6;  // format, -1 shown as text
+inline double SerialBarcodeWidth = 35.0;
+inline double SerialBarcodeHeight = 15.0;
+inline Flag SerialPrintText = kTrue;
+
+// Selection (its routines live in editing).
+inline std::vector<std::int16_t> SelectedList = std::vector<std::int16_t>(257);
+inline std::int16_t SelectedUpper = -1;   // upper bound in use, -1 no group
+inline bool PanelLoading = false;         // a panel is being filled: its events write nothing back
+inline bool LoadingProject = false;       // a project is being loaded: no dialogs open
+
+// --- operations ---------------------------------------------------------------------------------
+
+// Gives record `index` its fresh state: zero numbers, blank text. Faults 9 outside the array.
+void ClearObject(int index);
+
+// The record at `index`. Faults 9 outside the allocated array (which may exceed ObjectUB).
+ObjectRecord& ObjectAt(int index);
+
+// Raises ObjectUB by 1 and grows Objects, keeping its contents. Faults 6 past 32,767.
+void GrowObjects();
+
+// The array's elements `index` + 1 to ObjectUB move down one place, each hit area takes the place
+// of its successor and an empty caption, the last is hidden and ObjectUB falls by one. The array
+// keeps its allocation. Nothing for an empty document.
+void RemoveRecord(int index);
+
+// `lblHold(index)`; an element that does not exist yet is created visible, transparent, without a
+// caption.
+Label& HoldAt(int index);
+
+// All of the above back to program start; the form is not touched.
+void ResetDocumentState();
+
+}  // namespace tagwright

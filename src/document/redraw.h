@@ -1,0 +1,45 @@
+// The one painter of labels, for the screen, the printed page and the preview.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+
+#include "platform/controls.h"
+
+namespace tagwright {
+
+// Paints the whole label from Objects on DrawTarget. With `Output` false the target is picBoard and
+// both offsets are ignored; it also puts every hit area over its object and draws handles and
+// rulers. With `Output` true it paints one cell of a sheet at `OffsetX`, `OffsetY` millimetres of
+// the page, on the Printer, or in PreviewMode on the present target. Nothing at all happens while
+// BoardReady is zero or SuspendRedraw is not. Changes RedrawCount, RedrawSkip, BoardOriginX and
+// BoardOriginY; an unreadable picture drops the newest object. Never faults.
+void RedrawBoard(const double& OffsetX, const double& OffsetY, const bool& Output);
+
+// The screen's redraw: offsets are ignored there.
+inline void RedrawBoard() { RedrawBoard(0, 0, false); }
+
+// Paints one barcode; filled by the barcode engine (see shell/wiring.cpp), empty until then.
+// Data, format, x, y, height, width (target units), print characters, font size, font name.
+using BarcodePainter =
+    std::function<void(std::string data, std::int16_t format, float x, float y, double height,
+                       double width, bool print_chars, double font_size, std::string font_name)>;
+inline BarcodePainter PaintBarcode;
+
+// Paints one text or data field object; see object_text.cpp.
+void PaintObjectText(int Index, bool Output);
+
+// --- overlays of the board ----------------------------------------------------------------------
+
+// Puts shpBox and the four handles around one hit area and shows them.
+void ShowHandles(const Label& hold);
+// Puts shpBox around the group in SelectedList; the handles are placed and hidden.
+void ShowGroupBox();
+// Hides shpBox and the handles.
+void HideHandles();
+
+// The rulers along the board's top and left side; nothing with mnuFileRulers unchecked.
+void DrawRulers();
+
+}  // namespace tagwright

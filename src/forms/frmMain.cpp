@@ -1,0 +1,101 @@
+#include "forms/frmMain.h"
+
+namespace tagwright {
+namespace {
+
+// Lengths in twips. What Form_Resize computes is left at zero here.
+constexpr double kStripHeight = 1860;
+constexpr double kPanelLeft = 50;
+constexpr double kPanelWidth = 13000;
+constexpr double kToolColumnWidth = 750;
+constexpr double kToolColumnHeight = 8400;
+constexpr double kStatusHeight = 390;
+constexpr double kHandleSize = 90;
+
+void DesignMenus(FrmMain& f) {
+  f.mnuFileOpen.SetEnabled(true);
+  f.mnuFileSave.SetEnabled(false);
+  f.mnuEditPaste.SetEnabled(false);
+  f.mnuFileBar4.SetVisible(false);
+  for (const auto& [index, entry] : f.mnuFileOld) entry->SetVisible(false);
+}
+
+void DesignStrip(FrmMain& f) {
+  f.picFunctions.SetHeight(kStripHeight);
+  for (PictureBox* panel : {&f.picProperties, &f.picText, &f.picBCode, &f.picDrawing, &f.picPicture,
+                            &f.picFields, &f.picPrint, &f.picSellAll}) {
+    panel->Move(kPanelLeft, 0, kPanelWidth, kStripHeight);
+  }
+  f.cboFont.SetSorted(true);
+  f.cboFont.SetEditable(true);
+  f.cboFont.SetVisible(false);
+  f.cboSize.SetVisible(false);
+  f.chkXHair.SetValue(1);
+  f.txtTool.SetMultiLine(true);
+  f.txtNoCopies.SetText("1");
+  f.txtBookland.SetVisible(false);
+  for (const auto& [index, field] : f.txtDSize) field->SetText("0.00");
+  for (const auto& [index, field] : f.txtLabLayout) field->SetText("0.00");
+}
+
+void DesignTools(FrmMain& f) {
+  f.picTools.SetWidth(kToolColumnWidth);
+  f.picTools.SetHeight(kToolColumnHeight);
+  f.picMag.SetVisible(false);
+  f.picMag.SetWidth(3000);
+  f.picMag.SetHeight(630);
+  f.sB1.SetHeight(kStatusHeight);
+}
+
+void DesignBoard(FrmMain& f) {
+  f.picBoard.SetBackColor(Rgb(160, 164, 170));
+  for (const auto& [index, hold] : f.lblHold) hold->SetVisible(false);
+  for (const auto& [index, handle] : f.lblHandle) {
+    handle->SetWidth(kHandleSize);
+    handle->SetHeight(kHandleSize);
+    handle->SetVisible(false);
+  }
+  f.lblHandle(0).SetMousePointer(8);
+  f.lblHandle(1).SetMousePointer(6);
+  f.lblHandle(2).SetMousePointer(6);
+  f.lblHandle(3).SetMousePointer(8);
+  f.shpBox.SetVisible(false);
+  f.shpLine.SetVisible(false);
+  f.lnMX.SetVisible(false);
+  f.lnMY.SetVisible(false);
+  for (ScrollBar* bar : {&f.hS1, &f.vS1}) {
+    bar->SetRange(0, 500);
+    bar->SetValue(250);
+    bar->SetSteps(5, 50);
+  }
+}
+
+void DesignHelpers(FrmMain& f) {
+  f.picTemp.SetVisible(false);
+  f.imageIcon.SetIcon("application");
+  f.Image3.SetIcon("pointer-zoom-in");
+  f.Image4.SetIcon("pointer-zoom-out");
+  f.Image5.SetIcon("pointer-barcode");
+  for (Image* icon : {&f.imageIcon, &f.Image1, &f.Image2, &f.Image3, &f.Image4, &f.Image5}) {
+    icon->SetVisible(false);
+  }
+  f.Timer1.SetInterval(1000);
+  f.tmrButtons.SetInterval(70);
+}
+
+}  // namespace
+
+FrmMain::FrmMain() : Form("frmMain") {
+  SetCaption("Tagwright Gold [untitled]");
+  SetWidth(19200);
+  SetHeight(12300);
+  DesignMenus(*this);
+  DesignStrip(*this);
+  DesignTools(*this);
+  DesignBoard(*this);
+  DesignHelpers(*this);
+}
+
+FrmMain frmMain;
+
+}  // namespace tagwright

@@ -1,0 +1,59 @@
+// Run-time faults: the one way in which a platform call reports that it could not do its work.
+//
+// A fault is a value with a stable number and a description. It is thrown as a C++ exception inside
+// the program's own code and never crosses an event handler's boundary (see event.h).
+#pragma once
+
+#include <string>
+#include <utility>
+
+namespace tagwright {
+
+// The stable numbers. The first five are trapped by number somewhere in the program.
+enum FaultNumber : int {
+  kInvalidCall = 5,          // a call that makes no sense now, such as focus on a hidden control
+  kOverflow = 6,             // a value outside its integer type
+  kOutOfBounds = 9,          // an array element that does not exist
+  kDivisionByZero = 11,      // division by zero
+  kTypeMismatch = 13,        // text that is not the number it should be
+  kFileNotFound = 53,        // a missing file
+  kFileAccess = 75,          // a file or folder that cannot be read, written or deleted
+  kDeviceFault = 57,         // an input or output fault of the device
+  kDiskFull = 61,            // no room for what is to be written
+  kMissingElement = 340,     // a control array element that was never created
+  kBadValue = 380,           // a property value that the control refuses
+  kBadPicture = 481,         // a file that is no readable picture
+  kPrinterFault = 482,       // a printer that refuses
+  kPasswordNeeded = 3031,    // a database that wants a password
+  kDatabaseFault = 3343,     // a database that cannot be opened or read
+  kDialogCancelled = 32755,  // a common dialog that the user cancelled
+};
+
+// A fault under way. Copyable; `description` is shown to people and is never empty.
+struct Fault {
+  int number = 0;
+  std::string description;
+};
+
+// Throws the fault `number` with its stock description.
+[[noreturn]] void RaiseFault(int number);
+
+// Throws the fault `number` with a description of the caller's.
+[[noreturn]] void RaiseFault(int number, std::string description);
+
+// The stock description of `number`; "Application-defined fault" for one that has none.
+std::string FaultDescription(int number);
+
+// Runs `statement`; a fault in it ends it and is passed over. Returns whether it ran to its end.
+// This is the program's skip-and-continue: what the statement would have set keeps its old value.
+template <class Statement>
+bool CarryOn(Statement&& statement) {
+  try {
+    std::forward<Statement>(statement)();
+    return true;
+  } catch (const Fault&) {
+    return false;
+  }
+}
+
+}  // namespace tagwright

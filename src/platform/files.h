@@ -1,0 +1,38 @@
+// Files by name. Names resolve as users of this program's files expect: the exact name first, then
+// ignoring case component by component; "/" and "\" both separate. Bytes are std::string.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace tagwright {
+
+// The existing file or folder that `path` means: the exact name, or the first one (in code point
+// order) that differs only in case, component by component. `path` itself when there is none,
+// with as many leading components resolved as exist. The result uses the system's separator.
+std::string ResolvePath(std::string_view path);
+
+// Whether `path` means an existing regular file. An empty or blank path does not.
+bool FileExists(std::string_view path);
+
+// Length in bytes. Faults 53 when there is no such file.
+std::int64_t FileLength(std::string_view path);
+
+// The whole file. Faults 53 when there is none, 75 when it cannot be read, 57 on a device fault.
+std::string ReadFile(std::string_view path);
+
+// The first `limit` bytes at most. Faults as ReadFile.
+std::string ReadFileStart(std::string_view path, std::size_t limit);
+
+// Creates or overwrites the file with `bytes` from its start. An existing file that is longer
+// keeps its tail (callers that want it gone delete it first). Faults 75, 57, 61 (disk full).
+void WriteFile(std::string_view path, std::string_view bytes);
+
+// Deletes. Faults 53 when there is no such file, 75 when it cannot be deleted.
+void DeleteFile(std::string_view path);
+
+// The part after the last "/" or "\"; the whole path when there is none.
+std::string FileBaseName(std::string_view path);
+
+}  // namespace tagwright

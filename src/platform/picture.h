@@ -1,0 +1,32 @@
+// Pictures loaded from files: jpg, jpeg and gif as pixels, wmf as drawing.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace tagwright {
+
+// A loaded picture. Immutable; the surfaces of the same platform know how to paint it.
+class Picture {
+ public:
+  virtual ~Picture() = default;
+  // Natural size in hundredths of a millimetre. A raster picture counts 2540 / 96 a pixel, whatever
+  // resolution its file names; a metafile has the size of its placeable header, or without one the
+  // window it draws into at 96 units an inch, or 100 mm square where it names none.
+  double Width = 0;
+  double Height = 0;
+};
+
+using PicturePtr = std::shared_ptr<const Picture>;
+
+// Reads the picture file `path`: first frame, no turn by EXIF. Faults 53 when the file is missing,
+// 481 when it is no readable picture. Reads anew at each call; nothing is cached.
+PicturePtr LoadPicture(std::string_view path);
+
+// The reader that the platform provides: bytes of a file to a picture, null when unreadable.
+// `name` is for the format only where the bytes leave it open.
+using PictureReader = PicturePtr (*)(const std::string& bytes, std::string_view name);
+void SetPictureReader(PictureReader reader);
+
+}  // namespace tagwright

@@ -1,0 +1,185 @@
+#include "support/test_support.h"
+
+#include <cstdlib>
+#include <memory>
+
+#include "common/prog_settings.h"
+#include "document/objects.h"
+#include "document/project_file.h"
+#include "forms/frmMain.h"
+#include "platform/clock.h"
+#include "platform/desktop.h"
+#include "platform/locale.h"
+#include "platform/windows.h"
+
+namespace tagwright {
+namespace {
+
+template <class T>
+T Next(std::deque<T>& script, T otherwise) {
+  if (script.empty()) return otherwise;
+  T value = script.front();
+  script.pop_front();
+  return value;
+}
+
+constexpr double kA4Width = 210 * kTwipsPerMillimetre;
+constexpr double kA4Height = 297 * kTwipsPerMillimetre;
+constexpr double kLetterWidth = 8.5 * kTwipsPerInch;
+constexpr double kLetterHeight = 11 * kTwipsPerInch;
+
+class SizedPicture : public Picture {
+ public:
+  SizedPicture(double width, double height) {
+    Width = width;
+    Height = height;
+  }
+};
+
+}  // namespace
+
+Answer ScriptedDialogs::MessageBox(const std::string& text, MessageButtons buttons,
+                                   MessageIcon icon, const std::string& title) {
+  messages.push_back({text, buttons, icon, title});
+  return Next(answers, Answer::kOk);
+}
+
+std::string ScriptedDialogs::InputBox(const std::string& prompt, const std::string&,
+                                      const std::string&) {
+  prompts.push_back(prompt);
+  return Next(inputs, std::string());
+}
+
+std::optional<std::string> ScriptedDialogs::OpenFile(const FileDialogRequest& request) {
+  requests.push_back(request);
+  return Next(files, std::optional<std::string>());
+}
+
+std::optional<std::string> ScriptedDialogs::SaveFile(const FileDialogRequest& request) {
+  requests.push_back(request);
+  return Next(files, std::optional<std::string>());
+}
+
+std::optional<std::int32_t> ScriptedDialogs::ChooseColor(std::int32_t) {
+  return Next(colors, std::optional<std::int32_t>());
+}
+
+FakePrinter::FakePrinter(std::string name, double pixels_per_inch)
+    : name_(std::move(name)), pixels_per_inch_(pixels_per_inch) {
+  SetPaperSize(9);
+}
+
+void FakePrinter::SetOrientation(int value) {
+  if (value != 1 && value != 2) RaiseFault(kBadValue);
+  orientation_ = value;
+}
+
+void FakePrinter::SetPaperSize(int value) {
+  if (value != 1 && value != 9) RaiseFault(kBadValue);
+  paper_ = value;
+  page_ = std::make_unique<RecordingSurface>(Width(), Height(), pixels_per_inch_);
+  page_->Scale().SetScaleMode(kMillimetres);
+}
+
+double FakePrinter::Width() const { return paper_ == 9 ? kA4Width : kLetterWidth; }
+double FakePrinter::Height() const { return paper_ == 9 ? kA4Height : kLetterHeight; }
+
+void FakePrinter::NewPage() {
+  FakePrinterList::Log().pages.push_back(std::move(page_->painted));
+  page_->painted.clear();
+}
+
+void FakePrinter::EndDoc() {
+  if (!page_->painted.empty()) NewPage();
+  ++FakePrinterList::Log().jobs;
+}
+
+void FakePrinter::KillDoc() {
+  page_->painted.clear();
+  ++FakePrinterList::Log().dropped;
+}
+
+FakePrinterLog& FakePrinterList::Log() {
+  static FakePrinterLog log;
+  return log;
+}
+
+std::unique_ptr<PrinterDevice> FakePrinterList::Open(const std::string& name) {
+  for (const std::string& known : names) {
+    if (known == name) return std::make_unique<FakePrinter>(name, pixels_per_inch);
+  }
+  RaiseFault(kPrinterFault);
+}
+
+TempFolder::TempFolder() {
+  std::string pattern = (std::filesystem::temp_directory_path() / "tagwright-test-XXXXXX").string();
+  if (!mkdtemp(pattern.data())) throw std::runtime_error("no temporary folder");
+  path_ = pattern;
+}
+
+TempFolder::~TempFolder() {
+  std::error_code ignored;  // a leftover folder is not worth a failing test
+  std::filesystem::remove_all(path_, ignored);
+}
+
+PicturePtr BlankPicture(double width, double height) {
+  return std::make_shared<SizedPicture>(width, height);
+}
+
+std::string TestDataFolder() { return TAGWRIGHT_TEST_DATA; }
+
+std::string SharedDataFolder() {
+  const std::string folder = TAGWRIGHT_SHARED_DATA;
+  return std::filesystem::is_directory(folder) ? folder : std::string();
+}
+
+void FreshProgram(const std::string& app_folder) {
+  UnloadAll();
+  ForgetAfterHandlers(nullptr);
+  SetFaultReporter({});
+  SetLocale({});
+  SetCodePage(1252);
+  SetFonts(nullptr);
+  FixToday(Date{2026, 3, 14});
+  ResetPrinter();
+  FakePrinterList::Log() = {};
+  ProgSettings = {};
+  SetExecutableFolder(app_folder);
+  AppFolder = app_folder + "/";
+  ResetDocumentState();
+  Load(frmMain);
+}
+
+ProgramTest::ProgramTest() {
+  SetDialogs(&dialogs);
+  SetPrinterList(&printers);
+  FreshProgram(folder.Path());
+}
+
+ProgramTest::~ProgramTest() {
+  UnloadAll();
+  ResetPrinter();
+  SetDialogs(nullptr);
+  SetPrinterList(nullptr);
+  SetExecutableFolder("");
+}
+
+void ProgramTest::ReadyBoard(double width_mm, double height_mm) {
+  frmMain.picBoard.SetWidth(width_mm * kTwipsPerMillimetre);
+  frmMain.picBoard.SetHeight(height_mm * kTwipsPerMillimetre);
+  frmMain.picBoard.SetScaleWidth(width_mm / ZoomFactor);
+  frmMain.picBoard.SetScaleHeight(height_mm / ZoomFactor);
+  DrawTarget = &frmMain.picBoard.Canvas();
+  BoardReady = -1;
+}
+
+RecordingSurface& ProgramTest::Board() {
+  return dynamic_cast<RecordingSurface&>(frmMain.picBoard.Canvas());
+}
+
+}  // namespace tagwright
+
+int main(int argc, char** argv) {
+  testing::InitGoogleTest(&argc, argv);
+  return RUN_ALL_TESTS();
+}
