@@ -32,12 +32,38 @@ function(tagwright_library name)
 endfunction()
 
 # tagwright_test(name SOURCES a_test.cpp DEPENDS document)
-# A GoogleTest program, with the shared test support, run without a display.
+# A GoogleTest program with the shared test support, run without a display. Each of its tests is one
+# of ctest's; names with Long_ are for the long run only.
 function(tagwright_test name)
   cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
   target_link_libraries(${name} PRIVATE ${ARG_DEPENDS} test_support GTest::gtest)
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
-  add_test(NAME ${name} COMMAND ${name})
-  set_tests_properties(${name} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen" TIMEOUT 600)
+  gtest_discover_tests(
+    ${name}
+    DISCOVERY_MODE PRE_TEST
+    DISCOVERY_TIMEOUT 60
+    PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen" TIMEOUT 600)
+endfunction()
+
+# tagwright_fuzz(name SOURCES a_fuzz.cpp DEPENDS document)
+# A libFuzzer program, part of the target fuzz_targets. Its seeds are the files that
+# tests/fuzz/seeds/<name> holds, if there are any.
+function(tagwright_fuzz name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES})
+  target_link_libraries(${name} PRIVATE ${ARG_DEPENDS} tagwright_flags)
+  target_link_options(${name} PRIVATE -fsanitize=fuzzer)
+  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/fuzz)
+  add_dependencies(fuzz_targets ${name})
+endfunction()
+
+# tagwright_benchmark(name SOURCES a_bench.cpp DEPENDS document)
+# A Google Benchmark program; the script bench runs every one.
+function(tagwright_benchmark name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES})
+  target_link_libraries(${name} PRIVATE ${ARG_DEPENDS} tagwright_flags benchmark::benchmark)
+  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY
+                                           ${PROJECT_BINARY_DIR}/benchmarks)
 endfunction()
