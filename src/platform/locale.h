@@ -21,14 +21,15 @@ Date AddDays(const Date& date, std::int64_t days);
 
 // What the program uses of LC_ALL, LC_NUMERIC, LC_MONETARY and LC_TIME. Texts are UTF-8.
 struct UserLocale {
-  std::string decimal = ".";            // decimal symbol
-  std::string group = ",";              // group separator
-  std::string currency = "$";           // currency symbol
-  std::string currency_positive = "¤n"; // "¤" stands for the symbol, "n" for the number
+  std::string decimal = ".";             // decimal symbol
+  std::string group = ",";               // group separator
+  std::string currency = "$";            // currency symbol
+  std::string currency_positive = "¤n";  // "¤" stands for the symbol, "n" for the number
   std::string currency_negative = "-¤n";
-  int currency_digits = 2;              // digits after the decimal symbol
-  std::string short_date = "M/d/yyyy";  // d, dd, M, MM, yyyy; everything else stands for itself
-  int code_page = 1252;                 // Windows code page of the language
+  int currency_digits = 2;  // digits after the decimal symbol
+  // d, dd, M, MM, yyyy; everything else stands for itself, in single quotes these letters too
+  std::string short_date = "M/d/yyyy";
+  int code_page = 1252;  // Windows code page of the language
   bool operator==(const UserLocale&) const = default;
 };
 
@@ -36,16 +37,20 @@ struct UserLocale {
 const UserLocale& Locale();
 void SetLocale(const UserLocale& locale);
 
-// Whether `text` is a number for the user: optional sign, group separators, decimal symbol,
-// exponent, currency symbol, parentheses for negative, blanks around. Empty text is not.
+// Whether `text` is a number for the user: digits with group separators (wherever between the
+// whole digits), decimal symbol and exponent; around them in any order blanks, the currency symbol
+// and one sign, which may follow the number or be parentheses for negative. Empty text is not, nor
+// is a value beyond a double. Where a blank of some kind groups digits, every kind of blank does.
 bool IsNumeric(std::string_view text);
 
 // The number of a text for which IsNumeric holds, otherwise nothing.
 std::optional<double> ParseNumber(std::string_view text);
 
 // `value` with exactly `decimals` digits (no group separators), halves away from zero, with the
-// user's decimal symbol: the picture "0", "0.0", "0.00". A negative value that rounds to zero has
-// no sign.
+// user's decimal symbol: the picture "0", "0.0", "0.00". Rounds the fifteen significant digits that
+// a double is sure to hold, so 2.675 is a half, and a 32-bit 3.175 (3.17499995...) is not. A
+// negative value that rounds to zero has no sign. Here and below a value that is not finite gives
+// "NaN", "Infinity" or "-Infinity", which read back as no number.
 std::string FormatFixed(double value, int decimals);
 
 // "Standard": two decimals with group separators.

@@ -44,6 +44,10 @@ int CompareIgnoringCase(std::string_view a, std::string_view b);
 // `text` with every occurrence of `from` replaced by `to`; an empty `from` changes nothing.
 std::string Replace(std::string_view text, std::string_view from, std::string_view to);
 
+// `text` with each U+0000 turned into a blank. Fields of paths go through it: other programs pad
+// them with zero bytes.
+std::string ZeroBytesAsBlanks(std::string_view text);
+
 // --- fixed text ---------------------------------------------------------------------------------
 
 // A text field of exactly N characters, blank padded: longer values are cut, shorter ones padded.
@@ -53,8 +57,8 @@ struct FixedText {
   std::array<char32_t, N> characters;
 
   FixedText() { characters.fill(U' '); }
-  FixedText(std::string_view text) { Assign(text); }       // NOLINT: meant as a conversion
-  FixedText(const std::string& text) { Assign(text); }     // NOLINT: meant as a conversion
+  FixedText(std::string_view text) { Assign(text); }               // NOLINT: meant as a conversion
+  FixedText(const std::string& text) { Assign(text); }             // NOLINT: meant as a conversion
   FixedText(const char* text) { Assign(std::string_view(text)); }  // NOLINT: as above
 
   // The whole field with its padding.
