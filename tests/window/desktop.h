@@ -1,0 +1,115 @@
+// A display of our own for tests that drive the real program with mouse and keyboard: an X server
+// in memory, a window manager, a session bus for spoken names. One per test process, started on
+// first use and gone with the process. Nothing here links against the program: it sees what a user
+// sees, and the files that the program leaves.
+#pragma once
+
+#include <sys/types.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace tagwright::window_test {
+
+// A place on the screen in pixels.
+struct Box {
+  int x = 0;
+  int y = 0;
+  int width = 0;
+  int height = 0;
+  bool operator==(const Box&) const = default;
+};
+
+constexpr int kScreenWidth = 1600;
+constexpr int kScreenHeight = 1000;
+
+// Output of a shell command, without its last newline. Throws when it fails and `must` is set.
+std::string Shell(const std::string& command, bool must = true);
+
+// Polls until `holds` is true; throws with `what` in the message after `seconds`.
+void WaitFor(const std::string& what, const std::function<bool()>& holds, double seconds = 15);
+
+// --- the program ---------------------------------------------------------------------------------
+
+// One run of the real executable, copied into a folder since all its files lie beside it.
+class Program {
+ public:
+  // Copies the executable into `folder` unless it lies there, starts it and waits for its main
+  // window. Variables come on top of a plain environment, as "LC_ALL=de_DE.UTF-8".
+  explicit Program(const std::string& folder, const std::vector<std::string>& variables = {});
+  ~Program();
+  Program(const Program&) = delete;
+  Program& operator=(const Program&) = delete;
+
+  pid_t Pid() const { return pid_; }
+  // Number of the main window.
+  const std::string& Window() const { return window_; }
+  std::string Title() const;
+  // The main window's place inside its frame, and the whole with its frame.
+  Box Client() const;
+  Box Frame() const;
+  bool Running() const;
+  // Waits for the end by itself; returns the exit code, or minus the signal that ended it.
+  int WaitForExit(double seconds = 15);
+  // Peak memory in kilobytes.
+  long PeakMemory() const;
+
+ private:
+  mutable pid_t pid_ = -1;
+  mutable int status_ = 0;
+  std::string window_;
+};
+
+// --- mouse and keyboard --------------------------------------------------------------------------
+
+void MoveMouse(int x, int y);
+// Button 1 left, 2 middle, 3 right.
+void Click(int x, int y, int button = 1);
+void Click(const Box& box);
+void Press(int button = 1);
+void Release(int button = 1);
+// Presses, moves in a few steps, releases.
+void Drag(int from_x, int from_y, int to_x, int to_y);
+// Keys by name, as "ctrl+s" or "Return".
+void Key(const std::string& keys);
+void Type(const std::string& text);
+
+// --- what is on the screen -----------------------------------------------------------------------
+
+// A control as assistive tools see it.
+struct Spoken {
+  std::string name;
+  std::string role;
+  std::string text;  // of fields and combos
+  Box box;           // on the screen
+  bool enabled = false;
+  bool checked = false;
+  bool showing = false;
+};
+
+// Every control of the program, windows and menus included, in the order of the tree.
+std::vector<Spoken> Everything(const Program& program);
+// The first shown control with this spoken name (and role unless empty); waits for it.
+Spoken Find(const Program& program, const std::string& name, const std::string& role = "");
+// Whether one is shown now.
+bool Shows(const Program& program, const std::string& name, const std::string& role = "");
+
+// Titles of all shown windows of the screen.
+std::vector<std::string> WindowTitles();
+// Waits until a window with this in its title has the keyboard.
+void WaitForWindow(const std::string& title_part);
+
+// Opens a menu and clicks through its entries: {"File", "Open"}. Names are without marks.
+void ChooseMenu(const Program& program, const std::vector<std::string>& path);
+
+// Saves a part of the screen as PNG.
+void Screenshot(const std::string& file, const Box& part = {0, 0, kScreenWidth, kScreenHeight});
+
+// --- files ---------------------------------------------------------------------------------------
+
+// A new empty folder under the system's temporary one, removed at the end of the process.
+std::string FreshFolder();
+std::string Contents(const std::string& file);
+
+}  // namespace tagwright::window_test
