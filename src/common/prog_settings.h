@@ -19,14 +19,14 @@ inline const std::string ProductTitle = "Tagwright Designer Gold";
 // here are those of a fresh record. Booleans are 0 or -1.
 struct SettingsRecord {
   FixedText<50> DefaultFontName = "Arial";
-  double DefaultFontSize = 11.0;            // points
-  std::int16_t NumericBarcodeType = 9;      // format for data that is all digits
-  std::int16_t AlphaBarcodeType = 7;        // format for other data
-  double BarcodeFontSize = 6.0;             // points, characters under a barcode
-  std::int16_t PrintOffsetX = 0;            // millimetres
+  double DefaultFontSize = 11.0;        // points
+  std::int16_t NumericBarcodeType = 9;  // format for data that is all digits
+  std::int16_t AlphaBarcodeType = 7;    // format for other data
+  double BarcodeFontSize = 6.0;         // points, characters under a barcode
+  std::int16_t PrintOffsetX = 0;        // millimetres
   std::int16_t PrintOffsetY = 0;
   std::int16_t ShowRulers = -1;
-  std::int16_t MetricUnits = -1;            // -1 millimetres, 0 inches
+  std::int16_t MetricUnits = -1;  // -1 millimetres, 0 inches
   std::int16_t ShowCrossHairs = -1;
   FixedText<150> RecentFile1;
   FixedText<150> RecentFile2;
@@ -39,7 +39,7 @@ struct SettingsRecord {
   double WindowTop = 3900.0;
   double WindowWidth = 0.0;
   double WindowHeight = 0.0;
-  double MagneticZone = 2.0;                 // millimetres, 0.5 to 3.5
+  double MagneticZone = 2.0;                  // millimetres, 0.5 to 3.5
   std::array<unsigned char, 70> Reserved2{};  // not interpreted; zeros when fresh
 
   SettingsRecord() { Reserved1.fill(' '); }

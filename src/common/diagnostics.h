@@ -1,0 +1,44 @@
+// Faults shown to the person at the machine, where that person has asked for it: with a file named
+// tracemark.flg in the application folder, routines that trace say which fault they passed over.
+#pragma once
+
+#include <utility>
+
+#include "platform/fault.h"
+
+namespace tagwright {
+
+// The marker tail: shows the fault's number, " - " and its description if AppFolder holds the
+// marker file. Changes nothing else.
+void MarkerTail(const Fault& fault);
+
+// The marker tail of the barcode engine, which forms the path from the program's own place. The
+// file found is the same.
+void EngineMarkerTail(const Fault& fault);
+
+// Runs `statement`; a fault in it ends it, goes through the marker tail and is passed over. Returns
+// whether it ran to its end. What the statement would have set keeps its old value.
+template <class Statement>
+bool Traced(Statement&& statement) {
+  try {
+    std::forward<Statement>(statement)();
+    return true;
+  } catch (const Fault& fault) {
+    MarkerTail(fault);
+    return false;
+  }
+}
+
+// The same for the routines of the barcode engine.
+template <class Statement>
+bool EngineTraced(Statement&& statement) {
+  try {
+    std::forward<Statement>(statement)();
+    return true;
+  } catch (const Fault& fault) {
+    EngineMarkerTail(fault);
+    return false;
+  }
+}
+
+}  // namespace tagwright
