@@ -1,0 +1,60 @@
+#include "editing/track_status.h"
+
+#include <string>
+
+#include "common/public_functions.h"
+#include "document/objects.h"
+#include "forms/frmMain.h"
+#include "platform/locale.h"
+
+namespace tagwright {
+namespace {
+
+constexpr int kCustomPointer = 99;
+
+void PlaceCrossHairs(double x, double y) {
+  LineControl& across = frmMain.HairY;
+  LineControl& down = frmMain.HairX;
+  down.SetX1(x);
+  down.SetX2(x);
+  down.SetY1(0);
+  down.SetY2(frmMain.picBoard.ScaleHeight());
+  across.SetX1(0);
+  across.SetX2(frmMain.picBoard.ScaleWidth());
+  across.SetY1(y);
+  across.SetY2(y);
+}
+
+// The rounding is one of board units, before the conversion: in inches the figure moves in steps
+// of 0.1 / 25.4.
+std::string ShownPlace(double board_units) {
+  return FormatFixed(ToNumber(FormatFixed(board_units, 1)) / UnitScale, 2);
+}
+
+void ShowSelectionPlace() {
+  if (SelectedObject < 0) return;
+  const Label& hold = HoldAt(SelectedObject);
+  frmMain.txtDSize(0).SetText(FormatFixed((hold.Left() - BoardOriginX) / UnitScale, 2));
+  frmMain.txtDSize(1).SetText(FormatFixed((hold.Top() - BoardOriginY) / UnitScale, 2));
+}
+
+}  // namespace
+
+const char* UnitName() { return UnitScale == 1.0 ? "mm" : "in"; }
+
+void TrackStatus(const Control& control, double X, double Y) {
+  const PictureBox& board = frmMain.picBoard;
+  const double x = control.Left() + board.ScaleX(X, kTwips, kUserScale);
+  const double y = control.Top() + board.ScaleY(Y, kTwips, kUserScale);
+  if (frmMain.mnuOptXHair.Checked()) PlaceCrossHairs(x, y);
+  frmMain.sB1.SetPanelText(
+      1, "X:" + ShownPlace(x - BoardOriginX) + " - Y:" + ShownPlace(y - BoardOriginY) + UnitName());
+  ShowSelectionPlace();
+}
+
+void lblHold_MouseMove(int Index, int /*Button*/, int /*Shift*/, double X, double Y) {
+  if (frmMain.MousePointer() != kCustomPointer) frmMain.SetMousePointer(CursorShape);
+  TrackStatus(frmMain.lblHold(Index), X, Y);
+}
+
+}  // namespace tagwright

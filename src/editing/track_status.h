@@ -1,0 +1,20 @@
+// What follows the pointer while it is over an object: cross hairs, status bar, position fields.
+#pragma once
+
+#include "platform/controls.h"
+
+namespace tagwright {
+
+// Follows the pointer over `control`, a hit area or handle of the board; X and Y are twips from the
+// control's corner. With mnuOptXHair checked HairX and HairY go through the pointer; panel 1 of sB1
+// shows its place on the label in the user's unit, rounded to a tenth of a board unit before it is
+// converted; with an object selected txtDSize 0 and 1 show where its hit area stands.
+void TrackStatus(const Control& control, double X, double Y);
+
+// Puts the board's pointer back and follows the pointer.
+void lblHold_MouseMove(int Index, int Button, int Shift, double X, double Y);
+
+// "mm" or "in", as lengths are shown.
+const char* UnitName();
+
+}  // namespace tagwright
