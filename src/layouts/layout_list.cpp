@@ -1,0 +1,59 @@
+#include "layouts/layout_list.h"
+
+#include "document/objects.h"
+#include "document/redraw.h"
+#include "forms/frmMain.h"
+#include "layouts/label_layouts.h"
+#include "platform/fault.h"
+#include "platform/locale.h"
+
+namespace tagwright {
+namespace {
+
+const LabelLayout& ChosenLayout() {
+  const int index = frmMain.cboLabelLayout.ListIndex();
+  if (index < 0 || index > LabelLayoutTop) RaiseFault(kOutOfBounds);
+  return LabelLayouts[static_cast<std::size_t>(index)];
+}
+
+void ShowCount(int box, std::int16_t count) {
+  frmMain.txtLabLayout(box).SetText(FormatFixed(count, 0));
+}
+
+// A 32-bit length is widened before it is divided and rounded: 3.175 shows as 3.17.
+void ShowLength(int box, float millimetres) {
+  const double length = static_cast<double>(millimetres) / UnitScale;
+  frmMain.txtLabLayout(box).SetText(FormatFixed(length, 2));
+}
+
+}  // namespace
+
+void FillLayoutList() {
+  ComboBox& list = frmMain.cboLabelLayout;
+  list.Clear();
+  for (int i = 0; i <= LabelLayoutTop; ++i) {
+    const LabelLayout& layout = LabelLayouts[static_cast<std::size_t>(i)];
+    list.AddItem(layout.Title.Trimmed());
+    if (layout.IsDefault != kFalse) list.SetListIndex(i);
+  }
+  if (list.ListIndex() == -1) list.SetListIndex(0);
+}
+
+void ShowLayout() {
+  const LabelLayout layout = ChosenLayout();
+  ShowCount(0, layout.NoAcross);
+  ShowCount(1, layout.NoDown);
+  ShowLength(2, layout.LabelWidth);
+  ShowLength(3, layout.LabelHeight);
+  ShowLength(4, layout.LeftMargin);
+  ShowLength(5, layout.TopMargin);
+  ShowLength(6, layout.HorizGutter);
+  ShowLength(7, layout.VertGutter);
+  LabelWidth = layout.LabelWidth;
+  LabelHeight = layout.LabelHeight;
+  RedrawBoard();
+}
+
+void cboLabelLayout_Click() { CarryOn(ShowLayout); }
+
+}  // namespace tagwright

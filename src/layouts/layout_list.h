@@ -1,0 +1,17 @@
+// The main window's list of layouts and the numbers of the chosen one.
+#pragma once
+
+namespace tagwright {
+
+// Fills cboLabelLayout with the titles of all layouts and chooses the default one, the last of
+// several, else the first. Every choice raises the list's Click, and so changes the label's size.
+void FillLayoutList();
+
+// Shows the numbers of the layout chosen in cboLabelLayout in txtLabLayout(0) to (7), in the user's
+// unit, makes its label size the document's (LabelWidth, LabelHeight, millimetres) and redraws.
+// Objects stay where they are. Faults 9 where no loaded layout is chosen, before anything changes.
+void ShowLayout();
+
+void cboLabelLayout_Click();
+
+}  // namespace tagwright
