@@ -1,0 +1,147 @@
+#include "document/objects.h"
+
+#include <algorithm>
+#include <limits>
+#include <type_traits>
+
+#include "document/project_file.h"
+#include "document/redraw.h"
+#include "forms/frmMain.h"
+#include "platform/fault.h"
+
+namespace tagwright {
+namespace {
+
+// Undo, clipboard and stacking order are plain copies of records.
+static_assert(std::is_trivially_copyable_v<ObjectRecord>);
+
+constexpr std::size_t kFieldSlots = 101;
+constexpr std::size_t kSelectionSlots = 257;
+constexpr std::size_t kRecentSlots = 7;
+
+void ResetDocument() {
+  Objects.clear();
+  ObjectUB = -1;
+  ProjectPath.clear();
+  DirtyFlag = kFalse;
+  LabelWidth = 0;
+  LabelHeight = 0;
+  LoadingProject = false;
+}
+
+void ResetView() {
+  ZoomFactor = 1.0;
+  BoardOriginX = 0;
+  BoardOriginY = 0;
+  MetricUnits = kTrue;
+  UnitScale = 1.0;
+  RulerScale = 1.0;
+  HairPositionX = 0;
+  HairPositionY = 0;
+  PendingScrollX = -1;
+  PendingScrollY = -1;
+}
+
+void ResetRedraw() {
+  RedrawSkip = -1;
+  SuspendRedraw = 0;
+  BoardReady = 0;
+  RedrawCount = 0;
+  DrawTarget = nullptr;
+  PreviewMode = false;
+  PreviewPaperWidth = 0;
+  PrintOffsetX = 0;
+  PrintOffsetY = 0;
+}
+
+void ResetSelection() {
+  SelectedObject = -1;
+  SelectedList.assign(kSelectionSlots, 0);
+  SelectedUpper = -1;
+  PanelLoading = false;
+  CurrentTool = 0;
+  CursorShape = 0;
+}
+
+void ResetSerial() {
+  SerialPrefix.clear();
+  SerialValue = 1001;
+  SerialIncrement = 1;
+  SerialBarcodeType = 6;
+  SerialBarcodeWidth = 35.0;
+  SerialBarcodeHeight = 15.0;
+  SerialPrintText = kTrue;
+  SerialUsed = false;
+}
+
+void ResetDataSource() {
+  FieldValues.assign(kFieldSlots, {});
+  FieldUB = -1;
+  DatabasePassword.clear();
+  CurrentTable.clear();
+  RecordCount = -1;
+}
+
+void ResetRecentFiles() {
+  RecentFiles.assign(kRecentSlots, {});
+  RecentUB = -1;
+}
+
+void TakePlaceOf(Label& hold, const Label& successor) {
+  hold.Move(successor.Left(), successor.Top());
+  hold.SetCaption("");
+}
+
+}  // namespace
+
+void ClearObject(int index) { ObjectAt(index) = ObjectRecord{}; }
+
+std::string PathOf(const ObjectRecord& record) {
+  std::string path = record.Text.Padded();
+  std::replace(path.begin(), path.end(), '\0', ' ');
+  return Trim(path);
+}
+
+ObjectRecord& ObjectAt(int index) {
+  if (index < 0 || static_cast<std::size_t>(index) >= Objects.size()) RaiseFault(kOutOfBounds);
+  return Objects[static_cast<std::size_t>(index)];
+}
+
+void GrowObjects() {
+  if (ObjectUB == std::numeric_limits<std::int16_t>::max()) RaiseFault(kOverflow);
+  ++ObjectUB;
+  // A slot that is there already keeps what it held, so that a trailer saved again is the same.
+  const auto count = static_cast<std::size_t>(ObjectUB + 1);
+  if (Objects.size() < count) Objects.resize(count);
+}
+
+void RemoveRecord(int index) {
+  if (ObjectUB < 0) return;
+  for (int i = index; i < ObjectUB; ++i) {
+    ObjectAt(i) = ObjectAt(i + 1);
+    TakePlaceOf(HoldAt(i), HoldAt(i + 1));
+  }
+  HoldAt(ObjectUB).SetVisible(false);
+  --ObjectUB;
+}
+
+Label& HoldAt(int index) {
+  if (frmMain.lblHold.Exists(index)) return frmMain.lblHold(index);
+  Label& hold = frmMain.lblHold.Load(index);
+  hold.SetVisible(true);
+  hold.SetBackStyle(0);
+  hold.SetCaption("");
+  return hold;
+}
+
+void ResetDocumentState() {
+  ResetDocument();
+  ResetView();
+  ResetRedraw();
+  ResetSelection();
+  ResetSerial();
+  ResetDataSource();
+  ResetRecentFiles();
+}
+
+}  // namespace tagwright

@@ -29,9 +29,9 @@ enum Kind : std::int16_t {
   kRoundedRectangle = 12,
   kEllipse = 13,
   kDataField = 20,
-  kSourceTrailer = -1,   // only in the project file and while saving
-  kSerialTrailer = -2,   // likewise
-  kDeleteMark = -100,    // for the length of one delete operation
+  kSourceTrailer = -1,  // only in the project file and while saving
+  kSerialTrailer = -2,  // likewise
+  kDeleteMark = -100,   // for the length of one delete operation
 };
 
 // Whether `kind` is one of the shapes, lines included: above 9 and below 20.
@@ -70,8 +70,8 @@ struct ObjectRecord {
 inline std::vector<ObjectRecord> Objects;
 inline std::int16_t ObjectUB = -1;
 
-inline double ZoomFactor = 1.0;    // 1.0 is 100 %; replaced during a print or preview redraw
-inline double BoardOriginX = 0;    // the label's corner on the drawing target, its millimetres
+inline double ZoomFactor = 1.0;  // 1.0 is 100 %; replaced during a print or preview redraw
+inline double BoardOriginX = 0;  // the label's corner on the drawing target, its millimetres
 inline double BoardOriginY = 0;
 inline std::int16_t SelectedObject = -1;  // -1 none
 inline std::int16_t RedrawSkip = -1;      // object that the next redraw leaves out, -1 none
@@ -90,12 +90,22 @@ inline double RulerScale = 1.0;           // millimetres between ruler ticks: 1.
 inline Surface* DrawTarget = nullptr;     // what all drawing goes to
 inline double LabelWidth = 0;             // of one label
 inline double LabelHeight = 0;
-inline std::int16_t PrintOffsetX = 0;     // added to the origin of every printed label
+inline std::int16_t PrintOffsetX = 0;  // added to the origin of every printed label
 inline std::int16_t PrintOffsetY = 0;
+
+// Where the cross hairs stand, millimetres from the label's corner: whoever moves HairX and HairY
+// stores it here, so that a redraw can carry them along with the label.
+inline double HairPositionX = 0;
+inline double HairPositionY = 0;
+
+// Scrolling that tool placement still has to do, as a fraction; -1 none. Every redraw of the screen
+// drops what is pending.
+inline double PendingScrollX = -1;
+inline double PendingScrollY = -1;
 
 // The columns of the current data row (their names while designing).
 inline std::vector<std::string> FieldValues = std::vector<std::string>(101);
-inline std::int16_t FieldUB = -1;         // highest used column, -1 no data source
+inline std::int16_t FieldUB = -1;  // highest used column, -1 no data source
 
 // Serial numbers.
 inline std::string SerialPrefix;
@@ -108,14 +118,17 @@ inline Flag SerialPrintText = kTrue;
 
 // Selection (its routines live in editing).
 inline std::vector<std::int16_t> SelectedList = std::vector<std::int16_t>(257);
-inline std::int16_t SelectedUpper = -1;   // upper bound in use, -1 no group
-inline bool PanelLoading = false;         // a panel is being filled: its events write nothing back
-inline bool LoadingProject = false;       // a project is being loaded: no dialogs open
+inline std::int16_t SelectedUpper = -1;  // upper bound in use, -1 no group
+inline bool PanelLoading = false;        // a panel is being filled: its events write nothing back
+inline bool LoadingProject = false;      // a project is being loaded: no dialogs open
 
 // --- operations ---------------------------------------------------------------------------------
 
 // Gives record `index` its fresh state: zero numbers, blank text. Faults 9 outside the array.
 void ClearObject(int index);
+
+// The path in `Text`: trimmed, with zero characters counting as blanks.
+std::string PathOf(const ObjectRecord& record);
 
 // The record at `index`. Faults 9 outside the allocated array (which may exceed ObjectUB).
 ObjectRecord& ObjectAt(int index);
@@ -132,7 +145,8 @@ void RemoveRecord(int index);
 // caption.
 Label& HoldAt(int index);
 
-// All of the above back to program start; the form is not touched.
+// The whole state of this folder (that of project_file.h and redraw.h too) back to program start.
+// Neither the form nor the barcode painter's slot is touched.
 void ResetDocumentState();
 
 }  // namespace tagwright

@@ -20,6 +20,10 @@ void RedrawBoard(const double& OffsetX, const double& OffsetY, const bool& Outpu
 // The screen's redraw: offsets are ignored there.
 inline void RedrawBoard() { RedrawBoard(0, 0, false); }
 
+// Width in twips of the picture that a preview is painted on; its ratio to the printer's page is
+// the ZoomFactor of a redraw in PreviewMode. Set by whoever sets PreviewMode.
+inline double PreviewPaperWidth = 0;
+
 // Paints one barcode; filled by the barcode engine (see shell/wiring.cpp), empty until then.
 // Data, format, x, y, height, width (target units), print characters, font size, font name.
 using BarcodePainter =
@@ -27,7 +31,11 @@ using BarcodePainter =
                        double width, bool print_chars, double font_size, std::string font_name)>;
 inline BarcodePainter PaintBarcode;
 
-// Paints one text or data field object; see object_text.cpp.
+// Paints the text or data field object `Index` line by line on DrawTarget, whose font and colour
+// are set already. With `Output` true the merge tokens of a text and the value of a data field are
+// resolved (SerialUsed, ForeColor of the target and a barcode may follow); on the screen the text
+// shows as typed, a data field with a marker of its format behind it. Faults are traced and passed
+// over.
 void PaintObjectText(int Index, bool Output);
 
 // --- overlays of the board ----------------------------------------------------------------------
