@@ -49,7 +49,10 @@ void DesignTools(FrmMain& f) {
 
 void DesignBoard(FrmMain& f) {
   f.picBoard.SetBackColor(Rgb(160, 164, 170));
-  for (const auto& [index, hold] : f.lblHold) hold->SetVisible(false);
+  for (const auto& [index, hold] : f.lblHold) {
+    hold->SetVisible(false);
+    hold->SetBackStyle(0);  // a hit area never hides the label under it
+  }
   for (const auto& [index, handle] : f.lblHandle) {
     handle->SetWidth(kHandleSize);
     handle->SetHeight(kHandleSize);
