@@ -31,6 +31,10 @@ inline std::int16_t RecentUB = -1;
 // copies the list to ProgSettings.
 void AddRecentFile(const std::string& Path);
 
+// Shows mnuFileBar4 and one entry mnuFileOld(i) per slot whose file exists, captioned by its trimmed
+// path in lower case. Start-up calls it alone: the settings keep their gaps until the list changes.
+void ShowRecentFiles();
+
 // --- state of the data source that a project carries ---
 inline std::string DatabasePassword;  // plain; blank for none
 inline std::string CurrentTable;
