@@ -80,6 +80,7 @@ void ResetDataSource() {
   DatabasePassword.clear();
   CurrentTable.clear();
   RecordCount = -1;
+  SourceDatabase.reset();
 }
 
 void ResetRecentFiles() {

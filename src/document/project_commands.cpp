@@ -1,0 +1,92 @@
+#include <string>
+
+#include "common/prog_settings.h"
+#include "document/project_file.h"
+#include "document/redraw.h"
+#include "forms/frmMain.h"
+#include "platform/dialogs.h"
+#include "platform/fault.h"
+#include "platform/files.h"
+
+namespace tagwright {
+namespace {
+
+// Returns false when the user cancels. A save that is cancelled in its dialog does not count.
+bool MayLeaveLabel() {
+  if (!DirtyFlag) return true;
+  const Answer answer = MessageBox("Do you want to save the changes you have made to this label?",
+                                   MessageButtons::kYesNoCancel, MessageIcon::kQuestion);
+  if (answer == Answer::kYes) SaveProject(kFalse);
+  return answer != Answer::kCancel;
+}
+
+void HideHitAreas() {
+  for (const auto& [index, hold] : frmMain.lblHold) hold->SetVisible(false);
+}
+
+void EmptyDocument() {
+  ObjectUB = -1;
+  RedrawSkip = -1;
+  frmMain.mnuUndo.SetEnabled(false);
+}
+
+void EmptyPanels() {
+  frmMain.lblGraphicFName.SetCaption("");
+  frmMain.lblGraphicX.SetCaption("");
+  frmMain.lblGraphicY.SetCaption("");
+  frmMain.txtBCodeData.SetText("");
+  frmMain.txtTool.SetText("");
+}
+
+void ForgetSource() {
+  frmMain.lblFileName.SetCaption("");
+  ProjectPath.clear();
+  CurrentTable.clear();
+  DatabasePassword.clear();
+  RecordCount = -1;
+}
+
+// Returns false when the user cancels.
+bool AskForProject() {
+  CommonDialog& dialog = frmMain.cd1;
+  dialog.FileName.clear();
+  dialog.Filter = kProjectFilter;
+  dialog.CancelError = true;
+  return CarryOn([&] { dialog.ShowOpen(); }) && !dialog.FileName.empty();
+}
+
+}  // namespace
+
+// The serial settings are kept.
+void mnuFileNew_Click() {
+  if (!MayLeaveLabel()) return;
+  HideHitAreas();
+  frmMain.shpBox.SetVisible(false);
+  EmptyDocument();
+  RedrawBoard();
+  HideHandles();
+  EmptyPanels();
+  DirtyFlag = kFalse;
+  ForgetSource();
+  frmMain.cmdTools(0).Press();
+  frmMain.mnuFileSaveAs.SetEnabled(false);
+  frmMain.SetCaption(ProductTitle + " [untitled]");
+}
+
+void mnuFileOpen_Click() {
+  if (!MayLeaveLabel() || !AskForProject()) return;
+  LoadProject(frmMain.cd1.FileName);
+  DirtyFlag = kFalse;
+}
+
+void mnuFileSave_Click() { SaveProject(kFalse); }
+
+void mnuFileSaveAs_Click() { SaveProject(kTrue); }
+
+// Asks nothing about unsaved changes.
+void mnuFileOld_Click(int Index) {
+  const std::string path = frmMain.mnuFileOld(Index).Caption();
+  if (FileExists(path)) LoadProject(path);
+}
+
+}  // namespace tagwright

@@ -1,0 +1,217 @@
+#include <algorithm>
+#include <string>
+
+#include "common/prog_settings.h"
+#include "common/public_functions.h"
+#include "document/project_file.h"
+#include "document/redraw.h"
+#include "forms/frmMain.h"
+#include "platform/dialogs.h"
+#include "platform/fault.h"
+#include "platform/files.h"
+#include "platform/text.h"
+
+namespace tagwright {
+namespace {
+
+// --- records ------------------------------------------------------------------------------------
+
+void DropSelection() {
+  SelectedObject = -1;
+  SelectedUpper = -1;
+  HideHandles();
+}
+
+// Only the file's length tells how many records there are; a remainder counts from half a record.
+void RecreateObjects(const std::string& path) {
+  CarryOn([&] {
+    const auto length = static_cast<double>(FileLength(path));
+    ObjectUB = ToInt16(length / kProjectRecordSize - 1);
+  });
+  Objects = std::vector<ObjectRecord>(static_cast<std::size_t>(ObjectUB + 1));
+}
+
+// The open call takes the length as a 16-bit record length: a file of 32,768 bytes or more does not
+// open. Faults 6 for it.
+std::string ReadWhole(const std::string& path) {
+  ToInt16(static_cast<double>(FileLength(path)));
+  return ReadFile(path);
+}
+
+// A file that does not open leaves blank records.
+void ReadRecords(const std::string& path) {
+  CarryOn([&] {
+    const std::string bytes = ReadWhole(path);
+    std::string_view rest = bytes;
+    for (ObjectRecord& record : Objects) {
+      record = ProjectRecordFromBytes(rest.substr(0, kProjectRecordSize));
+      rest.remove_prefix(std::min<std::size_t>(rest.size(), kProjectRecordSize));
+    }
+  });
+}
+
+bool LastIs(Kind kind) { return ObjectUB >= 0 && ObjectAt(ObjectUB).ObjType == kind; }
+
+// A redraw under way may have dropped a record already.
+void DropLast() {
+  if (ObjectUB >= 0) --ObjectUB;
+}
+
+// --- data source --------------------------------------------------------------------------------
+
+bool GoOnWithout(const std::string& data_file) {
+  return MessageBox("The data file " + data_file +
+                        " referenced in this project does not exist\r\n" +
+                        "Continue loading anyway?",
+                    MessageButtons::kYesNo, MessageIcon::kQuestion) == Answer::kYes;
+}
+
+void ShowSourceFields(bool database) {
+  frmMain.cboRSet.SetVisible(database);
+  frmMain.lblFName(1).SetVisible(database);
+  frmMain.chkFirstRow.SetVisible(!database);
+  frmMain.chkQuote.SetVisible(!database);
+}
+
+// A database that does not open leaves the list of tables empty.
+void ListTables(const std::string& path) {
+  frmMain.cboRSet.Clear();
+  CarryOn([&] {
+    SourceDatabase = OpenDatabase(path, DatabasePassword.empty() ? "" : ";PWD=" + DatabasePassword);
+    for (const std::string& table : SourceDatabase->TableNames()) frmMain.cboRSet.AddItem(table);
+  });
+}
+
+void PrepareSource(bool database, const std::string& path) {
+  if (!database) {
+    ShowSourceFields(false);
+  } else if (!path.empty()) {
+    ListTables(path);
+    ShowSourceFields(true);
+  }
+}
+
+void ChooseTable(int row) {
+  if (row < 0) return;
+  CarryOn([&] { frmMain.cboRSet.SetListIndex(row); });
+  CurrentTable = frmMain.cboRSet.Text();
+}
+
+// Returns false when the user would rather not load a project without its data.
+bool TakeSourceTrailer() {
+  if (!LastIs(kSourceTrailer)) return true;
+  const ObjectRecord trailer = ObjectAt(ObjectUB);
+  CarryOn([&] { frmMain.cboLabelLayout.SetListIndex(trailer.ForeColor); });
+  const std::string path = PathOf(trailer);
+  if (!path.empty() && !FileExists(path) && !GoOnWithout(path)) {
+    ObjectUB = -1;
+    return false;
+  }
+  frmMain.lblFileName.SetCaption(path);
+  DatabasePassword = trailer.FontName.Trimmed();
+  PrepareSource(trailer.Param == 0, path);
+  CarryOn([&] { frmMain.cboImportType.SetListIndex(trailer.Param); });
+  ChooseTable(trailer.FillColor);
+  DropLast();
+  return true;
+}
+
+// --- serial numbers -----------------------------------------------------------------------------
+
+int Digit(const std::string& text) { return static_cast<int>(ToNumber(text)); }
+
+void TakeCheckBoxes(const std::string& digits) {
+  const std::size_t length = Length(digits);
+  CarryOn([&] { frmMain.chkFirstRow.SetValue(Digit(Left(digits, 1))); });
+  CarryOn([&] { frmMain.chkQuote.SetValue(Digit(Mid(digits, length == 0 ? 0 : length - 1, 1))); });
+}
+
+void TakeSerialTrailer() {
+  if (!LastIs(kSerialTrailer)) return;
+  const ObjectRecord trailer = ObjectAt(ObjectUB);
+  SerialPrefix = trailer.Text.Trimmed();
+  SerialValue = trailer.Param;
+  CarryOn([&] { SerialIncrement = ToInt16(trailer.FontSize); });
+  SerialBarcodeHeight = trailer.FillColor;
+  SerialBarcodeWidth = trailer.ForeColor;
+  SerialPrintText = trailer.Bold;
+  CarryOn([&] { SerialBarcodeType = ToInt16(trailer.Top); });
+  TakeCheckBoxes(trailer.FontName.Trimmed());
+  DropLast();
+}
+
+// --- hit areas ----------------------------------------------------------------------------------
+
+// A caption stands on a hit area only while it is measured.
+void FitToText(Label& hold, const ObjectRecord& object) {
+  hold.SetAutoSize(true);
+  hold.SetFontName(object.FontName.Trimmed());
+  CarryOn([&] { hold.SetFontSize(object.FontSize); });
+  hold.SetFontBold(object.Bold != kFalse);
+  if (object.ObjType == kText) hold.SetFontItalic(object.Italic != kFalse);
+  hold.SetCaption(object.Text.Trimmed());
+  hold.SetAutoSize(false);
+  hold.SetCaption("");
+}
+
+void PlaceHold(int index) {
+  const ObjectRecord& object = ObjectAt(index);
+  Label& hold = HoldAt(index);
+  hold.SetVisible(true);
+  hold.Move(object.Left + BoardOriginX, object.Top + BoardOriginY);
+  if (object.ObjType == kText || object.ObjType == kDataField) {
+    FitToText(hold, object);
+    return;
+  }
+  CarryOn([&] { hold.SetWidth(object.Width); });
+  CarryOn([&] { hold.SetHeight(object.Height); });
+}
+
+void PlaceHolds() {
+  for (int i = 0; i <= ObjectUB; ++i) PlaceHold(i);
+}
+
+// --- pictures that are gone ---------------------------------------------------------------------
+
+bool IsMissingPicture(int index) {
+  return ObjectAt(index).ObjType == kPicture && !FileExists(PathOf(ObjectAt(index)));
+}
+
+void RemovePicture(int index) {
+  MessageBox("The file " + PathOf(ObjectAt(index)) +
+             " referenced in this project does not exist and will be removed");
+  SelectedObject = static_cast<std::int16_t>(index);
+  RemoveRecord(index);
+  SelectedObject = -1;
+}
+
+void RemoveMissingPictures() {
+  for (int i = 0; i <= ObjectUB;) {
+    if (IsMissingPicture(i)) {
+      RemovePicture(i);
+    } else {
+      ++i;
+    }
+  }
+}
+
+}  // namespace
+
+void LoadProject(const std::string& Path) {
+  const std::string path = Path;  // the caller's text may change on the way
+  frmMain.SetCaption(ProductTitle + " [" + FileBaseName(path) + "]");
+  ProjectPath = path;
+  DropSelection();
+  RecreateObjects(path);
+  AddRecentFile(path);
+  ReadRecords(path);
+  LoadingProject = true;
+  if (!TakeSourceTrailer()) return;  // the guard stays, and the window as it is
+  TakeSerialTrailer();
+  LoadingProject = false;
+  PlaceHolds();
+  RemoveMissingPictures();
+  RedrawBoard();
+}
+
+}  // namespace tagwright

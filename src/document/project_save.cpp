@@ -1,0 +1,85 @@
+#include <string>
+
+#include "common/prog_settings.h"
+#include "common/public_functions.h"
+#include "document/project_file.h"
+#include "forms/frmMain.h"
+#include "platform/fault.h"
+#include "platform/files.h"
+
+namespace tagwright {
+namespace {
+
+// Returns false when the user cancels or names nothing.
+bool AskForName() {
+  CommonDialog& dialog = frmMain.cd1;
+  dialog.FileName.clear();
+  dialog.Filter = kProjectFilter;
+  dialog.DefaultExt = ".twp";
+  dialog.CancelError = true;
+  CarryOn([&] { dialog.ShowSave(); });
+  if (dialog.FileName.empty()) return false;
+  ProjectPath = dialog.FileName;
+  frmMain.SetCaption(ProductTitle + " [" + ProjectPath + "]");
+  return true;
+}
+
+// What does not fit its field leaves there what the slot held.
+void FillSerialTrailer(ObjectRecord& trailer) {
+  trailer.ObjType = kSerialTrailer;
+  trailer.Text = SerialPrefix;
+  CarryOn([&] { trailer.Param = ToInt16(SerialValue); });
+  trailer.FontSize = SerialIncrement;
+  CarryOn([&] { trailer.FillColor = ToInt32(SerialBarcodeHeight); });
+  CarryOn([&] { trailer.ForeColor = ToInt32(SerialBarcodeWidth); });
+  trailer.Bold = SerialPrintText;
+  trailer.Top = SerialBarcodeType;
+  trailer.FontName =
+      std::to_string(frmMain.chkFirstRow.Value()) + std::to_string(frmMain.chkQuote.Value());
+}
+
+void FillSourceTrailer(ObjectRecord& trailer) {
+  trailer.ObjType = kSourceTrailer;
+  trailer.Text = frmMain.lblFileName.Caption();
+  CarryOn([&] { trailer.Param = ToInt16(frmMain.cboImportType.ListIndex()); });
+  trailer.FillColor = frmMain.cboRSet.ListIndex();
+  trailer.FontName = DatabasePassword;
+  trailer.ForeColor = frmMain.cboLabelLayout.ListIndex();
+}
+
+void AppendTrailer(void (*fill)(ObjectRecord&)) {
+  GrowObjects();
+  fill(ObjectAt(ObjectUB));
+}
+
+std::string DocumentBytes() {
+  std::string bytes;
+  bytes.reserve(static_cast<std::size_t>(ObjectUB + 1) * kProjectRecordSize);
+  for (int i = 0; i <= ObjectUB; ++i) bytes += ProjectRecordBytes(ObjectAt(i));
+  return bytes;
+}
+
+// The old file goes first, so that a shorter new one keeps no tail of it. Its name is looked up
+// before that: a name from the recent list has lost its capitals.
+void ReplaceFile(const std::string& path, const std::string& bytes) {
+  const std::string target = ResolvePath(path);
+  CarryOn([&] {
+    if (FileExists(target)) DeleteFile(target);
+  });
+  CarryOn([&] { WriteFile(target, bytes); });
+}
+
+}  // namespace
+
+void SaveProject(const Flag& ForceDialog) {
+  if ((ProjectPath.empty() || ForceDialog) && !AskForName()) return;
+  const std::int16_t objects = ObjectUB;
+  CarryOn([] { AppendTrailer(FillSerialTrailer); });
+  CarryOn([] { AppendTrailer(FillSourceTrailer); });
+  ReplaceFile(ProjectPath, DocumentBytes());
+  DirtyFlag = kFalse;
+  ObjectUB = objects;  // the trailers stay in their slots
+  AddRecentFile(ProjectPath);
+}
+
+}  // namespace tagwright
