@@ -12,19 +12,6 @@ namespace {
 
 constexpr int kCustomPointer = 99;
 
-void PlaceCrossHairs(double x, double y) {
-  LineControl& across = frmMain.HairY;
-  LineControl& down = frmMain.HairX;
-  down.SetX1(x);
-  down.SetX2(x);
-  down.SetY1(0);
-  down.SetY2(frmMain.picBoard.ScaleHeight());
-  across.SetX1(0);
-  across.SetX2(frmMain.picBoard.ScaleWidth());
-  across.SetY1(y);
-  across.SetY2(y);
-}
-
 // The rounding is one of board units, before the conversion: in inches the figure moves in steps
 // of 0.1 / 25.4.
 std::string ShownPlace(double board_units) {
@@ -40,13 +27,30 @@ void ShowSelectionPlace() {
 
 }  // namespace
 
+void MoveCrossHairs(double x, double y, double width, double height) {
+  LineControl& down = frmMain.HairX;
+  LineControl& across = frmMain.HairY;
+  down.SetX1(x);
+  down.SetX2(x);
+  down.SetY1(0);
+  down.SetY2(height);
+  across.SetX1(0);
+  across.SetX2(width);
+  across.SetY1(y);
+  across.SetY2(y);
+  HairPositionX = x - BoardOriginX;
+  HairPositionY = y - BoardOriginY;
+}
+
 const char* UnitName() { return UnitScale == 1.0 ? "mm" : "in"; }
 
 void TrackStatus(const Control& control, double X, double Y) {
   const PictureBox& board = frmMain.picBoard;
   const double x = control.Left() + board.ScaleX(X, kTwips, kUserScale);
   const double y = control.Top() + board.ScaleY(Y, kTwips, kUserScale);
-  if (frmMain.mnuOptXHair.Checked()) PlaceCrossHairs(x, y);
+  if (frmMain.mnuOptXHair.Checked()) {
+    MoveCrossHairs(x, y, board.ScaleWidth(), board.ScaleHeight());
+  }
   frmMain.sB1.SetPanelText(
       1, "X:" + ShownPlace(x - BoardOriginX) + " - Y:" + ShownPlace(y - BoardOriginY) + UnitName());
   ShowSelectionPlace();

@@ -11,6 +11,11 @@ namespace tagwright {
 // converted; with an object selected txtDSize 0 and 1 show where its hit area stands.
 void TrackStatus(const Control& control, double X, double Y);
 
+// Puts HairX through the board position x from the top down to `height`, HairY through y from the
+// left to `width`, all in board units, and remembers the place on the label in HairPositionX and
+// HairPositionY. Whether they show stays as it is.
+void MoveCrossHairs(double x, double y, double width, double height);
+
 // Puts the board's pointer back and follows the pointer.
 void lblHold_MouseMove(int Index, int Button, int Shift, double X, double Y);
 

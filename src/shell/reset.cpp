@@ -1,0 +1,46 @@
+#include "shell/reset.h"
+
+#include "common/prog_settings.h"
+#include "document/objects.h"
+#include "editing/magnetic_rule.h"
+#include "layouts/label_layouts.h"
+#include "platform/desktop.h"
+#include "platform/event.h"
+#include "platform/printer.h"
+#include "platform/windows.h"
+#include "shell/window.h"
+#include "tools/font_box.h"
+#include "tools/tool_buttons.h"
+#include "tools/view.h"
+
+namespace tagwright {
+namespace {
+
+void ResetInstallation() {
+  ProgSettings = {};
+  AppFolder.clear();
+  HelpFile.clear();
+  LabelLayouts.clear();
+  LabelLayoutTop = -1;
+}
+
+void ResetTools() {
+  FontComboTyped = kFalse;
+  ResetMagneticRules();
+  ResetToolButtons();
+  ResetView();
+}
+
+}  // namespace
+
+void ResetProgram() {
+  UnloadAll();
+  ForgetAfterHandlers(nullptr);
+  SetScreenMousePointer(0);
+  ResetPrinter();
+  ResetInstallation();
+  ResetDocumentState();
+  ResetTools();
+}
+
+}  // namespace tagwright

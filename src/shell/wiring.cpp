@@ -1,0 +1,246 @@
+// Control on the left, handler on the right: whoever wants to know what a click does starts here.
+#include "shell/wiring.h"
+
+#include "document/project_file.h"
+#include "editing/magnetic_rule.h"
+#include "editing/track_status.h"
+#include "layouts/layout_list.h"
+#include "shell/about.h"
+#include "shell/shutdown.h"
+#include "shell/startup.h"
+#include "shell/window.h"
+#include "tools/board.h"
+#include "tools/font_box.h"
+#include "tools/panels.h"
+#include "tools/tool_buttons.h"
+#include "tools/view.h"
+
+namespace tagwright {
+namespace {
+
+void WireWindow(FrmMain& f) {
+  f.WindowEvents().Load = Form_Load;
+  f.WindowEvents().Activate = Form_Activate;
+  f.WindowEvents().Resize = Form_Resize;
+  f.WindowEvents().Unload = Form_Unload;
+
+  f.Timer1.Events().Timer = Timer1_Timer;
+  f.tmrButtons.Events().Timer = tmrButtons_Timer;
+}
+
+void WireMenus(FrmMain& f) {
+  f.mnuFileNew.Events().Click = mnuFileNew_Click;
+  f.mnuFileOpen.Events().Click = mnuFileOpen_Click;
+  f.mnuFileSave.Events().Click = mnuFileSave_Click;
+  f.mnuFileSaveAs.Events().Click = mnuFileSaveAs_Click;
+  f.mnuFileImport.Events().Click = mnuFileImport_Click;
+  f.mnuFileOld.Events().Click = mnuFileOld_Click;
+  f.mnuFileExit.Events().Click = mnuFileExit_Click;
+
+  f.mnuFileRulers.Events().Click = mnuFileRulers_Click;
+  f.mnuOptXHair.Events().Click = mnuOptXHair_Click;
+  f.mnuUnitMM.Events().Click = mnuUnitMM_Click;
+  f.mnuUnitIn.Events().Click = mnuUnitIn_Click;
+  f.mnuMagRule.Events().Click = mnuMagRule_Click;
+
+  f.mnuHelpHelp.Events().Click = mnuHelpHelp_Click;
+  f.mnuHelpWebsite.Events().Click = mnuHelpWebsite_Click;
+  f.mnuHelpAbout.Events().Click = mnuHelpAbout_Click;
+}
+
+void WireStrip(FrmMain& f) {
+  f.cboZoom.Events().Click = cboZoom_Click;
+  f.chkXHair.Events().Click = chkXHair_Click;
+  f.cboFont.Events().GotFocus = cboFont_GotFocus;
+  f.cboFont.Events().KeyPress = cboFont_KeyPress;
+  f.cboFont.Events().LostFocus = cboFont_LostFocus;
+  f.cboLabelLayout.Events().Click = cboLabelLayout_Click;
+}
+
+void WireTools(FrmMain& f) {
+  f.cmdTools.Events().Click = cmdTools_Click;
+  f.cmdTools.Events().MouseDown = [](int Index, int, int, double, double) {
+    cmdTools_MouseDown(Index);
+  };
+  f.cmdTools.Events().MouseUp = [](int, int, double, double) { cmdTools_MouseUp(); };
+  f.cmdMagnify.Events().Click = cmdMagnify_Click;
+}
+
+void WireBoard(FrmMain& f) {
+  f.picBoard.Events().MouseMove = picBoard_MouseMove;
+  f.lblHold.Events().MouseMove = lblHold_MouseMove;
+  f.hS1.Events().Change = hS1_Change;
+  f.hS1.Events().GotFocus = hS1_GotFocus;
+  f.vS1.Events().Change = vS1_Change;
+  f.vS1.Events().GotFocus = vS1_GotFocus;
+  f.cmdXC.Events().Click = cmdXC_Click;
+}
+
+// Off the board the pointer is an arrow again. picPicture, picPrint and picMag have no such
+// handler: the pointer stays as it came.
+void WireHover(FrmMain& f) {
+  const auto hover = [](int, int, double, double) { ShowDefaultPointer(); };
+  f.Events().MouseMove = hover;
+  f.picFunctions.Events().MouseMove = hover;
+  f.picProperties.Events().MouseMove = hover;
+  f.picText.Events().MouseMove = hover;
+  f.picBCode.Events().MouseMove = hover;
+  f.picDrawing.Events().MouseMove = hover;
+  f.picFields.Events().MouseMove = hover;
+  f.picSellAll.Events().MouseMove = hover;
+  f.picTools.Events().MouseMove = hover;
+  f.picTemp.Events().MouseMove = hover;
+  f.cmdTools.Events().MouseMove = hover;
+  f.sB1.Events().MouseMove = hover;
+}
+
+// --- not there yet ------------------------------------------------------------------------------
+
+// Everything that the window shows and the program does not do yet, in this one place. Whoever
+// builds a group moves its lines up and gives them their handlers.
+constexpr auto NotThereYet = [](auto&&...) {};
+
+// Selecting, moving and resizing objects with the mouse, and placing new ones. With it come the end
+// of the selection that FitZoom and cmdTools_Click call for, arming the tools 1 to 7 and zooming to
+// a box.
+void WireObjectsLater(FrmMain& f) {
+  f.picBoard.Events().MouseDown = NotThereYet;
+  f.picBoard.Events().MouseUp = NotThereYet;
+  f.lblHold.Events().MouseDown = NotThereYet;
+  f.lblHold.Events().MouseUp = NotThereYet;
+  f.lblHandle.Events().MouseDown = NotThereYet;
+  f.lblHandle.Events().MouseMove = NotThereYet;
+  f.lblHandle.Events().MouseUp = NotThereYet;
+  f.WindowEvents().KeyDown = NotThereYet;
+  f.WindowEvents().KeyUp = NotThereYet;
+  f.cmdLine.Events().Click = NotThereYet;
+  f.cmdRect.Events().Click = NotThereYet;
+  f.cmdRoundRect.Events().Click = NotThereYet;
+  f.cmdEllipse.Events().Click = NotThereYet;
+}
+
+// Changing what is selected: the fields and boxes of the panels and of the strip.
+void WirePanelsLater(FrmMain& f) {
+  f.txtDSize.Events().GotFocus = NotThereYet;
+  f.txtDSize.Events().LostFocus = NotThereYet;
+  f.txtDSize.Events().KeyPress = NotThereYet;
+  f.txtDSize.Events().MouseMove = NotThereYet;
+  f.cboFont.Events().Click = NotThereYet;
+  f.cboSize.Events().Click = NotThereYet;
+  f.chkBold.Events().Click = NotThereYet;
+  f.chkItalic.Events().Click = NotThereYet;
+  f.cmdAlign.Events().Click = NotThereYet;
+  f.cmdTextColor.Events().Click = NotThereYet;
+  f.txtTool.Events().GotFocus = NotThereYet;
+  f.txtTool.Events().LostFocus = NotThereYet;
+  f.txtTool.Events().KeyPress = NotThereYet;
+  f.txtTool.Events().Change = NotThereYet;
+  f.cboWeight.Events().Click = NotThereYet;
+  f.cmdColor.Events().Click = NotThereYet;
+  f.cmdFColor.Events().Click = NotThereYet;
+  f.lblBCol.Events().Click = NotThereYet;
+  f.lblFCol.Events().Click = NotThereYet;
+  f.chkTransparent.Events().Click = NotThereYet;
+  f.mnuDrawChange.Events().Click = NotThereYet;
+  f.mnuShpAspect.Events().Click = NotThereYet;
+  f.mnuGraphicWidth.Events().Click = NotThereYet;
+  f.mnuGraphicHeight.Events().Click = NotThereYet;
+  f.mnuTextCopy.Events().Click = NotThereYet;
+}
+
+// Undo, the clipboard, aligning, spacing and stacking.
+void WireArrangingLater(FrmMain& f) {
+  f.mnuUndo.Events().Click = NotThereYet;
+  f.mnuEditCut.Events().Click = NotThereYet;
+  f.mnuEditCopy.Events().Click = NotThereYet;
+  f.mnuEditPaste.Events().Click = NotThereYet;
+  f.mnuEditSelectAll.Events().Click = NotThereYet;
+  f.mnuAAlign.Events().Click = NotThereYet;
+  f.mnuASize.Events().Click = NotThereYet;
+  f.mnuAHoriz.Events().Click = NotThereYet;
+  f.mnuArrangeBTF.Events().Click = NotThereYet;
+  f.mnuArrangeSTB.Events().Click = NotThereYet;
+  f.cmdToBack.Events().Click = NotThereYet;
+  f.cmdCenterLab.Events().Click = NotThereYet;
+  f.cmdToFront.Events().Click = NotThereYet;
+  f.cmdSAllAlign.Events().Click = NotThereYet;
+  f.cmdSS.Events().Click = NotThereYet;
+  f.cmdSpcHor.Events().Click = NotThereYet;
+  f.cmdSpcVert.Events().Click = NotThereYet;
+}
+
+// Barcodes: the symbols themselves (PaintBarcode is empty and paints nothing), checking their data,
+// and the formats of data fields.
+void WireBarcodesLater(FrmMain& f) {
+  f.cboBCode.Events().Click = NotThereYet;
+  f.cboBCode.Events().KeyPress = NotThereYet;
+  f.txtBCodeData.Events().GotFocus = NotThereYet;
+  f.txtBCodeData.Events().KeyPress = NotThereYet;
+  f.txtBCodeData.Events().Change = NotThereYet;
+  f.txtBCodeData.Events().LostFocus = NotThereYet;
+  f.chkPriCharacter.Events().Click = NotThereYet;
+  f.cmdBCode.Events().Click = NotThereYet;
+  f.mnuField.Events().Click = NotThereYet;
+  f.mnuFBC.Events().Click = NotThereYet;
+  f.mnuBCSetWid.Events().Click = NotThereYet;
+  f.mnuBCSetHgt.Events().Click = NotThereYet;
+  f.mnuBCSetChars.Events().Click = NotThereYet;
+}
+
+// Data sources: no file is read, no column is listed and no data field is placed.
+void WireDataSourcesLater(FrmMain& f) {
+  f.cboImportType.Events().Click = NotThereYet;
+  f.cmdBrowse.Events().Click = NotThereYet;
+  f.cboRSet.Events().Click = NotThereYet;
+  f.chkFirstRow.Events().Click = NotThereYet;
+  f.lstFields.Events().DblClick = NotThereYet;
+}
+
+// Printing and the preview.
+void WirePrintingLater(FrmMain& f) {
+  f.mnuFilePrint.Events().Click = NotThereYet;
+  f.cboPrinter.Events().Click = NotThereYet;
+  f.txtPrintFrom.Events().KeyPress = NotThereYet;
+  f.txtPrintTo.Events().KeyPress = NotThereYet;
+  f.txtNoCopies.Events().KeyPress = NotThereYet;
+  f.cmdPrint.Events().Click = NotThereYet;
+  f.cmdPreview.Events().Click = NotThereYet;
+}
+
+// The dialogs for serial numbers, label layouts and default settings.
+void WireDialogsLater(FrmMain& f) {
+  f.mnuFileSerial.Events().Click = NotThereYet;
+  f.cmdSerNo.Events().Click = NotThereYet;
+  f.mnuFileDesign.Events().Click = NotThereYet;
+  f.cmdDesLabel.Events().Click = NotThereYet;
+  f.mnuFileDefault.Events().Click = NotThereYet;
+}
+
+void WireLater(FrmMain& f) {
+  WireObjectsLater(f);
+  WirePanelsLater(f);
+  WireArrangingLater(f);
+  WireBarcodesLater(f);
+  WireDataSourcesLater(f);
+  WirePrintingLater(f);
+  WireDialogsLater(f);
+}
+
+}  // namespace
+
+void WireMainWindow(FrmMain& f) {
+  WireWindow(f);
+  WireMenus(f);
+  WireStrip(f);
+  WireTools(f);
+  WireBoard(f);
+  WireHover(f);
+  WireLater(f);
+}
+
+void WireAboutWindow(FrmAbout& f) {
+  f.WindowEvents().Load = about::Form_Load;
+  f.cmdOK.Events().Click = about::cmdOK_Click;
+}
+
+}  // namespace tagwright

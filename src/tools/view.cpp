@@ -1,0 +1,235 @@
+#include "tools/view.h"
+
+#include <string>
+
+#include "common/prog_settings.h"
+#include "common/public_functions.h"
+#include "document/redraw.h"
+#include "forms/frmMain.h"
+#include "layouts/layout_list.h"
+#include "platform/locale.h"
+#include "platform/text.h"
+
+namespace tagwright {
+namespace {
+
+enum FitMode { kFitLongerSide = 0, kFitHeight = 1, kFitWidth = 2 };
+
+constexpr int kRowOf100Percent = 8;
+constexpr double kFits = 0.9;            // from this share of the board on a label fits well enough
+constexpr double kAir = 0.95;            // of the board is used
+constexpr double kAirUnderRuler = 0.85;  // where the ruler takes its part of the height
+
+double BoardWidth() {  // millimetres on screen
+  return frmMain.picBoard.ScaleX(frmMain.picBoard.Width(), kTwips, kMillimetres);
+}
+
+double BoardHeight() {
+  return frmMain.picBoard.ScaleY(frmMain.picBoard.Height(), kTwips, kMillimetres);
+}
+
+double Quotient(double value, double divisor) {
+  if (divisor == 0) RaiseFault(kDivisionByZero);
+  return value / divisor;
+}
+
+int Middle(const ScrollBar& bar) { return ToInt16(bar.Max() / 2.0); }
+
+void CentreLabel() {
+  frmMain.hS1.SetValue(Middle(frmMain.hS1));
+  frmMain.vS1.SetValue(Middle(frmMain.vS1));
+}
+
+void KeyboardToBoard() {
+  CarryOn([] { frmMain.txtSetFocus(0).SetFocus(); });
+}
+
+void SetPointer(std::int16_t shape) {
+  CursorShape = shape;
+  frmMain.SetMousePointer(shape);
+}
+
+// --- zoom ---
+
+bool TextIsSelected() {
+  bool is_text = false;
+  CarryOn([&] { is_text = SelectedObject > -1 && ObjectAt(SelectedObject).ObjType == kText; });
+  return is_text;
+}
+
+// A selected text is shown by its hit area and not by the painter, so the hit area takes the new
+// size; its caption must be away while the board is painted under it.
+void RedrawWithSelectedText() {
+  const ObjectRecord& text = ObjectAt(SelectedObject);
+  Label& hold = HoldAt(SelectedObject);
+  hold.SetCaption("");
+  hold.SetFontSize(text.FontSize * ZoomFactor);
+  RedrawBoard();
+  RedrawSkip = -1;
+  hold.SetCaption(text.Text.Trimmed());
+  ShowHandles(hold);
+}
+
+void RedrawWithSelection() {
+  RedrawBoard();
+  if (SelectedObject > -1) ShowHandles(HoldAt(SelectedObject));
+  if (SelectedUpper > -1) ShowGroupBox();
+}
+
+bool FitsWellEnough(double label, double board) { return label <= board && label >= kFits * board; }
+
+bool LabelFitsWellEnough() {
+  return FitsWellEnough(LabelWidth, frmMain.picBoard.ScaleWidth()) ||
+         FitsWellEnough(LabelHeight, frmMain.picBoard.ScaleHeight());
+}
+
+double FittingZoom(int mode) {
+  const double air = frmMain.mnuFileRulers.Checked() ? kAirUnderRuler : kAir;
+  const double zoom = mode == kFitHeight ? Quotient(BoardHeight() * air, LabelHeight)
+                                         : Quotient(BoardWidth() * kAir, LabelWidth);
+  return ToNumber(FormatFixed(zoom * kAir, 2));
+}
+
+// The last row only ever ends a pair: exactly its factor is already above the list.
+bool SelectZoomRow(double zoom) {
+  ComboBox& list = frmMain.cboZoom;
+  for (int i = 0; i < list.ListCount() - 1; ++i) {
+    if (ParsePercent(list.List(i)) > zoom || zoom >= ParsePercent(list.List(i + 1))) continue;
+    list.SetListIndex(i);
+    return true;
+  }
+  return false;
+}
+
+void ViewSameSize() {
+  SuspendRedraw = kTrue;
+  CentreLabel();
+  ZoomFactor = 1.0;
+  ScaleBoardToZoom();
+  SuspendRedraw = kFalse;
+  frmMain.cboZoom.SetListIndex(kRowOf100Percent);
+}
+
+// --- cross hairs and unit ---
+
+void ShowCrossHairs(bool shown) {
+  frmMain.HairX.SetVisible(shown);
+  frmMain.HairY.SetVisible(shown);
+}
+
+void TurnOver(Menu& entry) { entry.SetChecked(!entry.Checked()); }
+
+// From one unit to another, both in millimetres.
+void ConvertSizeFields(double from, double to) {
+  for (const auto& [index, field] : frmMain.txtDSize) {
+    field->SetText(FormatFixed(ToNumber(field->Text()) * from / to, 2));
+  }
+}
+
+void SetUnit(Flag metric, double ruler_scale, double unit_scale) {
+  MetricUnits = metric;
+  RulerScale = ruler_scale;
+  UnitScale = unit_scale;
+  frmMain.mnuUnitMM.SetChecked(metric != kFalse);
+  frmMain.mnuUnitIn.SetChecked(metric == kFalse);
+}
+
+}  // namespace
+
+double ParsePercent(std::string_view text) {
+  if (!text.ends_with('%')) return 0;
+  return ToNumber(text.substr(0, text.size() - 1)) / 100;
+}
+
+double ZoomOfCombo() {
+  const std::string& text = frmMain.cboZoom.Text();
+  if (text.empty()) RaiseFault(kInvalidCall);
+  return ToNumber(Left(text, Length(text) - 1)) / 100;
+}
+
+void ScaleBoardToZoom() {
+  PictureBox& board = frmMain.picBoard;
+  CarryOn([&] { board.SetScaleWidth(Quotient(BoardWidth(), ZoomFactor)); });
+  CarryOn([&] { board.SetScaleHeight(Quotient(BoardHeight(), ZoomFactor)); });
+}
+
+void cboZoom_Click() {
+  CarryOn([] { ZoomFactor = ZoomOfCombo(); });
+  ScaleBoardToZoom();
+  DrawTarget = &frmMain.picBoard.Canvas();
+  CarryOn([] { TextIsSelected() ? RedrawWithSelectedText() : RedrawWithSelection(); });
+  SetPointer(0);
+}
+
+void cmdMagnify_Click(int Index) {
+  if (Index <= kFitWidth) FitZoom(Index);
+  if (Index == 3) ViewSameSize();
+  frmMain.picMag.SetVisible(false);
+}
+
+void FitZoom(int mode) {
+  if (mode == kFitLongerSide) mode = LabelWidth > LabelHeight ? kFitWidth : kFitHeight;
+  if (mode != kFitHeight && LabelFitsWellEnough()) return;
+  const double old_zoom = ZoomFactor;
+  double zoom = 0;
+  SuspendRedraw = kTrue;
+  CarryOn([&] { zoom = FittingZoom(mode); });
+  const bool found = SelectZoomRow(zoom);
+  if (found) CentreLabel();
+  SuspendRedraw = kFalse;
+  RedrawBoard();
+  if (!found) ZoomFactor = old_zoom;
+}
+
+void cmdXC_Click() {
+  SuspendRedraw = kTrue;
+  CentreLabel();
+  SuspendRedraw = kFalse;
+  RedrawBoard();
+  KeyboardToBoard();
+}
+
+void hS1_Change() { RedrawBoard(); }
+void vS1_Change() { RedrawBoard(); }
+void hS1_GotFocus() { KeyboardToBoard(); }
+void vS1_GotFocus() { KeyboardToBoard(); }
+
+void chkXHair_Click() {
+  CrossHairsShown = ToInt16(frmMain.chkXHair.Value());
+  ShowCrossHairs(CrossHairsShown != 0);
+}
+
+void mnuOptXHair_Click() {
+  TurnOver(frmMain.mnuOptXHair);
+  ShowCrossHairs(frmMain.mnuOptXHair.Checked());
+  ProgSettings.ShowCrossHairs = frmMain.mnuOptXHair.Checked() ? kTrue : kFalse;
+}
+
+void mnuFileRulers_Click() {
+  TurnOver(frmMain.mnuFileRulers);
+  RedrawBoard();
+  ProgSettings.ShowRulers = frmMain.mnuFileRulers.Checked() ? kTrue : kFalse;
+}
+
+void UseMillimetres() { SetUnit(kTrue, 1.0, 1.0); }
+void UseInches() { SetUnit(kFalse, 2.54, kMillimetresPerInch); }
+
+void mnuUnitMM_Click() {
+  UseMillimetres();
+  ProgSettings.MetricUnits = kTrue;
+  RedrawBoard();
+  ConvertSizeFields(kMillimetresPerInch, 1.0);
+  FillLayoutList();
+}
+
+void mnuUnitIn_Click() {
+  UseInches();
+  ProgSettings.MetricUnits = kFalse;
+  RedrawBoard();
+  ConvertSizeFields(1.0, kMillimetresPerInch);
+  FillLayoutList();
+}
+
+void ResetView() { CrossHairsShown = kTrue; }
+
+}  // namespace tagwright

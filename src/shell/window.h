@@ -1,0 +1,33 @@
+// The main window itself: its geometry, its timers, the pointer outside the board, help.
+#pragma once
+
+#include <string>
+
+namespace tagwright {
+
+// Path of the help file, set at start-up.
+inline std::string HelpFile;
+
+// Lays the window out: strip, tool column, board with its scroll bars, and the board's scale for
+// the zoom; then redraws. A window under 8250 twips of height is set to that, which runs this
+// again. Nothing while minimised.
+void Form_Resize();
+
+// Every second: mnuFileSave is enabled exactly while DirtyFlag is set, mnuFileSaveAs from then on.
+void Timer1_Timer();
+
+// A press on Zoom In or Zoom Out starts the hold, its release ends it; the third tick of 70
+// milliseconds disarms the tool and opens the flyout picMag. The timer also runs from program
+// start, with nothing held: then the third tick only stops it.
+void cmdTools_MouseDown(int Index);
+void cmdTools_MouseUp();
+void tmrButtons_Timer();
+
+// Outside the board the pointer is the default one.
+void ShowDefaultPointer();
+
+void mnuHelpHelp_Click();     // shows the help file
+void mnuHelpWebsite_Click();  // opens the product's web page
+void mnuHelpAbout_Click();    // shows frmAbout modally
+
+}  // namespace tagwright

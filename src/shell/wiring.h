@@ -1,0 +1,16 @@
+// The switchboard: which handler runs for which event.
+#pragma once
+
+#include "forms/frmAbout.h"
+#include "forms/frmMain.h"
+
+namespace tagwright {
+
+// Binds every event of the main window that the program listens to. Called with the window's values
+// fresh, before its Load event.
+void WireMainWindow(FrmMain& f);
+
+// Likewise for the window "About".
+void WireAboutWindow(FrmAbout& f);
+
+}  // namespace tagwright
