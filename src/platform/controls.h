@@ -7,6 +7,10 @@
 //
 // Events run inside the assignment that raises them, after the value is stored. They nest, and a
 // fault ends at the event's boundary.
+//
+// Members named User... are what the views report; all else is what routines call. While a handler
+// runs, presses, moves and keys of the user reach only the window that the handler opened modally;
+// a release, a key's end, a resize, an activation and a close wait until it is done.
 #pragma once
 
 #include <cstdint>
@@ -29,11 +33,23 @@ class Container;
 class Control;
 class Form;
 
+// --- what takes the user away -------------------------------------------------------------------
+
+// To be called before a modal window, a message box or a pop-up menu opens (windows.h and dialogs.h
+// do). Keys held in the active window end there: it raises KeyUp. A press under way will lose its
+// release to the new window: MouseUp follows, where the pointer was last seen, as soon as the
+// handler that opened it is done.
+void ModalOpens();
+
+// No button is down any more: completes a press whose release the toolkit has lost, like
+// ModalOpens does. Nothing without a press. Views call it when they find the buttons up.
+void UserButtonsUp();
+
 // --- views --------------------------------------------------------------------------------------
 
 // What of a control has changed; views redraw just that.
 enum class Aspect {
-  kGeometry,   // place or size
+  kGeometry,  // place or size
   kVisible,
   kEnabled,
   kText,       // caption, text, tool tip
@@ -92,20 +108,20 @@ class Control {
   const std::string& Name() const { return name_; }
   int Index() const { return index_; }
   Container* Parent() const { return container_; }
-  Form* ParentForm() const;
+  Form* ParentForm() const { return form_; }  // null for a container that stands alone
   ControlEvents& Events() const { return *events_; }
 
   // Geometry in the container's unit. Assignments store exactly and raise nothing here.
   double Left() const { return left_; }
   double Top() const { return top_; }
-  virtual double Width() const { return width_; }
-  virtual double Height() const { return height_; }
-  virtual void SetLeft(double value);
-  virtual void SetTop(double value);
-  virtual void SetWidth(double value);   // faults 380 when negative
-  virtual void SetHeight(double value);  // faults 380 when negative
+  double Width() const { return width_; }
+  double Height() const { return height_; }
+  void SetLeft(double value);
+  void SetTop(double value);
+  void SetWidth(double value);   // faults 380 when negative, except for a Shape
+  void SetHeight(double value);  // likewise
   void Move(double left, double top);
-  void Move(double left, double top, double width, double height);
+  void Move(double left, double top, double width, double height);  // faults 380 like SetWidth
   // The same in twips from the container's corner.
   double LeftTwips() const;
   double TopTwips() const;
@@ -115,27 +131,35 @@ class Control {
   bool Visible() const { return visible_; }
   void SetVisible(bool value);
   bool Enabled() const { return enabled_; }
-  void SetEnabled(bool value);
-  // Whether it and all its containers are visible (and enabled, for IsUsable).
+  virtual void SetEnabled(bool value);
+  // Whether it and all its containers are visible; enabled; both. A loaded form counts as visible
+  // until it is hidden.
   bool IsShown() const;
-  bool IsUsable() const;
+  bool IsLive() const;
+  bool IsUsable() const { return IsShown() && IsLive(); }
 
-  // 0 brings to the front, 1 sends to the back, among the container's children.
+  // 0 brings to the front, 1 sends to the back, among the container's children; faults 380 for
+  // other positions.
   void ZOrder(int position = 0);
   // Larger is nearer to the user.
   std::int64_t Order() const { return order_; }
 
   const std::string& ToolTipText() const { return tool_tip_; }
   void SetToolTipText(std::string value);
-  // 0 default, 1 arrow, 2 cross, 3 I-beam, 11 hourglass, 14 arrow and question mark, 99 MouseIcon.
+  // 0 default, 1 arrow, 2 cross, 3 I-beam, 6 and 8 sizing along a diagonal (up right, down right),
+  // 11 hourglass, 14 arrow and question mark, 99 MouseIcon. Faults 380 outside 0 to 15 and 99.
   int MousePointer() const { return pointer_; }
   void SetMousePointer(int value);
   const std::string& MouseIcon() const { return mouse_icon_; }  // name of an icon resource
   void SetMouseIcon(std::string value);
 
   // Moves the keyboard here: LostFocus of the former holder, then GotFocus of this one, both before
-  // it returns; a SetFocus inside either wins. Nothing when it has it already. Faults 5 for a
-  // control that takes no keyboard, or is hidden or disabled (itself or a container).
+  // it returns; a SetFocus inside either wins, and a control that such a one passes over gets no
+  // event. Nothing when it has it already. Faults 5 for a control that takes no keyboard, or is
+  // hidden or disabled (itself or a container).
+  //
+  // Hiding or disabling the holder raises nothing. It has no keyboard then, but stays the one that
+  // LostFocus goes to when another control gets it, so that each GotFocus finds its LostFocus.
   void SetFocus();
   bool HasFocus() const;
   // Whether the class takes the keyboard at all.
@@ -144,6 +168,13 @@ class Control {
   // --- what the user does, reported by the view (see also Container's mouse routing) ---
   void UserFocus();  // as SetFocus, but quietly nothing where SetFocus would fault
   void UserDblClick();
+  // The mouse over a control that has a view of its own; points are twips from its corner. A press
+  // moves the focus (to it, or where FocusStandIn says) before MouseDown and captures the control
+  // until the last button is up. A release without a press raises nothing; one while a handler runs
+  // waits. A second press of a button that is down ends the first one: its release was lost.
+  virtual void UserMouseDown(int button, int shift, double x_twips, double y_twips);
+  virtual void UserMouseMove(int button, int shift, double x_twips, double y_twips);
+  void UserMouseUp(int button, int shift, double x_twips, double y_twips);
 
   void AttachView(ControlView* view);  // not owned; null detaches
   ControlView* View() const { return view_; }
@@ -151,15 +182,40 @@ class Control {
   // --- for containers and subclasses ---
   virtual void Rescaled(double factor_x, double factor_y);  // the container's unit changed
   void Notify(Aspect aspect) const;
+  // Whether the user's acts on it have to wait or are dropped, because a handler runs.
+  bool Waits() const;
 
  protected:
-  virtual void SizeChanged() {}
+  // For controls that have a name on `form` but no place in it.
+  Control(Form* form, std::string name, int index, std::shared_ptr<ControlEvents> events);
+  int WaitLevel() const;
+  virtual void SizeChanged() { Notify(Aspect::kGeometry); }
+  virtual double MouseUnitX() const { return 1; }  // twips of one unit of its mouse events
+  virtual double MouseUnitY() const { return 1; }
+  virtual bool TakesMouse() const { return false; }  // on a board: labels do
+  virtual bool TakesNegativeSize() const { return false; }
+  // The control that takes the keyboard when this one is pressed.
+  virtual Control* FocusTarget() { return this; }
 
  private:
   friend class Container;
+  friend class Form;
+  using MouseEvent = Event<int, int, double, double> ControlEvents::*;
+  bool CanTakeFocus() const { return form_ && TakesFocus() && IsUsable(); }
+  void CheckSize(double width, double height) const;
+  void Resize(double width, double height);
+  void BeginPress(Control& target, int button, int shift, double x_twips, double y_twips);
+  void TrackMouse(Control& target, int button, int shift, double x_twips, double y_twips);
+  void RaiseMouse(Control& target, MouseEvent event, int button, int shift, double x_twips,
+                  double y_twips);
+  void DeliverReleases();
+  void ForgetPress();
+  // What waiting releases go by: an address that nobody outside uses as a key.
+  const void* ReleaseKey() const { return &order_; }
   std::string name_;
   int index_;
-  Container* container_;
+  Container* container_ = nullptr;
+  Form* form_ = nullptr;
   std::shared_ptr<ControlEvents> events_;
   ControlView* view_ = nullptr;
   double left_ = 0, top_ = 0, width_ = 0, height_ = 0;
@@ -199,14 +255,22 @@ class Container : public Control {
   // Mouse routing for a container whose children have no views of their own. Points are twips from
   // this container's corner. A press finds its control, moves the focus as a click does and
   // captures the control until the release, also when it is hidden meanwhile; its x and y follow
-  // the control's present corner. A release without a press raises nothing.
-  void UserMouseDown(int button, int shift, double x_twips, double y_twips);
-  void UserMouseMove(int button, int shift, double x_twips, double y_twips);
-  void UserMouseUp(int button, int shift, double x_twips, double y_twips);
-  Control* Captured() const { return captured_; }
+  // the control's present corner. See Control for the rest.
+  void UserMouseDown(int button, int shift, double x_twips, double y_twips) override;
+  void UserMouseMove(int button, int shift, double x_twips, double y_twips) override;
+  // The control that a press in this container holds; null without one.
+  Control* Captured() const;
+
+  // A control that stands for this container and its labels when the user presses there and the
+  // keyboard has to go somewhere; null: the keyboard stays where it is.
+  Control* FocusStandIn() const { return focus_stand_in_; }
+  void SetFocusStandIn(Control* control) { focus_stand_in_ = control; }
 
  protected:
   void ResizeScale(double width_twips, double height_twips);
+  Control* FocusTarget() override { return focus_stand_in_; }
+  double MouseUnitX() const override { return scale_.UnitX(); }
+  double MouseUnitY() const override { return scale_.UnitY(); }
   // Runs `change` on the scale, then converts the children's numbers.
   template <class Change>
   void ChangeScale(Change&& change);
@@ -215,13 +279,11 @@ class Container : public Control {
   friend class Control;
   void Adopt(Control* child);
   void Release(Control* child);
-  void RaiseMouse(Control* target, Event<int, int, double, double> ControlEvents::*event, int button,
-                  int shift, double x_twips, double y_twips);
+  Control& MouseTarget(double x_twips, double y_twips);
 
   std::vector<Control*> children_;
   ScaleSpace scale_;
-  Control* captured_ = nullptr;
-  int captured_button_ = 0;
+  Control* focus_stand_in_ = nullptr;
   std::int64_t front_ = 0;
   std::int64_t back_ = 0;
 };
@@ -230,8 +292,10 @@ class Container : public Control {
 
 enum class TextAlignment { kLeft = 0, kRight = 1, kCenter = 2 };
 
-// A caption, and on the board a hit area. With AutoSize on, a change of caption or font (and
-// turning it on) fits the size to the text; a size assigned meanwhile holds until the next one.
+// A caption, and on the board a hit area. With AutoSize on, each assignment of a caption or font
+// (and turning it on, also again) fits the size to the text: as wide as the widest line, as high as
+// ascent plus descent of all lines, which end at CR LF, CR or LF. A size assigned meanwhile holds
+// until the next one.
 class Label : public Control {
  public:
   using Control::Control;
@@ -258,6 +322,10 @@ class Label : public Control {
   // A user's click on a label that has a view of its own (the swatches of the panels).
   void Press();
 
+ protected:
+  bool TakesMouse() const override { return true; }
+  Control* FocusTarget() override;  // a label has no keyboard; its container's stand-in does
+
  private:
   void Fit();
   std::string caption_;
@@ -270,7 +338,8 @@ class Label : public Control {
   TextAlignment alignment_ = TextAlignment::kLeft;
 };
 
-// Something that holds the caret: shared by text boxes and combos. Positions count characters.
+// Something that holds the caret: shared by text boxes and combos. Positions count characters of
+// Text(), in which a line ends in CR LF and so counts two.
 class TextControl : public Control {
  public:
   using Control::Control;
@@ -286,6 +355,11 @@ class TextControl : public Control {
 
  protected:
   void StoreText(std::string value);  // caret to the start, nothing raised
+  // Raises KeyPress for a character of the user's. Returns what is left to enter; 0 when the
+  // handler swallowed it or moved the keyboard elsewhere.
+  char32_t FilterCharacter(char32_t character);
+  // Text and caret after `character` in place of the selection; false when it changes nothing.
+  bool EnterCharacter(char32_t character, bool multi_line);
   std::string text_;
   int sel_start_ = 0;
   int sel_length_ = 0;
@@ -307,7 +381,8 @@ class TextBox : public TextControl {
   void UserKey(char32_t character);
   // Characters of a paste or an input method: UserKey for each.
   void UserType(std::string_view text);
-  // The view edited the text itself (delete, cut, undo): stores and raises Change.
+  // The view edited the text itself (delete, cut, undo): stores and raises Change on a change.
+  // Lines may end in LF alone here; `caret` counts the characters as they come.
   void UserEdit(std::string text, int caret);
 
  private:
@@ -320,9 +395,10 @@ class ComboBox : public TextControl {
   using TextControl::TextControl;
   // --- rows ---
   int ListCount() const { return static_cast<int>(rows_.size()); }
-  const std::string& List(int row) const;  // faults 381-like 9 outside
-  void AddItem(std::string row);           // sorted lists insert without regard to case
-  void Clear();                            // no rows, no text, index -1; raises nothing
+  const std::string& List(int row) const;  // faults 9 outside
+  // Sorted lists insert without regard to case, behind equal rows. The chosen row stays chosen.
+  void AddItem(std::string row);
+  void Clear();  // no rows, no text, index -1; raises nothing
   bool Sorted() const { return sorted_; }
   void SetSorted(bool value) { sorted_ = value; }
 
@@ -337,13 +413,14 @@ class ComboBox : public TextControl {
   void SetEditable(bool value);
 
   // --- the user ---
-  void UserChoose(int row);          // chose a row (the same one too): as SetListIndex
-  void UserKey(char32_t character);  // as TextBox; a pick list only raises KeyPress
+  void UserChoose(int row);  // chose a row (the same one too): as SetListIndex
+  // As TextBox; a pick list only raises KeyPress. Edited text is no chosen row: the index is -1.
+  void UserKey(char32_t character);
   void UserType(std::string_view text);
   void UserEdit(std::string text, int caret);
 
  private:
-  void TextEdited(std::string text, int caret);
+  void TextEdited();
   std::vector<std::string> rows_;
   int list_index_ = -1;
   bool sorted_ = false;
@@ -360,7 +437,7 @@ class ListBox : public Control {
   void AddItem(std::string row);
   void Clear();
   int ListIndex() const { return list_index_; }
-  void SetListIndex(int row);  // as ComboBox
+  void SetListIndex(int row);  // as ComboBox: Click for each 0 or more, fault 380 outside
   void UserChoose(int row);
 
  private:
@@ -375,7 +452,8 @@ class CheckBox : public Control {
   bool TakesFocus() const override { return true; }
   int Value() const { return value_; }
   void SetValue(int value);  // raises Click only on a change; outside 0 to 2: fault 380
-  void Press();              // the user: turns it over, which raises Click
+  // The user: turns it over (a greyed one to clear), which raises Click. Nothing when disabled.
+  void Press();
 
  private:
   int value_ = 0;
@@ -402,7 +480,7 @@ class ScrollBar : public Control {
   void SetValue(int value);  // outside: fault 380, value kept
   int Min() const { return min_; }
   int Max() const { return max_; }
-  void SetRange(int min, int max);
+  void SetRange(int min, int max);  // faults 380 when max < min; cuts the value, raising Change
   int SmallChange() const { return small_change_; }
   int LargeChange() const { return large_change_; }
   void SetSteps(int small_change, int large_change);
@@ -416,9 +494,6 @@ class ScrollBar : public Control {
 class PictureBox : public Container {
  public:
   PictureBox(Container* container, std::string name, int index = -1);
-  bool TakesFocus() const override { return false; }
-  void SetWidth(double value) override;
-  void SetHeight(double value) override;
   Color BackColor() const { return back_color_; }
   void SetBackColor(Color value);
 
@@ -463,7 +538,10 @@ class Shape : public Control {
   void SetBorderStyle(int value);
   Color BorderColor() const { return border_color_; }
   void SetBorderColor(Color value);
+
+ protected:
   // Negative sizes are not an error for a shape under the mouse; they are stored and painted as 0.
+  bool TakesNegativeSize() const override { return true; }
 
  private:
   int shape_ = 0;
@@ -502,8 +580,9 @@ class Timer : public Control {
   using Control::Control;
   int Interval() const { return interval_; }  // milliseconds; 0 never ticks
   void SetInterval(int value);                // faults 380 when negative
-  // Enabled() and SetEnabled() are the control's. Enabling a running timer starts its wait again.
-  void Elapsed();  // the platform: the interval is over. Raises Timer unless a handler runs
+  void SetEnabled(bool value) override;       // enabling a running timer starts its wait again
+  // The platform: the interval is over. Raises Timer, unless it is disabled or a handler runs.
+  void Elapsed();
 
  private:
   int interval_ = 0;
@@ -516,15 +595,18 @@ class Menu : public Control {
   Menu(Form* form, std::string name);
   Menu(Menu* parent, std::string name, int index = -1,
        std::shared_ptr<ControlEvents> events = nullptr);
+  ~Menu() override;
   const std::string& Caption() const { return caption_; }  // empty: as the form file has it
   void SetCaption(std::string value);
   bool Checked() const { return checked_; }
   void SetChecked(bool value);
   const std::vector<Menu*>& Items() const { return items_; }
   Menu* ParentMenu() const { return parent_; }
-  void Press();  // raises Click; nothing when disabled
+  // Raises Click; nothing when it, or a menu that it hangs in, is disabled.
+  void Press();
 
  private:
+  bool CanPress() const;
   Menu* parent_ = nullptr;
   std::vector<Menu*> items_;
   std::string caption_;
@@ -536,8 +618,8 @@ class StatusBar : public Control {
  public:
   StatusBar(Container* container, std::string name, int panels);
   int PanelCount() const { return static_cast<int>(panels_.size()); }
-  const std::string& PanelText(int panel) const;       // faults 9 outside
-  void SetPanelText(int panel, std::string value);     // likewise
+  const std::string& PanelText(int panel) const;    // faults 9 outside
+  void SetPanelText(int panel, std::string value);  // likewise
 
  private:
   std::vector<std::string> panels_;
@@ -555,36 +637,55 @@ class ControlArray {
     make_ = [parent](const std::string& n, int i, std::shared_ptr<ControlEvents> e) {
       return std::make_unique<T>(parent, n, i, std::move(e));
     };
-    for (int i = 0; i < count; ++i) Load(i);
+    for (int i = 0; i < count; ++i) Make(i);
   }
 
   // The element; faults 340 when it was never created.
   T& operator()(int index) const {
-    const auto found = elements_.find(index);
-    if (found == elements_.end()) RaiseFault(kMissingElement);
-    return *found->second;
+    if (!Exists(index)) RaiseFault(kMissingElement);
+    return *by_index_[static_cast<std::size_t>(index)];
   }
-  bool Exists(int index) const { return elements_.contains(index); }
-  // Creates element `index`, hidden state and all as a fresh control; faults 360-like 380 when it
-  // exists, 9 when negative.
+  bool Exists(int index) const {
+    return index >= 0 && static_cast<std::size_t>(index) < by_index_.size() &&
+           by_index_[static_cast<std::size_t>(index)] != nullptr;
+  }
+  // Creates element `index`: a fresh control, hidden until a routine shows it. Faults 380 when it
+  // exists, 9 outside 0 to 32767.
   T& Load(int index) {
-    if (index < 0) RaiseFault(kOutOfBounds);
+    if (index < 0 || index > kMaxIndex) RaiseFault(kOutOfBounds);
     if (Exists(index)) RaiseFault(kBadValue);
-    return *(elements_[index] = make_(name_, index, events_));
+    T& element = Make(index);
+    element.SetVisible(false);
+    return element;
   }
   int Count() const { return static_cast<int>(elements_.size()); }
   int UBound() const { return elements_.empty() ? -1 : elements_.rbegin()->first; }
   const std::string& Name() const { return name_; }
   ControlEvents& Events() const { return *events_; }
 
+  // Pairs of index and element, by rising index.
   auto begin() const { return elements_.begin(); }
   auto end() const { return elements_.end(); }
 
  private:
+  static constexpr int kMaxIndex = 32767;
+
+  T& Make(int index) {
+    std::unique_ptr<T> made = make_(name_, index, events_);
+    if (static_cast<std::size_t>(index) >= by_index_.size()) {
+      by_index_.resize(static_cast<std::size_t>(index) + 1);
+    }
+    T& element = *made;
+    elements_.emplace_hint(elements_.end(), index, std::move(made));
+    by_index_[static_cast<std::size_t>(index)] = &element;
+    return element;
+  }
+
   std::string name_;
   std::shared_ptr<ControlEvents> events_ = std::make_shared<ControlEvents>();
   std::function<std::unique_ptr<T>(const std::string&, int, std::shared_ptr<ControlEvents>)> make_;
   std::map<int, std::unique_ptr<T>> elements_;
+  std::vector<T*> by_index_;  // each press and redraw asks by index: no search
 };
 
 // --- forms --------------------------------------------------------------------------------------
@@ -607,15 +708,15 @@ struct FormEvents {
 class Form : public Container {
  public:
   explicit Form(std::string name);
+  ~Form() override;
 
   FormEvents& WindowEvents() const { return *form_events_; }
   const std::string& Caption() const { return caption_; }
   void SetCaption(std::string value);
   WindowState State() const { return state_; }
-  void SetState(WindowState value);
-  // Raise Resize when the size really changes; the client area follows by the same difference.
-  void SetWidth(double value) override;
-  void SetHeight(double value) override;
+  void SetState(WindowState value);  // raises Resize on a change
+  // SetWidth, SetHeight and Move raise Resize once when the size really changes; the client area
+  // follows by the same difference.
   Color BackColor() const { return back_color_; }
 
   // Everything with a name: controls and menus, in creation order.
@@ -624,12 +725,18 @@ class Form : public Container {
   // By name and index (-1: no array); null when there is none.
   Control* Find(std::string_view name, int index = -1) const;
 
-  // The control that has the keyboard, null none. An inactive window keeps it.
-  Control* ActiveControl() const { return focus_; }
+  // The control that has the keyboard, null none: also while the holder is hidden or disabled. An
+  // inactive window keeps it.
+  Control* ActiveControl() const;
+
+  // The level (see event.h) at which this window gets events: 0, or that of its modal showing.
+  int EventLevel() const { return event_level_; }
+  void SetEventLevel(int level) { event_level_ = level; }
 
   // --- what the user and the window system do, reported by the view ---
-  // While a handler runs the last one of these waits until it is done. Outer frame and client area
-  // in twips; raises Resize when the outer or the client size changed, or the state.
+  // While a handler runs the last resize waits until it is done, as do moves and activations. Outer
+  // frame and client area in twips; raises Resize when the outer or the client size changed, or the
+  // state.
   void UserResize(double left, double top, double width, double height, double client_width,
                   double client_height, WindowState state);
   void UserMove(double left, double top);
@@ -638,25 +745,49 @@ class Form : public Container {
   // Keys by virtual key code (letters and digits their capital's code, 8 backspace, 9 tab, 13
   // return, 16 shift, 17 ctrl, 18 alt, 27 esc, 33 to 40 page, end, home and arrows, 46 delete,
   // 112 on the function keys). KeyDown's handler may set the code to 0: returns false then, and
-  // the key must go no further.
+  // the key must go no further. While a handler runs a key's end waits and its beginning is lost.
   bool UserKeyDown(int key_code, int shift);
   void UserKeyUp(int key_code, int shift);
-  // A modal window or menu is about to take the keyboard: as UserDeactivate, without losing focus.
+  // A modal window or menu is about to take the keyboard: KeyUp as at UserDeactivate, at once even
+  // while a handler runs, since what that handler does next must not see held modifiers.
   void KeyboardLeaves();
+
+  // Forgets what the user has under way here: waiting resizes, activations and keys, and a press.
+  // For a window that goes.
+  void DropUserActs();
+
+ protected:
+  void SizeChanged() override;
 
  private:
   friend class Control;
   friend class Menu;
   friend class Container;
+  void Enroll(Control* control);
+  void Dismiss(Control* control);
   void GiveFocus(Control* control);
+  void TakeFrame(double left, double top, double width, double height, double client_width,
+                 double client_height, WindowState state);
   std::shared_ptr<FormEvents> form_events_ = std::make_shared<FormEvents>();
   std::string caption_;
   WindowState state_ = WindowState::kNormal;
   Color back_color_ = 0xF0F0F0;
   std::vector<Control*> all_;
   std::vector<Menu*> menus_;
-  Control* focus_ = nullptr;
-  int focus_changes_ = 0;  // how often it moved: a nested SetFocus wins
+  Control* focus_ = nullptr;   // where the keyboard is to go, or is
+  Control* holder_ = nullptr;  // who was told so last and is owed a LostFocus
+  int focus_changes_ = 0;      // how often it moved: a nested SetFocus wins
+  double framed_width_ = 0;    // the outer size that the client area belongs to
+  double framed_height_ = 0;
+  int event_level_ = 0;
+  std::vector<std::pair<int, int>> key_ups_;  // waiting, as key code and shift
+  // Their addresses are the keys of what waits for the end of handlers.
+  struct {
+    char resize, move, activate, key_up;
+  } waits_ = {};
 };
+
+// The window that the user is in; null when it is none of the program's.
+Form* ActiveForm();
 
 }  // namespace tagwright

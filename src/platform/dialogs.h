@@ -48,8 +48,8 @@ Answer MessageBox(const std::string& text, MessageButtons buttons = MessageButto
 std::string InputBox(const std::string& prompt, const std::string& title = {},
                      const std::string& initial = {});
 
-// The common dialog control: properties set before, read after. `Show...` faults 32755 when the user
-// cancels and `CancelError` is set; without it a cancelled dialog leaves the properties alone.
+// The common dialog control: properties set before, read after. `Show...` faults 32755 when the
+// user cancels and `CancelError` is set; without it a cancelled dialog leaves the properties alone.
 struct CommonDialog {
   std::string Filter;
   std::string DefaultExt;

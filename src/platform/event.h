@@ -1,4 +1,8 @@
 // Events of the control model: one handler each, run at once, with faults ending at its boundary.
+//
+// While a handler runs the program is busy: its windows get no events, except the window that the
+// handler itself has opened modally. Each modal window therefore opens a level of its own above the
+// handler that waits for it; level 0 is the program without any.
 #pragma once
 
 #include <functional>
@@ -12,18 +16,39 @@ namespace tagwright {
 // How many event handlers are on the stack. 0 means that the program is at rest.
 int RunningHandlers();
 
+// Whether events of windows at `level` have to wait: a handler of that level runs, or a modal
+// window stands above it. A level above the present one counts as the present one.
+bool HandlerRuns(int level = 0);
+
+// One modal window's level, from construction to destruction. Levels end in the reverse order of
+// their beginning.
+class ModalLevel {
+ public:
+  ModalLevel();
+  ~ModalLevel();
+  ModalLevel(const ModalLevel&) = delete;
+  ModalLevel& operator=(const ModalLevel&) = delete;
+  int Number() const { return number_; }  // 1 for the first modal window, 2 for one above it
+
+ private:
+  int number_;
+};
+
 // What to do with a fault that no routine trapped: the event ends and this is called. The default
-// shows the fault's number and description in a message box. Returns the former function.
+// shows the fault's number and description in a message box. Returns the former function; an empty
+// one stands for the default, in both directions.
 using FaultReporter = std::function<void(const Fault&)>;
 FaultReporter SetFaultReporter(FaultReporter reporter);
 
 // Runs `body` as one event handler: counts it in RunningHandlers and ends any fault at this
-// boundary. When the outermost handler is done, work that had to wait (see AfterHandlers) runs.
+// boundary, as also exceptions of the libraries below (as faults 7 and 51). When the outermost
+// handler of the level is done, work that had to wait (see AfterHandlers) runs.
 void RunHandler(const std::function<void()>& body);
 
-// Runs `work` when no handler is on the stack: now, or when the outermost handler ends. `key`
-// identifies the work: of several waiting under one non-null key the last one wins.
-void AfterHandlers(const void* key, std::function<void()> work);
+// Runs `work` when no handler of `level` is on the stack: now, or when the outermost one ends, in
+// the order of asking. `key` identifies the work: of several waiting under one non-null key only
+// the last one runs, at its own place. A fault in it is reported and ends it.
+void AfterHandlers(const void* key, std::function<void()> work, int level = 0);
 
 // Forgets the waiting work of `key` (its owner is going away); with null, all waiting work.
 void ForgetAfterHandlers(const void* key);

@@ -9,13 +9,15 @@
 
 namespace tagwright {
 
-// The stable numbers. The first five are trapped by number somewhere in the program.
+// The stable numbers. 53, 340, 481, 3031 and 32755 are trapped by number somewhere in the program.
 enum FaultNumber : int {
   kInvalidCall = 5,          // a call that makes no sense now, such as focus on a hidden control
   kOverflow = 6,             // a value outside its integer type
+  kOutOfMemory = 7,          // no memory for what is to be done
   kOutOfBounds = 9,          // an array element that does not exist
   kDivisionByZero = 11,      // division by zero
   kTypeMismatch = 13,        // text that is not the number it should be
+  kInternalError = 51,       // a library below the program reported something unforeseen
   kFileNotFound = 53,        // a missing file
   kFileAccess = 75,          // a file or folder that cannot be read, written or deleted
   kDeviceFault = 57,         // an input or output fault of the device

@@ -18,7 +18,7 @@ class WindowService {
   virtual void RunModal(Form& form) = 0;  // shows it over the active window; back when it is gone
   virtual void Destroy(Form& form) = 0;   // drops the views
   virtual void PopupMenu(Form& form, Menu& menu) = 0;  // at the pointer; back when it closed
-  virtual void SendTab() = 0;             // the keystroke {TAB}
+  virtual void SendTab() = 0;                          // the keystroke {TAB}
 };
 
 void SetWindowService(WindowService* service);  // not owned; null: none
@@ -46,12 +46,18 @@ void Load(F& form) {
   windows_detail::Loaded(form);
 }
 
+// Shows a loaded form, which makes it the active one. Faults 5 when it is not loaded.
 void Show(Form& form);
-// Returns when the form is unloaded or hidden. Handlers of other windows do not run meanwhile.
+// Returns when the form is unloaded or hidden. Handlers of other windows do not run meanwhile: what
+// the user does to them waits or is dropped. Faults 5 when it is not loaded. Without a service it
+// returns at once.
 void ShowModal(Form& form);
-// Raises Unload; returns false and keeps the form when the handler cancelled. Nothing when not
-// loaded.
+// Raises Unload; returns false and keeps the form when the handler cancelled, or when the form is
+// being unloaded already. True when it is not loaded.
 bool Unload(Form& form);
+// The user closes the window (its frame's button, the session's end): Unload, which while a handler
+// of its level runs waits until that is done.
+void UserClose(Form& form);
 // Drops every form without asking: tests and the end of the program.
 void UnloadAll();
 
