@@ -136,6 +136,7 @@ struct Session {
   // A window that is mapped while the manager starts may never be managed: wait for it.
   void StartWindowManager() {
     processes.push_back(Spawn({"openbox"}, Log("window-manager")));
+    Shell("xsetroot -solid '#5f6b76'");
     WaitFor("the window manager", [] {
       return Shell("xprop -root _NET_SUPPORTING_WM_CHECK", false).find('#') != std::string::npos;
     });
@@ -174,6 +175,12 @@ Box WindowBox(const std::string& window, const std::string& option) {
   const std::string report = Shell("xwininfo " + option + " -id " + window);
   return {Printed(report, "Absolute upper-left X:"), Printed(report, "Absolute upper-left Y:"),
           Printed(report, "Width:"), Printed(report, "Height:")};
+}
+
+std::string Geometry(const Box& part) {
+  std::ostringstream text;
+  text << part.width << 'x' << part.height << '+' << part.x << '+' << part.y;
+  return text.str();
 }
 
 // --- the tree of spoken names --------------------------------------------------------------------
@@ -419,11 +426,27 @@ void ChooseMenu(const Program& program, const std::vector<std::string>& path) {
   }
 }
 
+void ChooseRow(const Program& program, const std::string& combo, const std::string& row) {
+  Click(Find(program, combo, "combo box").box);
+  Find(program, row, "list item");  // unfolded
+  Type(row);
+  Key("Return");
+}
+
+std::vector<std::uint32_t> Pixels(const Box& part) {
+  const std::string raw = Shell("import -window root -crop " + Geometry(part) +
+                                " +repage -depth 8 rgb:- | od -An -v -tu1 -w3");
+  std::istringstream numbers(raw);
+  std::vector<std::uint32_t> pixels;
+  for (std::uint32_t red = 0, green = 0, blue = 0; numbers >> red >> green >> blue;) {
+    pixels.push_back(red << 16 | green << 8 | blue);
+  }
+  if (pixels.size() != static_cast<std::size_t>(part.width) * part.height) Fail("no picture");
+  return pixels;
+}
+
 void Screenshot(const std::string& file, const Box& part) {
-  std::ostringstream command;
-  command << "import -window root -crop " << part.width << 'x' << part.height << '+' << part.x
-          << '+' << part.y << " +repage " << Quoted(file);
-  Shell(command.str());
+  Shell("import -window root -crop " + Geometry(part) + " +repage " + Quoted(file));
 }
 
 // --- files ---------------------------------------------------------------------------------------

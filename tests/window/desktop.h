@@ -6,6 +6,7 @@
 
 #include <sys/types.h>
 
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <vector>
@@ -102,6 +103,12 @@ void WaitForWindow(const std::string& title_part);
 
 // Opens a menu and clicks through its entries: {"File", "Open"}. Names are without marks.
 void ChooseMenu(const Program& program, const std::vector<std::string>& path);
+
+// Chooses a row of a list of rows that unfolds, by its spoken name and the row's text.
+void ChooseRow(const Program& program, const std::string& combo, const std::string& row);
+
+// The pixels of a part of the screen, row by row, as 0xRRGGBB.
+std::vector<std::uint32_t> Pixels(const Box& part);
 
 // Saves a part of the screen as PNG.
 void Screenshot(const std::string& file, const Box& part = {0, 0, kScreenWidth, kScreenHeight});
