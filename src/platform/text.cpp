@@ -5,6 +5,7 @@
 #include <wctype.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <map>
 #include <unordered_map>
 
@@ -126,7 +127,7 @@ Page MakePage(int code_page) {
   Page page;
   const std::string name = "CP" + std::to_string(code_page);
   const iconv_t converter = iconv_open("UCS-4LE", name.c_str());
-  const bool known = converter != iconv_t(-1);
+  const bool known = reinterpret_cast<std::intptr_t>(converter) != -1;
   for (int byte = 0; byte < 256; ++byte) {
     const auto b = static_cast<unsigned char>(byte);
     page.characters[b] = known ? CharacterOfByte(converter, b) : b;
