@@ -126,6 +126,16 @@ TEST_F(ViewTest, ASelectedTextIsShownByItsHitAreaAtTheNewSize) {
   EXPECT_TRUE(frmMain.lblHandle(0).Visible());
 }
 
+// Also where no redraw uses it up.
+TEST_F(ViewTest, ASelectedTextForgetsTheObjectToSkip) {
+  AddObject(kText).FontSize = 12;
+  SelectedObject = 0;
+  RedrawSkip = 0;
+  SuspendRedraw = kTrue;
+  Choose("200%");
+  EXPECT_EQ(RedrawSkip, -1);
+}
+
 TEST_F(ViewTest, AnotherSelectedObjectKeepsItsHandles) {
   AddObject(kRectangle);
   SelectedObject = 0;
