@@ -340,6 +340,15 @@ TEST_F(ProjectFileTest, FileWithoutTrailersLoadsEveryRecordAsAnObject) {
   EXPECT_EQ(SerialPrefix, "kept");
 }
 
+TEST_F(ProjectFileTest, FontSizeThatIsNoNumberIsPassedOver) {
+  ObjectRecord odd = TextObject("a");
+  odd.FontSize = std::numeric_limits<double>::quiet_NaN();
+  Load(Bytes({odd, TextObject("b")}));
+  EXPECT_EQ(ObjectUB, 1);
+  EXPECT_EQ(frmMain.lblHold(0).Caption(), "");
+  EXPECT_FALSE(frmMain.lblHold(0).AutoSize());
+}
+
 TEST_F(ProjectFileTest, FileWithTheSerialTrailerAloneUsesIt) {
   Load(Bytes({TextObject("a"), SerialTrailer()}));
   EXPECT_EQ(ObjectUB, 0);
