@@ -96,7 +96,7 @@ Application::~Application() {
   ScreenMousePointerView() = nullptr;
 }
 
-// A form that is unloaded hides its window, and hiding the last one ends the loop.
+// The last window to go ends the loop.
 int Application::Run() {
   if (Forms().empty()) return EXIT_SUCCESS;
   return QApplication::exec();

@@ -248,6 +248,7 @@ void FormWindow::Retire() {
   client_.removeEventFilter(this);
   window_->hide();
   deleteLater();
+  if (Windows().empty()) QCoreApplication::quit();  // hiding alone does not end the loop
 }
 
 void FormWindow::Popup(Menu& menu) {
