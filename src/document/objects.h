@@ -84,14 +84,12 @@ inline bool PreviewMode = false;          // a redraw for the preview is under w
 inline bool SerialUsed = false;           // a printed text held the serial token
 inline std::string ProjectPath;           // full path, empty when untitled
 inline Flag DirtyFlag = kFalse;           // unsaved changes
-inline Flag MetricUnits = kTrue;          // millimetres; 0 inches
-inline double UnitScale = 1.0;            // millimetres per display unit: 1.0 or 25.4
-inline double RulerScale = 1.0;           // millimetres between ruler ticks: 1.0 or 2.54
-inline Surface* DrawTarget = nullptr;     // what all drawing goes to
-inline double LabelWidth = 0;             // of one label
+// Whether the unit is metric, and how far labels are moved on paper, are settings: ProgSettings.
+inline double UnitScale = 1.0;         // millimetres per display unit: 1.0 or 25.4
+inline double RulerScale = 1.0;        // millimetres between ruler ticks: 1.0 or 2.54
+inline Surface* DrawTarget = nullptr;  // what all drawing goes to
+inline double LabelWidth = 0;          // of one label
 inline double LabelHeight = 0;
-inline std::int16_t PrintOffsetX = 0;  // added to the origin of every printed label
-inline std::int16_t PrintOffsetY = 0;
 
 // Where the cross hairs stand, millimetres from the label's corner: whoever moves HairX and HairY
 // stores it here, so that a redraw can carry them along with the label.

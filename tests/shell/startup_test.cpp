@@ -284,7 +284,7 @@ TEST_F(StartUpTest, InchesFromTheSettings) {
   StartProgram();
   EXPECT_EQ(UnitScale, 25.4);
   EXPECT_EQ(RulerScale, 2.54);
-  EXPECT_EQ(MetricUnits, 0);
+  EXPECT_EQ(ProgSettings.MetricUnits, 0);
   EXPECT_FALSE(frmMain.mnuUnitMM.Checked());
   EXPECT_TRUE(frmMain.mnuUnitIn.Checked());
 }
