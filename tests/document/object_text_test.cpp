@@ -100,7 +100,7 @@ TEST_F(ObjectTextTest, RightAlignedLinesEndAtTheRightEdge) {
 }
 
 TEST_F(ObjectTextTest, OtherAlignmentCodesAreLeft) {
-  for (const std::int16_t code : {0, 3, -1, 32767}) {
+  for (const std::int16_t code : std::vector<std::int16_t>{0, 3, -1, 32767}) {
     ObjectRecord record = TextObject("ab", 10, 0);
     record.Width = 30;
     record.Param = code;
@@ -111,7 +111,7 @@ TEST_F(ObjectTextTest, OtherAlignmentCodesAreLeft) {
 
 TEST_F(ObjectTextTest, DataFieldIsAlwaysLeftWhateverItsColumn) {
   FieldValues[1] = FieldValues[2] = "ab";
-  for (const std::int16_t column : {1, 2}) {
+  for (const std::int16_t column : std::vector<std::int16_t>{1, 2}) {
     ObjectRecord record = Field(column, 0);
     record.Left = 10;
     record.Width = 30;

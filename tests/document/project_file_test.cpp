@@ -378,12 +378,19 @@ TEST_F(ProjectFileTest, NumberOfRecordsIsRoundedAndTheLastOnePartlyRead) {
 }
 
 TEST_F(ProjectFileTest, FileOf32768BytesOrMoreOpensAsBlankRecords) {
+  struct Row {
+    std::size_t length;
+    std::string text;
+    int bound;
+  };
+  // 98 records are 32,634 bytes, 99 are 32,967; what lies between rounds to 98.
+  const std::vector<Row> rows = {
+      {32634, "a", 97}, {32767, "a", 97}, {32768, "", 97}, {32967, "", 98}};
   const std::string bytes = Bytes(std::vector<ObjectRecord>(101, TextObject("a")));
-  for (const auto& [length, text] : std::vector<std::pair<std::size_t, std::string>>{
-           {98u * 333u, "a"}, {32767u, "a"}, {32768u, ""}, {99u * 333u, ""}}) {
-    Load(bytes.substr(0, length));
-    EXPECT_EQ(ObjectAt(0).Text.Trimmed(), text) << length;
-    EXPECT_EQ(ObjectUB, length < 32700 ? 97 : length == 99u * 333u ? 98 : 97) << length;
+  for (const Row& row : rows) {
+    Load(bytes.substr(0, row.length));
+    EXPECT_EQ(ObjectAt(0).Text.Trimmed(), row.text) << row.length;
+    EXPECT_EQ(ObjectUB, row.bound) << row.length;
   }
   EXPECT_EQ(ObjectAt(98), ObjectRecord{});
   EXPECT_TRUE(dialogs.messages.empty());

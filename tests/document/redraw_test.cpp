@@ -247,9 +247,9 @@ TEST_F(RedrawTest, LinesAreHorizontalOrVerticalNeverSlanted) {
 }
 
 TEST_F(RedrawTest, UnknownKindsPaintNothingButHaveAHitArea) {
-  for (const std::int16_t kind : {0, 4, 9, 14, 19, 21, -1, -2, -100}) {
+  for (const int kind : {0, 4, 9, 14, 19, 21, -1, -2, -100}) {
     ObjectRecord record = ShapeObject(kBlank, 5, 6, 7, 8);
-    record.ObjType = kind;
+    record.ObjType = static_cast<std::int16_t>(kind);
     Add(record);
   }
   Redraw();
