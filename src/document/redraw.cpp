@@ -340,7 +340,8 @@ void FinishPass(const RedrawPass& pass) {
   EndPass(pass);
 }
 
-// An unreadable picture leaves at once: zoom, skip mark, frame and AutoRedraw stay as they are.
+// An unreadable picture, the only fault that a step lets through, leaves at once: zoom, skip mark,
+// frame and AutoRedraw stay as they are.
 void RunPass(const RedrawPass& pass) {
   try {
     RedrawObjects(pass);
