@@ -235,6 +235,10 @@ TEST_F(ObjectTextTest, UnclosedDateTokenPrintsAsItStandsInBlack) {
   EXPECT_EQ(dialogs.messages.size(), 1u) << "the marker file shows the fault";
 }
 
+TEST_F(ObjectTextTest, UnclosedDateTokenBehindAClosedOneLeavesThatOneReplaced) {
+  EXPECT_EQ(Printed("[#DT1] [#DT2"), Lines{"3/15/2026 [#DT2"});
+}
+
 TEST_F(ObjectTextTest, SerialTextComesBeforeDates) {
   SerialBarcodeType = -1;
   SerialPrefix = "[#DT1]";
@@ -317,6 +321,18 @@ TEST_F(ObjectTextTest, ValuePrintsOncePerLineOfItsText) {
   FieldValues[3] = "v";
   Paint(Field(3, 0, "a\r\nb"));
   EXPECT_EQ(page_.Texts(), (Lines{"v", "v"}));
+}
+
+TEST_F(ObjectTextTest, ValueOfAFieldWithoutANamePrintsOnce) {
+  FieldValues[3] = "v";
+  Paint(Field(3, 0, ""));
+  EXPECT_EQ(page_.Texts(), Lines{"v"});
+}
+
+TEST_F(ObjectTextTest, CurrencyFieldThatLeadsToItselfPrintsItsOwnValue) {
+  FieldValues[0] = "abc";
+  Paint(Field(0, 1));  // column 0 leads to object 0, whose column is 0
+  EXPECT_EQ(page_.Texts(), Lines{"abc"});
 }
 
 TEST_F(ObjectTextTest, FieldBarcode) {

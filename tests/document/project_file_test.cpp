@@ -396,6 +396,26 @@ TEST_F(ProjectFileTest, FileOf32768BytesOrMoreOpensAsBlankRecords) {
   EXPECT_TRUE(dialogs.messages.empty());
 }
 
+TEST_F(ProjectFileTest, FileWithMoreRecordsThanCanBeCountedKeepsTheFormerBoundWithBlankRecords) {
+  Add(TextObject("a"));
+  Add(TextObject("b"));
+  const std::string path = Made("long.twp", "");
+  std::filesystem::resize_file(path, 333u * 32769u);  // one more than 32,768 records
+  LoadProject(path);
+  EXPECT_EQ(ObjectUB, 1);
+  EXPECT_EQ(Objects, std::vector<ObjectRecord>(2));
+  EXPECT_TRUE(dialogs.messages.empty());
+}
+
+TEST_F(ProjectFileTest, FileThatIsNotThereKeepsTheFormerBoundWithBlankRecords) {
+  Add(TextObject("a"));
+  LoadProject(folder.File("nowhere.twp"));
+  EXPECT_EQ(ObjectUB, 0);
+  EXPECT_EQ(ObjectAt(0), ObjectRecord{});
+  EXPECT_EQ(ProjectPath, folder.File("nowhere.twp"));
+  EXPECT_TRUE(dialogs.messages.empty());
+}
+
 TEST_F(ProjectFileTest, LargestProjectThatOpensHas96ObjectsAndBothTrailers) {
   std::vector<ObjectRecord> records(96, TextObject("a"));
   records.push_back(SerialTrailer());
@@ -607,6 +627,32 @@ TEST_F(ProjectFileTest, FontSizesThatMeasureToNothingArePassedOver) {
     EXPECT_EQ(HoldAt(0).Caption(), "") << size;
     EXPECT_FALSE(HoldAt(0).AutoSize()) << size;
   }
+}
+
+TEST_F(ProjectFileTest, HitAreasOfTheFormerLabelStayWhereTheyWereShown) {
+  Load(Bytes({TextObject("a"), TextObject("b"), TextObject("c")}));
+  Load(Bytes({TextObject("d")}));
+  EXPECT_EQ(ObjectUB, 0);
+  EXPECT_TRUE(HoldAt(2).Visible()) << "the next press on it hides it";
+}
+
+// A layout's click redraws while the trailers still count as records.
+TEST_F(ProjectFileTest, RedrawOfTheLayoutsClickMakesHitAreasForTheTrailersToo) {
+  frmMain.cboLabelLayout.Events().Click = [] { RedrawBoard(); };
+  Load(Bytes({TextObject("a"), SerialTrailer(), SourceTrailer()}));
+  EXPECT_EQ(RedrawCount, 2);
+  EXPECT_EQ(ObjectUB, 0);
+  EXPECT_TRUE(frmMain.lblHold.Exists(2));
+}
+
+// That redraw may drop a record already: then the last one left counts as the trailer.
+TEST_F(ProjectFileTest, UnreadablePictureInTheLayoutsRedrawCostsTheSerialTrailer) {
+  frmMain.cboLabelLayout.Events().Click = [] { RedrawBoard(); };
+  SerialPrefix = "kept";
+  Load(Bytes({PictureObject(Made("bad.gif", "rubbish")), SerialTrailer(), SourceTrailer()}));
+  EXPECT_EQ(SerialPrefix, "kept");
+  EXPECT_EQ(dialogs.messages.size(), 2u) << "once in each redraw";
+  EXPECT_EQ(ObjectUB, -1);
 }
 
 TEST_F(ProjectFileTest, MissingPicturesAreNamedAndRemovedOneByOne) {
