@@ -7,6 +7,7 @@
 #include "document/redraw.h"
 #include "forms/frmMain.h"
 #include "platform/fault.h"
+#include "platform/surface.h"
 
 namespace tagwright {
 namespace {

@@ -9,7 +9,6 @@
 #include <vector>
 
 #include "platform/controls.h"
-#include "platform/surface.h"
 #include "platform/text.h"
 
 namespace tagwright {
@@ -86,10 +85,9 @@ inline bool SerialUsed = false;           // a printed text held the serial toke
 inline std::string ProjectPath;           // full path, empty when untitled
 inline Flag DirtyFlag = kFalse;           // unsaved changes
 // Whether the unit is metric, and how far labels are moved on paper, are settings: ProgSettings.
-inline double UnitScale = 1.0;         // millimetres per display unit: 1.0 or 25.4
-inline double RulerScale = 1.0;        // millimetres between ruler ticks: 1.0 or 2.54
-inline Surface* DrawTarget = nullptr;  // what all drawing goes to
-inline double LabelWidth = 0;          // of one label
+inline double UnitScale = 1.0;   // millimetres per display unit: 1.0 or 25.4
+inline double RulerScale = 1.0;  // millimetres between ruler ticks: 1.0 or 2.54
+inline double LabelWidth = 0;    // of one label
 inline double LabelHeight = 0;
 
 // Where the cross hairs stand, millimetres from the label's corner: whoever moves HairX and HairY

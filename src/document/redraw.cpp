@@ -12,6 +12,7 @@
 #include "platform/fault.h"
 #include "platform/picture.h"
 #include "platform/printer.h"
+#include "platform/surface.h"
 
 namespace tagwright {
 namespace {
