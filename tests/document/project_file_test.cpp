@@ -576,6 +576,48 @@ TEST_F(ProjectFileTest, DatabaseListsItsTablesAndChoosesTheStoredOne) {
   EXPECT_NE(SourceDatabase, nullptr);
 }
 
+TEST_F(ProjectFileTest, DatabaseWithoutAPasswordOpensWithoutAConnectText) {
+  std::string asked = "nothing";
+  SetDatabaseEngine([&](const std::string&, const std::string& connect) {
+    asked = connect;
+    return std::make_unique<TwoTables>();
+  });
+  ObjectRecord source = SourceTrailer();
+  source.Param = 0;
+  source.Text = Made("a.mdb", "x");
+  CurrentTable = "as before";
+  Load(Bytes({SerialTrailer(), source}));
+  EXPECT_EQ(asked, "");
+  EXPECT_EQ(frmMain.cboRSet.ListIndex(), -1) << "no table was stored";
+  EXPECT_EQ(CurrentTable, "as before");
+}
+
+TEST_F(ProjectFileTest, TableBeyondTheListIsPassedOverAndNoTextRemembered) {
+  SetDatabaseEngine(
+      [](const std::string&, const std::string&) { return std::make_unique<TwoTables>(); });
+  ObjectRecord source = SourceTrailer();
+  source.Param = 0;
+  source.Text = Made("a.mdb", "x");
+  source.FillColor = 2;
+  CurrentTable = "as before";
+  Load(Bytes({SerialTrailer(), source}));
+  EXPECT_EQ(frmMain.cboRSet.ListIndex(), -1);
+  EXPECT_EQ(CurrentTable, "") << "the statement after the one that failed still runs";
+}
+
+TEST_F(ProjectFileTest, DatabaseSourceWithoutAFileLeavesItsFieldsAsTheyAre) {
+  ObjectRecord source = SourceTrailer();
+  source.Param = 0;
+  frmMain.cboRSet.SetVisible(false);
+  frmMain.chkQuote.SetVisible(true);
+  frmMain.cboRSet.AddItem("as before");
+  Load(Bytes({SerialTrailer(), source}));
+  EXPECT_FALSE(frmMain.cboRSet.Visible());
+  EXPECT_TRUE(frmMain.chkQuote.Visible());
+  EXPECT_EQ(frmMain.cboRSet.ListCount(), 1);
+  EXPECT_EQ(frmMain.cboImportType.ListIndex(), 0);
+}
+
 TEST_F(ProjectFileTest, DatabaseThatCannotBeOpenedIsPassedOver) {
   ObjectRecord source = SourceTrailer();
   source.Param = 0;
