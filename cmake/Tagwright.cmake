@@ -12,7 +12,6 @@ target_compile_options(
             -Wnon-virtual-dtor
             -Woverloaded-virtual
             -Wcast-align
-            -Wnull-dereference
             -Werror)
 # GCC 12 takes some string concatenations for overlapping copies; later compilers know better.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
