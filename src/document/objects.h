@@ -87,7 +87,6 @@ inline Flag DirtyFlag = kFalse;           // unsaved changes
 inline Flag MetricUnits = kTrue;          // millimetres; 0 inches
 inline double UnitScale = 1.0;            // millimetres per display unit: 1.0 or 25.4
 inline double RulerScale = 1.0;           // millimetres between ruler ticks: 1.0 or 2.54
-inline Surface* DrawTarget = nullptr;     // what all drawing goes to
 inline double LabelWidth = 0;             // of one label
 inline double LabelHeight = 0;
 inline std::int16_t PrintOffsetX = 0;  // added to the origin of every printed label

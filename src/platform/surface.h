@@ -132,4 +132,7 @@ class Surface {
   double pen_y_ = 0;
 };
 
+// What all drawing goes to: picBoard's canvas, a page of the Printer, the preview's page.
+inline Surface* DrawTarget = nullptr;
+
 }  // namespace tagwright
