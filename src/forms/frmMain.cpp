@@ -48,6 +48,7 @@ void DesignTools(FrmMain& f) {
 }
 
 void DesignBoard(FrmMain& f) {
+  f.picBoard.SetFocusStandIn(&f.txtSetFocus(0));
   f.picBoard.SetBackColor(Rgb(160, 164, 170));
   for (const auto& [index, hold] : f.lblHold) {
     hold->SetVisible(false);

@@ -31,8 +31,8 @@ class FontService {
 FontService& Fonts();
 void SetFonts(FontService* service);  // not owned; null: FixedFonts
 
-// Fonts for tests: every character half the size wide (Bold adds a tenth), ascent 0.9 and descent
-// 0.2 of the size, families "Arial", "Courier New", "Times New Roman".
+// Fonts for tests: every character half the size wide (a tenth of that more in bold), ascent 0.9
+// and descent 0.2 of the size, families "Arial", "Courier New", "Times New Roman".
 FontService& FixedFonts();
 
 }  // namespace tagwright

@@ -21,12 +21,13 @@ class Picture {
 using PicturePtr = std::shared_ptr<const Picture>;
 
 // Reads the picture file `path`: first frame, no turn by EXIF. Faults 53 when the file is missing,
-// 481 when it is no readable picture. Reads anew at each call; nothing is cached.
+// 481 when it is no readable picture or no reader is set. Reads anew at each call; nothing is
+// cached.
 PicturePtr LoadPicture(std::string_view path);
 
 // The reader that the platform provides: bytes of a file to a picture, null when unreadable.
 // `name` is for the format only where the bytes leave it open.
 using PictureReader = PicturePtr (*)(const std::string& bytes, std::string_view name);
-void SetPictureReader(PictureReader reader);
+void SetPictureReader(PictureReader reader);  // null: none
 
 }  // namespace tagwright

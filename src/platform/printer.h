@@ -16,15 +16,15 @@ class PrinterDevice {
   virtual ~PrinterDevice() = default;
   virtual std::string DeviceName() const = 0;
   virtual Surface& Page() = 0;
-  virtual int Orientation() const = 0;          // 1 portrait, 2 landscape
-  virtual void SetOrientation(int value) = 0;   // faults 380 for other values
-  virtual int PaperSize() const = 0;            // 1 Letter, 9 A4
-  virtual void SetPaperSize(int value) = 0;     // faults 380 for other values
-  virtual double Width() const = 0;             // of the paper
+  virtual int Orientation() const = 0;         // 1 portrait, 2 landscape
+  virtual void SetOrientation(int value) = 0;  // faults 380 for other values
+  virtual int PaperSize() const = 0;           // 1 Letter, 9 A4
+  virtual void SetPaperSize(int value) = 0;    // faults 380 for other values
+  virtual double Width() const = 0;            // of the paper
   virtual double Height() const = 0;
-  virtual void NewPage() = 0;                   // ends the page, blank or not
-  virtual void EndDoc() = 0;                    // sends the job; nothing when none is open
-  virtual void KillDoc() = 0;                   // drops the job
+  virtual void NewPage() = 0;  // ends the page, blank or not
+  virtual void EndDoc() = 0;   // sends the job; nothing when none is open
+  virtual void KillDoc() = 0;  // drops the job
 };
 
 // The printers of the system, replaceable in tests.

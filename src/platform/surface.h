@@ -16,8 +16,9 @@ namespace tagwright {
 using Color = std::int32_t;  // 0x00BBGGRR
 constexpr Color Rgb(int red, int green, int blue) { return red | green << 8 | blue << 16; }
 
-// Drawing modes that the program uses; any other value draws like a copy.
-enum DrawModeCode : int { kMaskPen = 9 /* AND; on a printed page a copy */, kCopyPen = 13 };
+// Drawing modes that the program uses; any other value draws like a copy. On a picture in memory a
+// masked colour is ANDed with what lies beneath, for all but text; a printed page takes a copy.
+enum DrawModeCode : int { kMaskPen = 9, kCopyPen = 13 };
 
 enum PenStyle : int { kPenSolid = 0, kPenNull = 5 };
 enum BackgroundMode : int { kTransparentBackground = 1, kOpaqueBackground = 2 };
@@ -77,18 +78,23 @@ class Surface {
   double TextWidth(std::string_view text) const;
   double TextHeight(std::string_view text) const;
   // Paints one line with its top left at CurrentX, CurrentY, then moves CurrentX to 0 and CurrentY
-  // down by the line height. An empty text paints nothing but opens a printed page.
+  // down by the line height; what follows a line break goes on from there. An empty text paints
+  // nothing but opens a printed page.
   void Print(std::string_view text);
 
   // --- boxes, pictures ---
-  // A filled box between two corners in user units, without a border.
+  // A filled box between two corners in user units, in any order, without a border. The edges are
+  // exactly there, on no grid of pixels; a box without an area paints nothing.
   void Line(double x1, double y1, double x2, double y2, Color color);
-  // Stretches the picture into the box (user units). A null picture paints nothing.
+  // Stretches the picture into the box (user units); a negative size turns it over. A null picture
+  // paints nothing.
   void PaintPicture(const PicturePtr& picture, double x, double y, double width, double height);
   // Fills the whole surface with BackColor; CurrentX and CurrentY become 0.
   void Cls();
 
   // --- drawing calls of the device context, in device pixels (real numbers) ---
+  // A shape's edge runs exactly through the coordinates given, right and bottom included, and the
+  // pen lies centred on it. Coordinates that are not finite paint nothing, here as everywhere.
   void SelectObject(const Pen& pen) { pen_ = pen; }
   void SelectObject(const Brush& brush) { brush_ = brush; }
   void SetBkMode(int mode) { background_mode_ = mode; }
@@ -120,6 +126,9 @@ class Surface {
                              double height) = 0;
 
  private:
+  void PrintLine(std::string_view line);
+  void Shape(ShapeKind kind, double x1, double y1, double x2, double y2, double corner_width,
+             double corner_height);
   double PixelX(double units) const { return ScaleX(units, kUserScale, kPixels); }
   double PixelY(double units) const { return ScaleY(units, kUserScale, kPixels); }
 
