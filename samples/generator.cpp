@@ -120,7 +120,7 @@ void Save(const std::string& path) {
 
 // 99 by 38 mm: a sender's badge at the left, the receiver from the data.
 void AddressLabel(const std::string& folder) {
-  mnuFileNew_Click();
+  StartProgram();
   ChooseLayout("A4 14 per sheet");
   ChooseData(folder + "addresses.csv");
   AddShape(kRoundedRectangle, 2.5, 2.5, 27, 33, 0, kNavy, kMist);
@@ -139,7 +139,7 @@ void AddressLabel(const std::string& folder) {
 
 // 99 by 38 mm: every shape, and texts of each alignment.
 void ProductLabel(const std::string& folder) {
-  mnuFileNew_Click();
+  StartProgram();
   ChooseLayout("A4 14 per sheet");
   AddShape(kRoundedRectangle, 2, 2, 95, 34, 2, kPlum, kWhite);
   AddShape(kEllipse, 5, 5, 28, 28, 0, kPlum, kPlum);
@@ -163,7 +163,7 @@ void ProductLabel(const std::string& folder) {
 
 // 63 by 38 mm: a price from the data, as the user's currency.
 void ShelfLabel(const std::string& folder) {
-  mnuFileNew_Click();
+  StartProgram();
   ChooseLayout("A4 21 per sheet");
   ChooseData(folder + "products.csv");
   AddShape(kRectangle, 0, 3, 63, 6, 0, kRed, kRed);
@@ -187,7 +187,6 @@ int main(int argc, char** argv) {
   }
   const std::string folder = std::filesystem::absolute(argv[1]).string() + "/";
   SetExecutableFolder(folder);
-  StartProgram();
   AddressLabel(folder);
   ProductLabel(folder);
   ShelfLabel(folder);

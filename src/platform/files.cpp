@@ -122,7 +122,7 @@ void RequireRegular(const Descriptor& file) {
 }  // namespace
 
 std::string ResolvePath(std::string_view path) {
-  const std::string whole = WithSystemSeparators(path);
+  std::string whole = WithSystemSeparators(path);
   if (!CanBeName(path) || Exists(whole)) return whole;
   std::string resolved;
   std::size_t at = 0;

@@ -5,6 +5,7 @@
 #include <wctype.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <map>
 #include <unordered_map>
 
@@ -77,6 +78,7 @@ void Append(std::string& out, char32_t c) {
 
 // The byte at which character `count` starts, or the end.
 std::size_t ByteOfCharacter(std::string_view text, std::size_t count) {
+  if (IsAscii(text)) return std::min(count, text.size());
   std::size_t at = 0;
   for (; count > 0 && at < text.size(); --count) at += Decode(text.substr(at)).bytes;
   return at;
@@ -126,7 +128,7 @@ Page MakePage(int code_page) {
   Page page;
   const std::string name = "CP" + std::to_string(code_page);
   const iconv_t converter = iconv_open("UCS-4LE", name.c_str());
-  const bool known = converter != iconv_t(-1);
+  const bool known = reinterpret_cast<std::intptr_t>(converter) != -1;
   for (int byte = 0; byte < 256; ++byte) {
     const auto b = static_cast<unsigned char>(byte);
     page.characters[b] = known ? CharacterOfByte(converter, b) : b;
@@ -169,7 +171,9 @@ bool Contains(std::string_view text, std::string_view part) {
 
 }  // namespace
 
+// Most text is ASCII, and redraws convert a great deal of it: the short way is worth having.
 std::u32string Characters(std::string_view text) {
+  if (IsAscii(text)) return {text.begin(), text.end()};
   std::u32string out;
   out.reserve(text.size());
   while (!text.empty()) {
@@ -181,9 +185,13 @@ std::u32string Characters(std::string_view text) {
 }
 
 std::string FromCharacters(std::u32string_view characters) {
-  std::string out;
-  out.reserve(characters.size());
-  for (const char32_t c : characters) Append(out, IsScalar(c) ? c : kReplacement);
+  std::string out(characters.size(), '\0');
+  std::size_t ascii = 0;
+  for (; ascii < characters.size() && characters[ascii] < 0x80; ++ascii) {
+    out[ascii] = static_cast<char>(characters[ascii]);
+  }
+  out.resize(ascii);
+  for (const char32_t c : characters.substr(ascii)) Append(out, IsScalar(c) ? c : kReplacement);
   return out;
 }
 

@@ -260,6 +260,9 @@ constexpr StartStep kSteps[] = {
     {"forget the data source", ForgetDataSource},
 };
 
+// A window that appears has a size, whether or not that is news to the model.
+void LayOutFirstTime() { frmMain.WindowEvents().Resize.Raise(-1); }
+
 }  // namespace
 
 std::string SettingsPath() { return AppFolder + "progsettings.twd"; }
@@ -282,6 +285,7 @@ void StartProgram() {
   WireForm<FrmMain> = WireMainWindow;
   WireForm<FrmAbout> = WireAboutWindow;
   Load(frmMain);
+  LayOutFirstTime();
   Show(frmMain);
 }
 

@@ -1,0 +1,7 @@
+#include "platform/qt/metafile_qt.h"
+
+namespace tagwright {
+
+PicturePtr ReadMetafile(const std::string&) { return nullptr; }
+
+}  // namespace tagwright

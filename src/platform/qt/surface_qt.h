@@ -1,0 +1,92 @@
+// Surfaces that the toolkit paints: a persistent picture in memory and a printed page.
+#pragma once
+
+#include <QImage>
+#include <QPainter>
+#include <functional>
+#include <unordered_map>
+
+#include "platform/qt/color_qt.h"
+#include "platform/qt/fonts_qt.h"
+#include "platform/surface.h"
+
+namespace tagwright {
+
+// Paints to an image of the screen's own pixels. The image follows Scale()'s size in twips (15
+// twips are one logical pixel) whenever it is painted on or asked for; what lay in the part that
+// stays is kept, the rest has BackColor. Text and boxes lie at real positions with smooth edges.
+// The straight edges of rectangles and lines move by up to half a screen pixel onto whole ones, so
+// that a thin pen is crisp.
+class ImageSurface : public Surface {
+ public:
+  explicit ImageSurface(double device_pixel_ratio = 1);
+
+  // The image as painted so far; its device pixel ratio is set. Good until the next painting.
+  const QImage& Image() const;
+
+  double DevicePixelRatio() const { return ratio_; }
+  // Screen pixels of one logical pixel. A change lets the image be painted anew.
+  void SetDevicePixelRatio(double ratio);
+
+ protected:
+  void DeviceClear(Color color) override;
+  void DeviceText(double x, double y, double ascent, std::string_view text, const FontSpec& font,
+                  Color color) override;
+  void DeviceBox(double x1, double y1, double x2, double y2, Color color) override;
+  void DeviceShape(ShapeKind kind, double x1, double y1, double x2, double y2, double corner_width,
+                   double corner_height, const Pen& pen, const Brush& brush) override;
+  void DeviceLine(double x1, double y1, double x2, double y2, const Pen& pen) override;
+  void DevicePicture(const Picture& picture, double x, double y, double width,
+                     double height) override;
+
+ private:
+  // The open painter in logical pixels; null when the image has no pixels.
+  QPainter* Open();
+  // Lets the image have the size that the scale asks for.
+  void Fit() const;
+  double Snapped(double value, double pen_width) const;
+  void MaskPicture(const Picture& picture, const QRectF& box);
+
+  double ratio_;
+  // Opened by the first painting and closed when the image is asked for: opening one for every
+  // call would cost more than most calls.
+  mutable QPainter painter_;
+  mutable QImage image_;
+};
+
+// Paints on the page of a printer through a painter that its owner opens. One unit of the painter
+// is one pixel of the printer; nothing is moved onto whole pixels. Text stays text.
+class PageSurface : public Surface {
+ public:
+  // `open` is called before anything is painted; it returns the painter of the open page, or faults
+  // when there can be none.
+  PageSurface(double pixels_per_inch, std::function<QPainter&()> open);
+
+  // A job is over: pictures of the next one are stored anew.
+  void ForgetPictures() { pictures_.clear(); }
+
+ protected:
+  void DeviceClear(Color color) override;
+  void DeviceOpen() override;
+  void DeviceText(double x, double y, double ascent, std::string_view text, const FontSpec& font,
+                  Color color) override;
+  void DeviceBox(double x1, double y1, double x2, double y2, Color color) override;
+  void DeviceShape(ShapeKind kind, double x1, double y1, double x2, double y2, double corner_width,
+                   double corner_height, const Pen& pen, const Brush& brush) override;
+  void DeviceLine(double x1, double y1, double x2, double y2, const Pen& pen) override;
+  void DevicePicture(const Picture& picture, double x, double y, double width,
+                     double height) override;
+
+ private:
+  // The pixels under which a document already knows this picture; the picture's own when it is new.
+  QImage StoredPixels(const std::string& digest, const QImage& pixels);
+
+  std::function<QPainter&()> open_;
+  // A sheet shows the same logo in every cell, loaded anew each time: the document holds it once.
+  std::unordered_map<std::string, QImage> pictures_;
+};
+
+// Makes the toolkit's fonts, pictures and printers the program's.
+void InstallPaintServices();
+
+}  // namespace tagwright

@@ -1,0 +1,85 @@
+// The program as its parts meet: a command reaches its handler, and what one handler sets runs the
+// next.
+#include "shell/wiring.h"
+
+#include "document/objects.h"
+#include "document/project_file.h"
+#include "document/redraw.h"
+#include "shell/shell_fixture.h"
+
+namespace tagwright {
+namespace {
+
+class WiringTest : public ShellTest {
+ protected:
+  WiringTest() { StartProgram(); }
+};
+
+TEST_F(WiringTest, ChoosingALayoutGivesTheLabelItsSizeAndRedraws) {
+  const auto redraws = RedrawCount;
+  frmMain.cboLabelLayout.UserChoose(5);
+  EXPECT_EQ(LabelWidth, 63);
+  EXPECT_EQ(LabelHeight, 38);
+  EXPECT_EQ(RedrawCount, redraws + 1);
+}
+
+TEST_F(WiringTest, AUnitChangeRedrawsForTheUnitAndForTheLayoutThatItSelects) {
+  frmMain.cboLabelLayout.UserChoose(0);
+  const auto redraws = RedrawCount;
+  frmMain.mnuUnitIn.Press();
+  EXPECT_EQ(RedrawCount, redraws + 2);
+  EXPECT_EQ(frmMain.cboLabelLayout.Text(), "A4 14 per sheet");
+  EXPECT_EQ(LabelWidth, 99);
+}
+
+TEST_F(WiringTest, NewPressesTheSelectTool) {
+  frmMain.cmdTools(3).Press();
+  CurrentTool = 3;
+  frmMain.mnuFileNew.Press();
+  EXPECT_EQ(CurrentTool, 0);
+  EXPECT_FALSE(frmMain.cboFont.Visible());
+  EXPECT_GT(frmMain.picProperties.Order(), frmMain.picText.Order());
+}
+
+TEST_F(WiringTest, SaveNewAndOpenFromTheRecentList) {
+  frmMain.cboLabelLayout.UserChoose(5);
+  GrowObjects();
+  ClearObject(0);
+  ObjectAt(0).ObjType = kRectangle;
+  dialogs.files = {folder.File("Ab.twp")};
+  frmMain.mnuFileSaveAs.SetEnabled(true);
+  frmMain.mnuFileSaveAs.Press();
+  frmMain.mnuFileNew.Press();
+  ASSERT_EQ(ObjectUB, -1);
+  frmMain.cboLabelLayout.UserChoose(0);
+  EXPECT_EQ(frmMain.mnuFileOld(0).Caption(), LowerCase(folder.File("Ab.twp")));
+  frmMain.mnuFileOld(0).Press();
+  EXPECT_EQ(ObjectUB, 0);
+  EXPECT_EQ(frmMain.cboLabelLayout.ListIndex(), 5);
+  EXPECT_EQ(LabelWidth, 63);
+}
+
+// Every control that answers the user is bound to something, were it to nothing on purpose: an
+// event that was forgotten is not in the switchboard at all.
+TEST_F(WiringTest, EveryMenuEntryAndButtonIsOnTheSwitchboard) {
+  for (const Control* control : frmMain.AllControls()) {
+    const auto* entry = dynamic_cast<const Menu*>(control);
+    const bool command = (entry && entry->Items().empty() && entry->Name() != "mnuFileBar4") ||
+                         dynamic_cast<const CommandButton*>(control);
+    if (!command) continue;
+    EXPECT_TRUE(static_cast<bool>(control->Events().Click)) << control->Name();
+  }
+}
+
+TEST_F(WiringTest, CommandsThatAreNotThereYetDoNothing) {
+  const auto redraws = RedrawCount;
+  frmMain.cmdDesLabel.Press();
+  frmMain.mnuFileSerial.Press();
+  frmMain.mnuEditSelectAll.Press();
+  frmMain.cmdPrint.Press();
+  EXPECT_EQ(RedrawCount, redraws);
+  EXPECT_TRUE(dialogs.messages.empty());
+}
+
+}  // namespace
+}  // namespace tagwright

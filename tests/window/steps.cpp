@@ -1,0 +1,70 @@
+#include "window/steps.h"
+
+#include <algorithm>
+#include <filesystem>
+
+namespace tagwright::window_test {
+namespace {
+
+std::string FileName(const std::string& path) {
+  return std::filesystem::path(path).filename().string();
+}
+
+std::string Numbers(int first, int second) {
+  return " " + std::to_string(first) + " " + std::to_string(second);
+}
+
+}  // namespace
+
+std::string SampleLabel(const std::string& name) { return TAGWRIGHT_SAMPLES "/" + name; }
+
+void OpenProject(const Program& program, const std::string& path) {
+  ChooseMenu(program, {"File", "Open"});
+  WaitForWindow("Open");
+  Type(path);
+  Key("Return");
+  WaitFor("\"" + path + "\" in the title",
+          [&] { return program.Title().find("[" + FileName(path)) != std::string::npos; });
+  WaitForWindow("Tagwright");
+}
+
+void SaveProjectAs(const Program& program, const std::string& path) {
+  ChooseMenu(program, {"File", "Save As"});
+  WaitForWindow("Save");
+  Type(path);
+  Key("Return");
+  WaitForWindow("Tagwright");
+  WaitFor("the file " + path, [&] { return std::filesystem::exists(path); });
+}
+
+int Leave(Program& program) {
+  ChooseMenu(program, {"File", "Exit"});
+  return program.WaitForExit();
+}
+
+Box Board(const Program& program) { return Find(program, "Label").box; }
+
+int LabelPixels(const Program& program) {
+  Box middle = Board(program);
+  middle.y += middle.height / 2;
+  middle.height = 1;
+  const auto pixels = Pixels(middle);
+  return static_cast<int>(std::ranges::count(pixels, 0xFFFFFFU));
+}
+
+int Coloured(const Program& program, std::uint32_t color) {
+  const auto pixels = Pixels(Board(program));
+  return static_cast<int>(std::ranges::count(pixels, color));
+}
+
+void PlaceWindow(const Program& program, const Box& frame) {
+  const Box client = program.Client();
+  const Box outer = program.Frame();
+  Shell("xdotool windowsize " + program.Window() +
+        Numbers(frame.width - (outer.width - client.width),
+                frame.height - (outer.height - client.height)));
+  Shell("xdotool windowmove " + program.Window() + Numbers(frame.x, frame.y));
+  WaitFor("the window at its place", [&] { return program.Frame() == frame; });
+}
+
+}  // namespace tagwright::window_test

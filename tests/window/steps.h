@@ -1,0 +1,33 @@
+// What users do with a label project, as steps that the scenarios share.
+#pragma once
+
+#include <string>
+
+#include "window/desktop.h"
+
+namespace tagwright::window_test {
+
+// Full path of a sample label that the build has written.
+std::string SampleLabel(const std::string& name);
+
+// Opens the project `path` with File > Open and waits for it in the title.
+void OpenProject(const Program& program, const std::string& path);
+
+// Saves with File > Save As under `path`, and waits for the file.
+void SaveProjectAs(const Program& program, const std::string& path);
+
+// Leaves with File > Exit. Returns the exit code.
+int Leave(Program& program);
+
+// The board on the screen, and on it the label of an otherwise empty board: how many pixels of the
+// board's middle row are white.
+Box Board(const Program& program);
+int LabelPixels(const Program& program);
+
+// How many pixels of the board have exactly this colour (0xRRGGBB).
+int Coloured(const Program& program, std::uint32_t color);
+
+// Moves and sizes the main window, frame included.
+void PlaceWindow(const Program& program, const Box& frame);
+
+}  // namespace tagwright::window_test
