@@ -48,7 +48,7 @@ TEST_F(InterleavedTest, TheFirstDigitIsTheBarsAndTheSecondTheSpaces) {
   EXPECT_EQ(Picture(),
             "1010"
             "11010010101100"
-            "11011010110100"
+            "11011010010100"
             "11010011001010"
             "1101");
 }
@@ -79,7 +79,7 @@ TEST_F(InterleavedTest, DoubleZeroAloneIsAStartAndAStop) {
 
 TEST_F(InterleavedTest, ALastLoneZeroVanishesToo) {
   EXPECT_EQ(Strings(InterleavedPatterns("120")), (Rows{"1111", "2112111122", "", "211"}));
-  EXPECT_EQ(InterleavedSymbol("01"), "1112121121");
+  EXPECT_EQ(InterleavedSymbol("01"), "1211212112");
   EXPECT_EQ(InterleavedSymbol("10"), "2111121221");
 }
 
