@@ -23,7 +23,7 @@ Control::Control(Container* container, std::string name, int index,
   if (form_) form_->Enroll(this);
 }
 
-Control::Control(Form* form, std::string name, int index, std::shared_ptr<ControlEvents> events)
+Control::Control(std::string name, Form* form, int index, std::shared_ptr<ControlEvents> events)
     : name_(std::move(name)),
       index_(index),
       form_(form),

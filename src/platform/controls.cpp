@@ -16,16 +16,25 @@ void CheckRange(int value, int low, int high) {
   if (value < low || value > high) RaiseFault(kBadValue);
 }
 
-// Takes the first line off `rest`.
-std::string_view TakeLine(std::string_view& rest) {
-  const std::size_t end = rest.find_first_of("\r\n");
-  const std::string_view line = rest.substr(0, end);
-  if (end == std::string_view::npos) {
-    rest = {};
-  } else {
-    rest.remove_prefix(end + (rest.substr(end, 2) == "\r\n" ? 2 : 1));
+struct Extent {
+  double width = 0;
+  double height = 0;
+};
+
+// What `text` takes in twips: its widest line by all its lines.
+Extent Measure(std::string_view text, const FontSpec& font) {
+  if (font.Size <= 0) return {};
+  const double line_height = Fonts().Ascent(font) + Fonts().Descent(font);
+  Extent extent;
+  std::size_t end = 0;
+  for (std::size_t start = 0; end != std::string_view::npos;) {
+    end = text.find_first_of("\r\n", start);
+    const std::string_view line = text.substr(start, end - start);
+    extent.width = std::max(extent.width, Fonts().Width(line, font) * kTwipsPerPoint);
+    extent.height += line_height * kTwipsPerPoint;
+    start = end + (text.substr(std::min(end, text.size()), 2) == "\r\n" ? 2 : 1);
   }
-  return line;
+  return extent;
 }
 
 }  // namespace
@@ -118,22 +127,11 @@ Control* Label::FocusTarget() { return Parent() ? Parent()->FocusStandIn() : nul
 
 void Label::Fit() {
   if (!auto_size_) return;
-  double width = 0;
-  int lines = 0;
-  std::string_view rest = caption_;
-  const bool measurable = font_.Size > 0;
-  do {
-    const bool last = rest.find_first_of("\r\n") == std::string_view::npos;
-    const std::string_view line = TakeLine(rest);
-    if (measurable) width = std::max(width, Fonts().Width(line, font_));
-    ++lines;
-    if (last) break;
-  } while (true);
-  const double line_height = measurable ? Fonts().Ascent(font_) + Fonts().Descent(font_) : 0;
+  const Extent extent = Measure(caption_, font_);
   const double unit_x = Parent() ? Parent()->Scale().UnitX() : 1;
   const double unit_y = Parent() ? Parent()->Scale().UnitY() : 1;
-  Move(Left(), Top(), width * kTwipsPerPoint / unit_x,
-       lines * line_height * kTwipsPerPoint / unit_y);
+  SetWidth(extent.width / unit_x);
+  SetHeight(extent.height / unit_y);
 }
 
 // --- lists --------------------------------------------------------------------------------------
@@ -334,12 +332,12 @@ void Timer::Elapsed() {
 
 // --- menus --------------------------------------------------------------------------------------
 
-Menu::Menu(Form* form, std::string name) : Control(form, std::move(name), -1, nullptr) {
+Menu::Menu(Form* form, std::string name) : Control(std::move(name), form, -1, nullptr) {
   form->menus_.push_back(this);
 }
 
 Menu::Menu(Menu* parent, std::string name, int index, std::shared_ptr<ControlEvents> events)
-    : Control(parent->ParentForm(), std::move(name), index, std::move(events)), parent_(parent) {
+    : Control(std::move(name), parent->ParentForm(), index, std::move(events)), parent_(parent) {
   parent->items_.push_back(this);
 }
 

@@ -165,15 +165,19 @@ class Control {
   // Whether the class takes the keyboard at all.
   virtual bool TakesFocus() const { return false; }
 
-  // --- what the user does, reported by the view (see also Container's mouse routing) ---
+  // --- what the user does, reported by the view ---
   void UserFocus();  // as SetFocus, but quietly nothing where SetFocus would fault
   void UserDblClick();
   // The mouse over a control that has a view of its own; points are twips from its corner. A press
   // moves the focus (to it, or where FocusStandIn says) before MouseDown and captures the control
   // until the last button is up. A release without a press raises nothing; one while a handler runs
   // waits. A second press of a button that is down ends the first one: its release was lost.
-  virtual void UserMouseDown(int button, int shift, double x_twips, double y_twips);
-  virtual void UserMouseMove(int button, int shift, double x_twips, double y_twips);
+  //
+  // In a container whose children have no views of their own the press finds its control there (see
+  // ChildAt), before the focus moves. That one stays captured also when it is hidden meanwhile; its
+  // x and y follow its present corner.
+  void UserMouseDown(int button, int shift, double x_twips, double y_twips);
+  void UserMouseMove(int button, int shift, double x_twips, double y_twips);
   void UserMouseUp(int button, int shift, double x_twips, double y_twips);
 
   void AttachView(ControlView* view);  // not owned; null detaches
@@ -187,13 +191,15 @@ class Control {
 
  protected:
   // For controls that have a name on `form` but no place in it.
-  Control(Form* form, std::string name, int index, std::shared_ptr<ControlEvents> events);
+  Control(std::string name, Form* form, int index, std::shared_ptr<ControlEvents> events);
   int WaitLevel() const;
   virtual void SizeChanged() { Notify(Aspect::kGeometry); }
   virtual double MouseUnitX() const { return 1; }  // twips of one unit of its mouse events
   virtual double MouseUnitY() const { return 1; }
   virtual bool TakesMouse() const { return false; }  // on a board: labels do
   virtual bool TakesNegativeSize() const { return false; }
+  // The control that hears the mouse at a place in this one's view.
+  virtual Control& MouseTarget(double, double) { return *this; }
   // The control that takes the keyboard when this one is pressed.
   virtual Control* FocusTarget() { return this; }
 
@@ -204,8 +210,6 @@ class Control {
   bool CanTakeFocus() const { return form_ && TakesFocus() && IsUsable(); }
   void CheckSize(double width, double height) const;
   void Resize(double width, double height);
-  void BeginPress(Control& target, int button, int shift, double x_twips, double y_twips);
-  void TrackMouse(Control& target, int button, int shift, double x_twips, double y_twips);
   void RaiseMouse(Control& target, MouseEvent event, int button, int shift, double x_twips,
                   double y_twips);
   void DeliverReleases();
@@ -252,12 +256,6 @@ class Container : public Control {
   // are passed over; a disabled label does not cover what lies under it.
   Control* ChildAt(double x_twips, double y_twips) const;
 
-  // Mouse routing for a container whose children have no views of their own. Points are twips from
-  // this container's corner. A press finds its control, moves the focus as a click does and
-  // captures the control until the release, also when it is hidden meanwhile; its x and y follow
-  // the control's present corner. See Control for the rest.
-  void UserMouseDown(int button, int shift, double x_twips, double y_twips) override;
-  void UserMouseMove(int button, int shift, double x_twips, double y_twips) override;
   // The control that a press in this container holds; null without one.
   Control* Captured() const;
 
@@ -269,6 +267,7 @@ class Container : public Control {
  protected:
   void ResizeScale(double width_twips, double height_twips);
   Control* FocusTarget() override { return focus_stand_in_; }
+  Control& MouseTarget(double x_twips, double y_twips) override;
   double MouseUnitX() const override { return scale_.UnitX(); }
   double MouseUnitY() const override { return scale_.UnitY(); }
   // Runs `change` on the scale, then converts the children's numbers.
@@ -279,7 +278,6 @@ class Container : public Control {
   friend class Control;
   void Adopt(Control* child);
   void Release(Control* child);
-  Control& MouseTarget(double x_twips, double y_twips);
 
   std::vector<Control*> children_;
   ScaleSpace scale_;
@@ -752,8 +750,8 @@ class Form : public Container {
   // while a handler runs, since what that handler does next must not see held modifiers.
   void KeyboardLeaves();
 
-  // Forgets what the user has under way here: waiting resizes, activations and keys, and a press.
-  // For a window that goes.
+  // Forgets what the user has under way here, for a window that goes: waiting resizes, activations
+  // and keys, a press, and that it is the active one.
   void DropUserActs();
 
  protected:
@@ -765,6 +763,7 @@ class Form : public Container {
   friend class Container;
   void Enroll(Control* control);
   void Dismiss(Control* control);
+  void DropPresses();
   void GiveFocus(Control* control);
   void TakeFrame(double left, double top, double width, double height, double client_width,
                  double client_height, WindowState state);

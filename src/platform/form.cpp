@@ -22,7 +22,6 @@ Form::Form(std::string name) : Container(nullptr, std::move(name)) { form_ = thi
 
 Form::~Form() {
   DropUserActs();
-  if (active_form == this) active_form = nullptr;
   for (Control* control : all_) control->form_ = nullptr;
   form_ = nullptr;
 }
@@ -142,6 +141,15 @@ void Form::UserKeyUp(int key_code, int shift) {
     }
   };
   AfterHandlers(&waits_.key_up, raise, event_level_);
+}
+
+void Form::DropUserActs() {
+  for (const char* key : {&waits_.resize, &waits_.move, &waits_.activate, &waits_.key_up}) {
+    ForgetAfterHandlers(key);
+  }
+  key_ups_.clear();
+  DropPresses();
+  if (active_form == this) active_form = nullptr;
 }
 
 void Form::KeyboardLeaves() { form_events_->KeyUp.Raise(-1, 0, 0); }

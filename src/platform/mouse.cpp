@@ -53,14 +53,6 @@ void ModalOpens() {
 
 void UserButtonsUp() { ReleaseEverywhere(nullptr); }
 
-void Control::UserMouseDown(int button, int shift, double x_twips, double y_twips) {
-  BeginPress(*this, button, shift, x_twips, y_twips);
-}
-
-void Control::UserMouseMove(int button, int shift, double x_twips, double y_twips) {
-  TrackMouse(*this, button, shift, x_twips, y_twips);
-}
-
 // All buttons that are up by the time the handlers are done come up together then.
 void Control::UserMouseUp(int button, int shift, double x_twips, double y_twips) {
   MousePress* press = PressOn(this);
@@ -98,16 +90,17 @@ void Control::ForgetPress() {
   std::erase_if(presses, mine);
 }
 
-// Focus and MouseDown are one event: what has to wait for its end must not come between the two.
-void Control::BeginPress(Control& target, int button, int shift, double x_twips, double y_twips) {
+void Control::UserMouseDown(int button, int shift, double x_twips, double y_twips) {
   if (Waits() || !IsUsable()) return;
   ReleaseEverywhere(this);  // a press elsewhere can only have lost its release
   if (const MousePress* lost = PressOn(this)) UserMouseUp(button, shift, lost->x, lost->y);
+  Control& target = MouseTarget(x_twips, y_twips);
   if (!PressOn(this)) Presses().push_back({this, &target, 0});
   MousePress& press = *PressOn(this);
   press.buttons |= button;
   press.x = x_twips;
   press.y = y_twips;
+  // Focus and MouseDown are one event: what waits for its end must not come between the two.
   RunHandler([&] {
     Control* focus = target.FocusTarget();
     if (focus && focus->CanTakeFocus()) focus->SetFocus();
@@ -118,12 +111,13 @@ void Control::BeginPress(Control& target, int button, int shift, double x_twips,
   });
 }
 
-void Control::TrackMouse(Control& target, int button, int shift, double x_twips, double y_twips) {
+void Control::UserMouseMove(int button, int shift, double x_twips, double y_twips) {
   if (Waits() || !IsUsable()) return;
   if (MousePress* press = PressOn(this)) {
     press->x = x_twips;
     press->y = y_twips;
   }
+  Control& target = MouseTarget(x_twips, y_twips);
   RaiseMouse(target, &ControlEvents::MouseMove, button, shift, x_twips, y_twips);
 }
 
@@ -134,14 +128,6 @@ void Control::RaiseMouse(Control& target, MouseEvent event, int button, int shif
   (target.events_.get()->*event)
       .Raise(target.index_, button, shift, (x_twips - left) / target.MouseUnitX(),
              (y_twips - top) / target.MouseUnitY());
-}
-
-void Container::UserMouseDown(int button, int shift, double x_twips, double y_twips) {
-  BeginPress(MouseTarget(x_twips, y_twips), button, shift, x_twips, y_twips);
-}
-
-void Container::UserMouseMove(int button, int shift, double x_twips, double y_twips) {
-  TrackMouse(MouseTarget(x_twips, y_twips), button, shift, x_twips, y_twips);
 }
 
 Control* Container::Captured() const {
@@ -155,11 +141,7 @@ Control& Container::MouseTarget(double x_twips, double y_twips) {
   return child ? *child : *this;
 }
 
-void Form::DropUserActs() {
-  for (const char* key : {&waits_.resize, &waits_.move, &waits_.activate, &waits_.key_up}) {
-    ForgetAfterHandlers(key);
-  }
-  key_ups_.clear();
+void Form::DropPresses() {
   const std::vector<MousePress> presses = Presses();
   for (const MousePress& press : presses) {
     if (press.surface->ParentForm() == this) press.surface->ForgetPress();
