@@ -179,14 +179,11 @@ void SelectPenAndBrush(const ObjectRecord& shape) {
 }
 
 // Never slanted: a box that is wider than high holds a horizontal line, any other a vertical one.
-void PaintLine(PixelBox box) {
-  if (box.y2 - box.y1 < box.x2 - box.x1) {
-    box.y2 = box.y1;
-  } else {
-    box.x2 = box.x1;
-  }
+// The record decides, since converted lengths would let their last bit break a tie.
+void PaintLine(const ObjectRecord& line, const PixelBox& box) {
+  const bool horizontal = line.Height < line.Width;
   DrawTarget->MoveToEx(box.x1, box.y1);
-  DrawTarget->LineTo(box.x2, box.y2);
+  DrawTarget->LineTo(horizontal ? box.x2 : box.x1, horizontal ? box.y1 : box.y2);
 }
 
 void PaintShape(const ObjectRecord& shape, bool output) {
@@ -195,7 +192,7 @@ void PaintShape(const ObjectRecord& shape, bool output) {
   const double corner = std::nearbyint(kObjectCorner * ZoomFactor);
   switch (shape.ObjType) {
     case kLine:
-      return PaintLine(box);
+      return PaintLine(shape, box);
     case kRectangle:
       return DrawTarget->Rectangle(box.x1, box.y1, box.x2, box.y2);
     case kRoundedRectangle:

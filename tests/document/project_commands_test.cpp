@@ -1,0 +1,182 @@
+#include "document/document_support.h"
+#include "platform/text.h"
+
+namespace tagwright {
+namespace {
+
+constexpr const char* kQuestion = "Do you want to save the changes you have made to this label?";
+
+class ProjectCommandsTest : public LabelTest {
+ protected:
+  std::string Path() const { return folder.File("Label.twp"); }
+
+  // A saved label with one text.
+  void SaveOne() {
+    Add(TextObject("saved"));
+    ProjectPath = Path();
+    SaveProject(kFalse);
+  }
+};
+
+TEST_F(ProjectCommandsTest, NewEmptiesTheLabelAndItsPanels) {
+  SaveOne();
+  HoldAt(0).SetVisible(true);
+  ShowHandles(HoldAt(0));
+  SelectedObject = 0;
+  frmMain.lblGraphicFName.SetCaption("f");
+  frmMain.lblGraphicX.SetCaption("1");
+  frmMain.lblGraphicY.SetCaption("2");
+  frmMain.txtBCodeData.SetText("123");
+  frmMain.txtTool.SetText("t");
+  frmMain.lblFileName.SetCaption("/a.csv");
+  frmMain.mnuUndo.SetEnabled(true);
+  frmMain.mnuFileSaveAs.SetEnabled(true);
+  CurrentTable = "t";
+  DatabasePassword = "p";
+  RecordCount = 5;
+  RedrawSkip = 3;
+  SerialPrefix = "kept";
+  int presses = 0;
+  frmMain.cmdTools.Events().Click = [&](int index) { presses += index == 0 ? 1 : 100; };
+  mnuFileNew_Click();
+  EXPECT_EQ(ObjectUB, -1);
+  EXPECT_EQ(RedrawSkip, -1);
+  EXPECT_FALSE(HoldAt(0).Visible());
+  EXPECT_FALSE(frmMain.shpBox.Visible());
+  EXPECT_FALSE(frmMain.lblHandle(0).Visible());
+  EXPECT_FALSE(frmMain.mnuUndo.Enabled());
+  EXPECT_FALSE(frmMain.mnuFileSaveAs.Enabled());
+  EXPECT_EQ(frmMain.lblGraphicFName.Caption(), "");
+  EXPECT_EQ(frmMain.lblGraphicX.Caption(), "");
+  EXPECT_EQ(frmMain.lblGraphicY.Caption(), "");
+  EXPECT_EQ(frmMain.txtBCodeData.Text(), "");
+  EXPECT_EQ(frmMain.txtTool.Text(), "");
+  EXPECT_EQ(frmMain.lblFileName.Caption(), "");
+  EXPECT_EQ(CurrentTable, "");
+  EXPECT_EQ(DatabasePassword, "");
+  EXPECT_EQ(RecordCount, -1);
+  EXPECT_EQ(DirtyFlag, kFalse);
+  EXPECT_EQ(ProjectPath, "");
+  EXPECT_EQ(frmMain.Caption(), "Tagwright Designer Gold [untitled]");
+  EXPECT_EQ(presses, 1) << "the first tool button";
+  EXPECT_EQ(RedrawCount, 1);
+  EXPECT_EQ(SerialPrefix, "kept");
+  EXPECT_TRUE(dialogs.messages.empty());
+}
+
+TEST_F(ProjectCommandsTest, NewAsksAboutUnsavedChanges) {
+  SaveOne();
+  DirtyFlag = kTrue;
+  dialogs.answers = {Answer::kCancel};
+  mnuFileNew_Click();
+  ASSERT_EQ(dialogs.messages.size(), 1u);
+  EXPECT_EQ(dialogs.messages[0].text, kQuestion);
+  EXPECT_EQ(dialogs.messages[0].buttons, MessageButtons::kYesNoCancel);
+  EXPECT_EQ(ObjectUB, 0);
+  EXPECT_EQ(DirtyFlag, kTrue);
+}
+
+TEST_F(ProjectCommandsTest, NewSavesOnYesAndForgetsOnNo) {
+  SaveOne();
+  Add(TextObject("second"));
+  DirtyFlag = kTrue;
+  dialogs.answers = {Answer::kNo};
+  mnuFileNew_Click();
+  EXPECT_EQ(FileLength(Path()), 3 * 333);
+  EXPECT_EQ(ObjectUB, -1);
+  Add(TextObject("a"));
+  Add(TextObject("b"));
+  ProjectPath = Path();
+  DirtyFlag = kTrue;
+  dialogs.answers = {Answer::kYes};
+  mnuFileNew_Click();
+  EXPECT_EQ(FileLength(Path()), 4 * 333);
+  EXPECT_EQ(ObjectUB, -1);
+}
+
+TEST_F(ProjectCommandsTest, NewAfterACancelledSaveStillEmptiesTheLabel) {
+  Add(TextObject("a"));
+  DirtyFlag = kTrue;
+  dialogs.answers = {Answer::kYes};
+  mnuFileNew_Click();
+  EXPECT_EQ(dialogs.requests.size(), 1u);
+  EXPECT_EQ(ObjectUB, -1);
+}
+
+TEST_F(ProjectCommandsTest, OpenLoadsTheChosenFileAndClearsTheDirtyFlag) {
+  SaveOne();
+  mnuFileNew_Click();
+  frmMain.chkFirstRow.Events().Click = [] { DirtyFlag = kTrue; };
+  frmMain.chkFirstRow.SetValue(1);
+  dialogs.answers = {Answer::kNo};
+  dialogs.files = {Path()};
+  mnuFileOpen_Click();
+  EXPECT_EQ(ObjectUB, 0);
+  EXPECT_EQ(ProjectPath, Path());
+  EXPECT_EQ(DirtyFlag, kFalse);
+  EXPECT_EQ(dialogs.requests[0].filter, "Tagwright Project (*.twp)|*.twp");
+}
+
+TEST_F(ProjectCommandsTest, OpenAsksFirstAndCancelEndsItThere) {
+  DirtyFlag = kTrue;
+  dialogs.answers = {Answer::kCancel};
+  mnuFileOpen_Click();
+  ASSERT_EQ(dialogs.messages.size(), 1u);
+  EXPECT_EQ(dialogs.messages[0].text, kQuestion);
+  EXPECT_TRUE(dialogs.requests.empty());
+}
+
+TEST_F(ProjectCommandsTest, CancelledOpenDialogEndsSilentlyWithNothingChanged) {
+  Add(TextObject("a"));
+  frmMain.cd1.FileName = Path();
+  frmMain.SetCaption("as before");
+  mnuFileOpen_Click();
+  EXPECT_EQ(ObjectUB, 0);
+  EXPECT_EQ(frmMain.Caption(), "as before");
+  EXPECT_TRUE(dialogs.messages.empty());
+}
+
+TEST_F(ProjectCommandsTest, SaveUsesTheOpenNameAndSaveAsAlwaysAsks) {
+  SaveOne();
+  mnuFileSave_Click();
+  EXPECT_TRUE(dialogs.requests.empty());
+  dialogs.files = {folder.File("Other.twp")};
+  mnuFileSaveAs_Click();
+  EXPECT_EQ(dialogs.requests.size(), 1u);
+  EXPECT_TRUE(FileExists(folder.File("Other.twp")));
+  EXPECT_EQ(ProjectPath, folder.File("Other.twp"));
+}
+
+TEST_F(ProjectCommandsTest, RecentEntryOpensItsLowerCaseCaptionWithoutAnyQuestion) {
+  std::filesystem::create_directory(folder.File("My Labels"));
+  Add(TextObject("saved"));
+  ProjectPath = folder.File("My Labels/Label ONE.twp");
+  SaveProject(kFalse);
+  const std::string saved = ProjectPath;
+  mnuFileNew_Click();
+  DirtyFlag = kTrue;
+  mnuFileOld_Click(0);
+  EXPECT_TRUE(dialogs.messages.empty());
+  EXPECT_EQ(ObjectUB, 0);
+  EXPECT_EQ(ProjectPath, LowerCase(saved));
+  EXPECT_EQ(DirtyFlag, kTrue) << "it is not cleared here";
+  // A save from there goes back to the same file.
+  Add(TextObject("second"));
+  mnuFileSave_Click();
+  EXPECT_EQ(FileLength(saved), 4 * 333);
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.File("My Labels")),
+                          std::filesystem::directory_iterator()),
+            1);
+}
+
+TEST_F(ProjectCommandsTest, RecentEntryWhoseFileIsGoneDoesNothing) {
+  SaveOne();
+  DeleteFile(Path());
+  frmMain.SetCaption("as before");
+  mnuFileOld_Click(0);
+  EXPECT_EQ(frmMain.Caption(), "as before");
+  EXPECT_EQ(ObjectUB, 0);
+}
+
+}  // namespace
+}  // namespace tagwright

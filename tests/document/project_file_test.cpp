@@ -1,0 +1,606 @@
+#include "document/project_file.h"
+
+#include <sys/resource.h>
+
+#include <csignal>
+#include <filesystem>
+
+#include "document/document_support.h"
+#include "platform/picture.h"
+
+namespace tagwright {
+namespace {
+
+PicturePtr ReadTestPicture(const std::string& bytes, std::string_view) {
+  return bytes.starts_with("picture") ? BlankPicture(1000, 1000) : nullptr;
+}
+
+class ProjectFileTest : public LabelTest {
+ protected:
+  ProjectFileTest() {
+    SetPictureReader(ReadTestPicture);
+    for (const char* name : {"a", "b", "c"}) frmMain.cboLabelLayout.AddItem(name);
+    for (const char* name : {"database", "comma", "tab"}) frmMain.cboImportType.AddItem(name);
+  }
+  ~ProjectFileTest() override {
+    SetPictureReader(nullptr);
+    SetDatabaseEngine({});
+  }
+
+  std::string Path() const { return folder.File("Label.twp"); }
+
+  // The bytes of the file that saving under Path() makes.
+  std::string Saved() {
+    ProjectPath = Path();
+    SaveProject(kFalse);
+    return ReadFile(Path());
+  }
+
+  void Load(const std::string& bytes) {
+    WriteFile(folder.File("in.twp"), bytes);
+    LoadProject(folder.File("in.twp"));
+    DeleteFile(folder.File("in.twp"));
+  }
+
+  static ObjectRecord SerialTrailer() {
+    ObjectRecord trailer;
+    trailer.ObjType = kSerialTrailer;
+    trailer.Text = "SN-";
+    trailer.Param = 500;
+    trailer.FontSize = 3;
+    trailer.FillColor = 12;
+    trailer.ForeColor = 40;
+    trailer.Bold = kFalse;
+    trailer.Top = -1;
+    trailer.FontName = "10";
+    return trailer;
+  }
+
+  static ObjectRecord SourceTrailer() {
+    ObjectRecord trailer;
+    trailer.ObjType = kSourceTrailer;
+    trailer.Param = 1;
+    trailer.FillColor = -1;
+    trailer.ForeColor = 2;
+    return trailer;
+  }
+
+  static std::string Bytes(const std::vector<ObjectRecord>& records) {
+    std::string bytes;
+    for (const ObjectRecord& record : records) bytes += ProjectRecordBytes(record);
+    return bytes;
+  }
+
+  static ObjectRecord RecordOf(const std::string& bytes, std::size_t index) {
+    return ProjectRecordFromBytes(std::string_view(bytes).substr(index * 333));
+  }
+};
+
+// --- saving -------------------------------------------------------------------------------------
+
+TEST_F(ProjectFileTest, EmptyDocumentSavesAs666BytesAndLoadsToNothingWithBothTrailersUsed) {
+  SerialPrefix = "P";
+  SerialIncrement = 7;
+  frmMain.cboLabelLayout.SetListIndex(1);
+  const std::string bytes = Saved();
+  ASSERT_EQ(bytes.size(), 666u);
+  SerialPrefix = "";
+  SerialIncrement = 1;
+  frmMain.cboLabelLayout.SetListIndex(0);
+  Load(bytes);
+  EXPECT_EQ(ObjectUB, -1);
+  EXPECT_EQ(SerialPrefix, "P");
+  EXPECT_EQ(SerialIncrement, 7);
+  EXPECT_EQ(frmMain.cboLabelLayout.ListIndex(), 1);
+}
+
+TEST_F(ProjectFileTest, SerialTrailerFields) {
+  Add(TextObject("a"));
+  SerialPrefix = "SN-";
+  SerialValue = 500;
+  SerialIncrement = 3;
+  SerialBarcodeHeight = 12.5;  // halves to the even number
+  SerialBarcodeWidth = 37.5;
+  SerialPrintText = kFalse;
+  SerialBarcodeType = -1;
+  frmMain.chkFirstRow.SetValue(1);
+  const std::string bytes = Saved();
+  ASSERT_EQ(bytes.size(), 999u);
+  const ObjectRecord trailer = RecordOf(bytes, 1);
+  EXPECT_EQ(trailer.ObjType, -2);
+  EXPECT_EQ(trailer.Text.Trimmed(), "SN-");
+  EXPECT_EQ(trailer.Param, 500);
+  EXPECT_EQ(trailer.FontSize, 3);
+  EXPECT_EQ(trailer.FillColor, 12);
+  EXPECT_EQ(trailer.ForeColor, 38);
+  EXPECT_EQ(trailer.Bold, kFalse);
+  EXPECT_EQ(trailer.Top, -1);
+  EXPECT_EQ(trailer.FontName.Trimmed(), "10");
+  // What the trailer does not use is zero in a fresh slot.
+  EXPECT_EQ(trailer.Left, 0);
+  EXPECT_EQ(trailer.Width, 0);
+  EXPECT_EQ(trailer.Height, 0);
+  EXPECT_EQ(trailer.Italic, 0);
+}
+
+TEST_F(ProjectFileTest, DataSourceTrailerFields) {
+  frmMain.lblFileName.SetCaption("/data/a.csv");
+  frmMain.cboImportType.SetListIndex(2);
+  frmMain.cboRSet.AddItem("t0");
+  frmMain.cboRSet.AddItem("t1");
+  frmMain.cboRSet.SetListIndex(1);
+  frmMain.cboLabelLayout.SetListIndex(2);
+  DatabasePassword = std::string(36, 'p');
+  const ObjectRecord trailer = RecordOf(Saved(), 1);
+  EXPECT_EQ(trailer.ObjType, -1);
+  EXPECT_EQ(trailer.Text.Trimmed(), "/data/a.csv");
+  EXPECT_EQ(trailer.Param, 2);
+  EXPECT_EQ(trailer.FillColor, 1);
+  EXPECT_EQ(trailer.FontName.Trimmed(), std::string(35, 'p'));
+  EXPECT_EQ(trailer.ForeColor, 2);
+  EXPECT_EQ(trailer.Left, 0);
+  EXPECT_EQ(trailer.FontSize, 0);
+  EXPECT_EQ(trailer.Bold, 0);
+}
+
+TEST_F(ProjectFileTest, WithoutATableTheTrailerSaysMinusOne) {
+  EXPECT_EQ(RecordOf(Saved(), 1).FillColor, -1);
+}
+
+TEST_F(ProjectFileTest, SavingLeavesTheDocumentAndItsTrailersBeyondTheBound) {
+  Add(TextObject("a"));
+  DirtyFlag = kTrue;
+  frmMain.SetCaption("as before");
+  Saved();
+  EXPECT_EQ(ObjectUB, 0);
+  EXPECT_EQ(ObjectAt(0).Text.Trimmed(), "a");
+  EXPECT_EQ(ObjectAt(1).ObjType, kSerialTrailer);
+  EXPECT_EQ(ObjectAt(2).ObjType, kSourceTrailer);
+  EXPECT_EQ(DirtyFlag, kFalse);
+  EXPECT_EQ(frmMain.Caption(), "as before");
+  EXPECT_EQ(RecentFiles[0], Path());
+}
+
+TEST_F(ProjectFileTest, SecondSaveIsByteIdentical) {
+  Add(TextObject("a"));
+  const std::string first = Saved();
+  EXPECT_EQ(Saved(), first);
+}
+
+TEST_F(ProjectFileTest, SaveLoadSaveIsByteIdentical) {
+  ObjectRecord record = ShapeObject(kEllipse, 1.1f, -2.2f, 3.3, 4.4);
+  record.Text = "unused \xE2\x82\xAC";
+  Add(record);
+  Add(TextObject("two\r\nlines"));
+  Add(Field(3, 106));
+  SerialPrefix = "P";
+  SerialBarcodeWidth = 25.4;
+  frmMain.chkQuote.SetValue(1);
+  frmMain.cboLabelLayout.SetListIndex(1);
+  const std::string first = Saved();
+  Load(first);
+  EXPECT_EQ(Saved(), first);
+}
+
+TEST_F(ProjectFileTest, SlotThatHeldARecordKeepsWhatTheTrailerLeavesOut) {
+  Add(TextObject("a"));
+  Add(ShapeObject(kRectangle, 7, 8, 9, 10));
+  RemoveRecord(1);
+  const ObjectRecord trailer = RecordOf(Saved(), 1);
+  EXPECT_EQ(trailer.ObjType, kSerialTrailer);
+  EXPECT_EQ(trailer.Left, 7);
+  EXPECT_EQ(trailer.Width, 9);
+}
+
+TEST_F(ProjectFileTest, SerialValueAbove32767LeavesTheRecordsOldValue) {
+  SerialValue = 32767;
+  EXPECT_EQ(RecordOf(Saved(), 0).Param, 32767);
+  SerialValue = 32768;
+  EXPECT_EQ(RecordOf(Saved(), 0).Param, 32767);
+  ResetDocumentState();
+  SerialValue = 70000;
+  EXPECT_EQ(RecordOf(Saved(), 0).Param, 0);
+}
+
+TEST_F(ProjectFileTest, SerialBarcodeWidthOf25Point4ComesBackAs25) {
+  SerialBarcodeWidth = 25.4;
+  Load(Saved());
+  EXPECT_EQ(SerialBarcodeWidth, 25);
+}
+
+TEST_F(ProjectFileTest, LongFileIsReplacedNotOverwritten) {
+  WriteFile(Path(), std::string(5000, 'x'));
+  EXPECT_EQ(Saved().size(), 666u);
+}
+
+TEST_F(ProjectFileTest, ExistingFileIsFoundWhateverItsCaseAndKeepsItsName) {
+  WriteFile(folder.File("LABEL.twp"), "old");
+  ProjectPath = folder.File("label.TWP");
+  SaveProject(kFalse);
+  EXPECT_EQ(FileLength(folder.File("LABEL.twp")), 666);
+  EXPECT_FALSE(std::filesystem::exists(folder.File("label.TWP")));
+}
+
+TEST_F(ProjectFileTest, SaveThatCannotWriteIsPassedOverAndCountsAsSaved) {
+  DirtyFlag = kTrue;
+  ProjectPath = folder.File("no such folder/a.twp");
+  SaveProject(kFalse);
+  EXPECT_EQ(DirtyFlag, kFalse);
+  EXPECT_EQ(ObjectUB, -1);
+  EXPECT_TRUE(dialogs.messages.empty());
+}
+
+// No file may grow beyond `bytes` while this lives.
+class FileSizeLimit {
+ public:
+  explicit FileSizeLimit(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
+    getrlimit(RLIMIT_FSIZE, &before_);
+    const rlimit limit{bytes, before_.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &limit);
+  }
+  ~FileSizeLimit() {
+    setrlimit(RLIMIT_FSIZE, &before_);
+    std::signal(SIGXFSZ, handler_);
+  }
+  FileSizeLimit(const FileSizeLimit&) = delete;
+  FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+
+ private:
+  rlimit before_{};
+  void (*handler_)(int);
+};
+
+TEST_F(ProjectFileTest, ExistingFileIsDeletedFirstSoThatAFailedWriteLosesIt) {
+  const std::string old(500, 'x');
+  WriteFile(Path(), old);
+  ProjectPath = Path();
+  {
+    const FileSizeLimit limit(100);
+    SaveProject(kFalse);
+  }
+  const std::string left = FileExists(Path()) ? ReadFile(Path()) : "";
+  EXPECT_LE(left.size(), 100u);
+  EXPECT_EQ(left.find('x'), std::string::npos);
+  EXPECT_TRUE(dialogs.messages.empty());
+}
+
+TEST_F(ProjectFileTest, UntitledLabelAsksForANameWithTheProjectsFilter) {
+  frmMain.cd1.FileName = "/left/over.gif";
+  dialogs.files = {Path()};
+  SaveProject(kFalse);
+  ASSERT_EQ(dialogs.requests.size(), 1u);
+  EXPECT_EQ(dialogs.requests[0].filter, "Tagwright Project (*.twp)|*.twp");
+  EXPECT_EQ(dialogs.requests[0].default_extension, ".twp");
+  EXPECT_EQ(dialogs.requests[0].file_name, "");
+  EXPECT_EQ(ProjectPath, Path());
+  EXPECT_EQ(frmMain.Caption(), "Tagwright Designer Gold [" + Path() + "]") << "the whole name";
+  EXPECT_TRUE(FileExists(Path()));
+}
+
+TEST_F(ProjectFileTest, CancelledSaveChangesNothing) {
+  Add(TextObject("a"));
+  DirtyFlag = kTrue;
+  frmMain.SetCaption("as before");
+  SaveProject(kFalse);
+  EXPECT_EQ(DirtyFlag, kTrue);
+  EXPECT_EQ(ProjectPath, "");
+  EXPECT_EQ(ObjectUB, 0);
+  EXPECT_EQ(Objects.size(), 1u);
+  EXPECT_EQ(frmMain.Caption(), "as before");
+  EXPECT_EQ(RecentUB, -1);
+  EXPECT_TRUE(dialogs.messages.empty());
+}
+
+TEST_F(ProjectFileTest, SaveOf99AndMoreRecordsGoesThrough) {
+  for (int i = 0; i < 200; ++i) Add(TextObject("a"));
+  EXPECT_EQ(Saved().size(), 202u * 333u);
+}
+
+// --- loading ------------------------------------------------------------------------------------
+
+TEST_F(ProjectFileTest, LoadTakesRecordsTrailersCaptionAndRecentFile) {
+  const std::string path =
+      Made("My Label.twp", Bytes({TextObject("a"), ShapeObject(kEllipse, 1, 2, 3, 4),
+                                  SerialTrailer(), SourceTrailer()}));
+  LoadProject(path);
+  EXPECT_EQ(frmMain.Caption(), "Tagwright Designer Gold [My Label.twp]");
+  EXPECT_EQ(ProjectPath, path);
+  EXPECT_EQ(RecentFiles[0], path);
+  EXPECT_EQ(ObjectUB, 1);
+  EXPECT_EQ(Objects.size(), 4u) << "the trailers lie beyond the bound";
+  EXPECT_EQ(ObjectAt(1).ObjType, kEllipse);
+  EXPECT_EQ(SerialPrefix, "SN-");
+  EXPECT_EQ(SerialValue, 500);
+  EXPECT_EQ(SerialIncrement, 3);
+  EXPECT_EQ(SerialBarcodeHeight, 12);
+  EXPECT_EQ(SerialBarcodeWidth, 40);
+  EXPECT_EQ(SerialPrintText, kFalse);
+  EXPECT_EQ(SerialBarcodeType, -1);
+  EXPECT_EQ(frmMain.chkFirstRow.Value(), 1);
+  EXPECT_EQ(frmMain.chkQuote.Value(), 0);
+  EXPECT_EQ(frmMain.cboLabelLayout.ListIndex(), 2);
+  EXPECT_EQ(frmMain.cboImportType.ListIndex(), 1);
+  EXPECT_FALSE(LoadingProject);
+  EXPECT_EQ(RedrawCount, 1);
+}
+
+TEST_F(ProjectFileTest, LoadFillsNoFieldValuesAndLeavesTheDirtyFlagToItsCaller) {
+  DirtyFlag = kTrue;
+  FieldValues[0] = "as before";
+  Load(Bytes({SerialTrailer(), SourceTrailer()}));
+  EXPECT_EQ(FieldValues[0], "as before");
+  EXPECT_EQ(DirtyFlag, kTrue);
+}
+
+TEST_F(ProjectFileTest, FileWithoutTrailersLoadsEveryRecordAsAnObject) {
+  SerialPrefix = "kept";
+  Load(Bytes({TextObject("a"), TextObject("b")}));
+  EXPECT_EQ(ObjectUB, 1);
+  EXPECT_EQ(SerialPrefix, "kept");
+}
+
+TEST_F(ProjectFileTest, FileWithTheSerialTrailerAloneUsesIt) {
+  Load(Bytes({TextObject("a"), SerialTrailer()}));
+  EXPECT_EQ(ObjectUB, 0);
+  EXPECT_EQ(SerialPrefix, "SN-");
+}
+
+TEST_F(ProjectFileTest, TrailersInTheWrongOrderAreObjects) {
+  Load(Bytes({SourceTrailer(), SerialTrailer()}));
+  EXPECT_EQ(ObjectUB, 0);
+  EXPECT_EQ(ObjectAt(0).ObjType, kSourceTrailer);
+}
+
+TEST_F(ProjectFileTest, NumberOfRecordsIsRoundedAndTheLastOnePartlyRead) {
+  const std::string two = Bytes({TextObject("a"), TextObject("b")});
+  const std::vector<std::pair<std::size_t, int>> rows = {{0, -1},  {1, -1},  {166, -1}, {167, 0},
+                                                         {333, 0}, {499, 0}, {500, 1},  {666, 1}};
+  for (const auto& [length, bound] : rows) {
+    Load(two.substr(0, length));
+    EXPECT_EQ(ObjectUB, bound) << length;
+  }
+  Load(two.substr(0, 333 + 170));
+  ASSERT_EQ(ObjectUB, 1);
+  EXPECT_EQ(ObjectAt(1).ObjType, kText);
+  EXPECT_EQ(ObjectAt(1).Text.Trimmed(), "b");
+  EXPECT_EQ(ObjectAt(1).FontName.Trimmed(), "");
+  EXPECT_EQ(ObjectAt(1).FontSize, 0);
+}
+
+TEST_F(ProjectFileTest, FileOf32768BytesOrMoreOpensAsBlankRecords) {
+  const std::string bytes = Bytes(std::vector<ObjectRecord>(101, TextObject("a")));
+  for (const auto& [length, text] : std::vector<std::pair<std::size_t, std::string>>{
+           {98u * 333u, "a"}, {32767u, "a"}, {32768u, ""}, {99u * 333u, ""}}) {
+    Load(bytes.substr(0, length));
+    EXPECT_EQ(ObjectAt(0).Text.Trimmed(), text) << length;
+    EXPECT_EQ(ObjectUB, length < 32700 ? 97 : length == 99u * 333u ? 98 : 97) << length;
+  }
+  EXPECT_EQ(ObjectAt(98), ObjectRecord{});
+  EXPECT_TRUE(dialogs.messages.empty());
+}
+
+TEST_F(ProjectFileTest, LargestProjectThatOpensHas96ObjectsAndBothTrailers) {
+  std::vector<ObjectRecord> records(96, TextObject("a"));
+  records.push_back(SerialTrailer());
+  records.push_back(SourceTrailer());
+  Load(Bytes(records));
+  EXPECT_EQ(ObjectUB, 95);
+  EXPECT_EQ(ObjectAt(95).Text.Trimmed(), "a");
+}
+
+TEST_F(ProjectFileTest, MissingLayoutRowKeepsTheLayout) {
+  frmMain.cboLabelLayout.SetListIndex(1);
+  ObjectRecord source = SourceTrailer();
+  source.ForeColor = 99;
+  Load(Bytes({SerialTrailer(), source}));
+  EXPECT_EQ(frmMain.cboLabelLayout.ListIndex(), 1);
+  EXPECT_EQ(ObjectUB, -1);
+}
+
+TEST_F(ProjectFileTest, LayoutIsAppliedThroughItsList) {
+  int clicks = 0;
+  frmMain.cboLabelLayout.Events().Click = [&] { ++clicks; };
+  Load(Bytes({SerialTrailer(), SourceTrailer()}));
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(ProjectFileTest, BlankFontNameOfTheSerialTrailerLeavesBothBoxes0) {
+  frmMain.chkFirstRow.SetValue(1);
+  frmMain.chkQuote.SetValue(1);
+  ObjectRecord serial = SerialTrailer();
+  serial.FontName = "";
+  Load(Bytes({serial}));
+  EXPECT_EQ(frmMain.chkFirstRow.Value(), 0);
+  EXPECT_EQ(frmMain.chkQuote.Value(), 0);
+}
+
+TEST_F(ProjectFileTest, CheckBoxesTakeTheFirstAndTheLastCharacter) {
+  ObjectRecord serial = SerialTrailer();
+  serial.FontName = "0x1";
+  Load(Bytes({serial}));
+  EXPECT_EQ(frmMain.chkFirstRow.Value(), 0);
+  EXPECT_EQ(frmMain.chkQuote.Value(), 1);
+}
+
+TEST_F(ProjectFileTest, SerialNumbersThatDoNotFitKeepTheirOldValues) {
+  ObjectRecord serial = SerialTrailer();
+  serial.FontSize = 40000;
+  serial.Top = -40000;
+  Load(Bytes({serial}));
+  EXPECT_EQ(SerialIncrement, 1);
+  EXPECT_EQ(SerialBarcodeType, 6);
+  EXPECT_EQ(SerialValue, 500);
+}
+
+TEST_F(ProjectFileTest, LoadingEndsTheSelection) {
+  Add(TextObject("a"));
+  SelectedObject = 0;
+  SelectedUpper = 1;
+  ShowHandles(HoldAt(0));
+  Load(Bytes({TextObject("b")}));
+  EXPECT_EQ(SelectedObject, -1);
+  EXPECT_EQ(SelectedUpper, -1);
+  EXPECT_FALSE(frmMain.lblHandle(0).Visible());
+}
+
+// --- data source --------------------------------------------------------------------------------
+
+TEST_F(ProjectFileTest, MissingDataFileAsksAndNoLeavesAnEmptyDocumentUnderTheNewName) {
+  ObjectRecord source = SourceTrailer();
+  source.Text = "/nowhere/a.csv";
+  dialogs.answers = {Answer::kNo};
+  const std::string path = Made("in.twp", Bytes({TextObject("a"), SerialTrailer(), source}));
+  LoadProject(path);
+  ASSERT_EQ(dialogs.messages.size(), 1u);
+  EXPECT_EQ(dialogs.messages[0].text,
+            "The data file /nowhere/a.csv referenced in this project does not exist\r\n"
+            "Continue loading anyway?");
+  EXPECT_EQ(dialogs.messages[0].buttons, MessageButtons::kYesNo);
+  EXPECT_EQ(ObjectUB, -1);
+  EXPECT_EQ(ProjectPath, path);
+  EXPECT_EQ(frmMain.Caption(), "Tagwright Designer Gold [in.twp]");
+  EXPECT_EQ(frmMain.lblFileName.Caption(), "");
+  EXPECT_EQ(SerialPrefix, "");
+  EXPECT_EQ(RedrawCount, 0);
+  EXPECT_TRUE(LoadingProject) << "the routine leaves before it clears its guard";
+}
+
+TEST_F(ProjectFileTest, MissingDataFileAndYesLoadsOn) {
+  ObjectRecord source = SourceTrailer();
+  source.Text = "/nowhere/a.csv";
+  dialogs.answers = {Answer::kYes};
+  Load(Bytes({TextObject("a"), SerialTrailer(), source}));
+  EXPECT_EQ(ObjectUB, 0);
+  EXPECT_EQ(frmMain.lblFileName.Caption(), "/nowhere/a.csv");
+  EXPECT_EQ(SerialPrefix, "SN-");
+}
+
+TEST_F(ProjectFileTest, TextSourceShowsItsOwnFields) {
+  ObjectRecord source = SourceTrailer();
+  source.Text = Made("a.csv", "x,y\n");
+  source.FontName = " secret ";
+  frmMain.cboRSet.SetVisible(true);
+  frmMain.chkQuote.SetVisible(false);
+  Load(Bytes({SerialTrailer(), source}));
+  EXPECT_TRUE(dialogs.messages.empty());
+  EXPECT_FALSE(frmMain.cboRSet.Visible());
+  EXPECT_FALSE(frmMain.lblFName(1).Visible());
+  EXPECT_TRUE(frmMain.chkFirstRow.Visible());
+  EXPECT_TRUE(frmMain.chkQuote.Visible());
+  EXPECT_EQ(DatabasePassword, "secret");
+}
+
+TEST_F(ProjectFileTest, ZeroBytesInTheDataPathCountAsBlanks) {
+  std::string bytes = Bytes({SourceTrailer()});
+  bytes.replace(26, 250, std::string(250, '\0'));
+  Load(bytes);
+  EXPECT_TRUE(dialogs.messages.empty());
+  EXPECT_EQ(frmMain.lblFileName.Caption(), "");
+}
+
+TEST_F(ProjectFileTest, ImportTypeIsSetUnderTheGuard) {
+  bool guarded = false;
+  frmMain.cboImportType.Events().Click = [&] { guarded = LoadingProject; };
+  Load(Bytes({SerialTrailer(), SourceTrailer()}));
+  EXPECT_TRUE(guarded);
+  EXPECT_FALSE(LoadingProject);
+}
+
+class TwoTables : public Database {
+ public:
+  std::vector<std::string> TableNames() override { return {"System", "Items"}; }
+  std::unique_ptr<Recordset> OpenRecordset(const std::string&) override { return nullptr; }
+};
+
+TEST_F(ProjectFileTest, DatabaseListsItsTablesAndChoosesTheStoredOne) {
+  std::string asked;
+  SetDatabaseEngine([&](const std::string& path, const std::string& connect) {
+    asked = path + "|" + connect;
+    return std::make_unique<TwoTables>();
+  });
+  int clicks = 0;
+  frmMain.cboRSet.Events().Click = [&] { ++clicks; };
+  ObjectRecord source = SourceTrailer();
+  source.Param = 0;
+  source.Text = Made("a.mdb", "x");
+  source.FontName = "pw";
+  source.FillColor = 1;
+  frmMain.cboRSet.AddItem("old");
+  Load(Bytes({SerialTrailer(), source}));
+  EXPECT_EQ(asked, folder.File("a.mdb") + "|;PWD=pw");
+  ASSERT_EQ(frmMain.cboRSet.ListCount(), 2);
+  EXPECT_EQ(frmMain.cboRSet.List(0), "System");
+  EXPECT_EQ(frmMain.cboRSet.ListIndex(), 1);
+  EXPECT_EQ(CurrentTable, "Items");
+  EXPECT_EQ(clicks, 1) << "as any choice of a row";
+  EXPECT_TRUE(frmMain.cboRSet.Visible());
+  EXPECT_TRUE(frmMain.lblFName(1).Visible());
+  EXPECT_FALSE(frmMain.chkFirstRow.Visible());
+  EXPECT_NE(SourceDatabase, nullptr);
+}
+
+TEST_F(ProjectFileTest, DatabaseThatCannotBeOpenedIsPassedOver) {
+  ObjectRecord source = SourceTrailer();
+  source.Param = 0;
+  source.Text = Made("a.mdb", "x");
+  source.FillColor = 0;
+  Load(Bytes({TextObject("a"), SerialTrailer(), source}));
+  EXPECT_TRUE(dialogs.messages.empty());
+  EXPECT_EQ(frmMain.cboRSet.ListCount(), 0);
+  EXPECT_EQ(frmMain.lblFileName.Caption(), folder.File("a.mdb"));
+  EXPECT_EQ(ObjectUB, 0);
+  EXPECT_EQ(SerialPrefix, "SN-");
+}
+
+// --- hit areas and pictures ---------------------------------------------------------------------
+
+TEST_F(ProjectFileTest, HitAreasAreShownAndFittedBeforeAnythingIsPainted) {
+  BoardReady = 0;
+  BoardOriginX = 10;
+  BoardOriginY = 20;
+  ObjectRecord text = TextObject(" abcd ", 1, 2);
+  text.Bold = kTrue;
+  text.Italic = kTrue;
+  ObjectRecord field = Field(0, 0, "ab");
+  field.Italic = kTrue;
+  Load(Bytes({text, field, ShapeObject(kRectangle, 5, 6, 7, 8)}));
+  EXPECT_TRUE(HoldAt(0).Visible());
+  EXPECT_EQ(HoldAt(0).Left(), 11);
+  EXPECT_EQ(HoldAt(0).Top(), 22);
+  // Four bold characters of 10 mm: half of it and a tenth more each.
+  EXPECT_NEAR(HoldAt(0).Width(), 22, 1e-6);
+  EXPECT_NEAR(HoldAt(0).Height(), kLineHeight, 1e-6);
+  EXPECT_EQ(HoldAt(0).Caption(), "");
+  EXPECT_FALSE(HoldAt(0).AutoSize());
+  EXPECT_TRUE(HoldAt(0).Font().Italic);
+  EXPECT_NEAR(HoldAt(1).Width(), 10, 1e-6);
+  EXPECT_FALSE(HoldAt(1).Font().Italic);
+  EXPECT_EQ(HoldAt(2).Width(), 7);
+  EXPECT_EQ(HoldAt(2).Height(), 8);
+}
+
+TEST_F(ProjectFileTest, MissingPicturesAreNamedAndRemovedOneByOne) {
+  const std::string here = Made("here.gif", "picture");
+  Load(Bytes({PictureObject("/x/1.gif"), PictureObject("/x/2.gif"), PictureObject(here),
+              PictureObject("/x/3.gif"), TextObject("a")}));
+  ASSERT_EQ(dialogs.messages.size(), 3u);
+  EXPECT_EQ(dialogs.messages[0].text,
+            "The file /x/1.gif referenced in this project does not exist and will be removed");
+  EXPECT_EQ(dialogs.messages[2].text,
+            "The file /x/3.gif referenced in this project does not exist and will be removed");
+  EXPECT_EQ(ObjectUB, 1);
+  EXPECT_EQ(ObjectAt(0).Text.Trimmed(), here);
+  EXPECT_EQ(ObjectAt(1).Text.Trimmed(), "a");
+  EXPECT_FALSE(HoldAt(2).Visible());
+  EXPECT_EQ(SelectedObject, -1);
+}
+
+TEST_F(ProjectFileTest, PictureIsFoundWhateverItsCase) {
+  Made("Here.GIF", "picture");
+  Load(Bytes({PictureObject(folder.File("here.gif"))}));
+  EXPECT_EQ(ObjectUB, 0);
+  EXPECT_TRUE(dialogs.messages.empty());
+}
+
+}  // namespace
+}  // namespace tagwright

@@ -1,0 +1,165 @@
+#include <cmath>
+
+#include "document/document_support.h"
+
+namespace tagwright {
+namespace {
+
+constexpr Color kBand = Rgb(255, 255, 220);
+constexpr Color kInk = Rgb(150, 150, 150);
+
+class RulersTest : public LabelTest {
+ protected:
+  RulersTest() { frmMain.mnuFileRulers.SetChecked(true); }
+
+  // A board of 300 by 200 mm at `zoom`, with the label's corner at (100, 75).
+  void Draw(double zoom, double origin_x = 100, double origin_y = 75) {
+    ZoomFactor = zoom;
+    ReadyBoard();
+    BoardOriginX = origin_x;
+    BoardOriginY = origin_y;
+    Board().painted.clear();
+    DrawRulers();
+  }
+
+  static double Millimetres(double pixels) { return pixels / kPixelsPerMillimetre / ZoomFactor; }
+
+  // The ticks along the top: vertical lines. Place and length in board units.
+  std::vector<std::pair<double, double>> TopTicks() {
+    std::vector<std::pair<double, double>> ticks;
+    for (const Painted& line : Board().Of(Painted::What::kLine)) {
+      if (std::abs(line.x1 - line.x2) < 1e-9) {
+        ticks.emplace_back(Millimetres(line.x1), Millimetres(std::abs(line.y2 - line.y1)));
+      }
+    }
+    return ticks;
+  }
+
+  std::size_t TicksOfLength(double millimetres_on_screen) {
+    std::size_t count = 0;
+    for (const auto& [place, length] : TopTicks()) {
+      if (std::abs(length * ZoomFactor - millimetres_on_screen) < 1e-6) ++count;
+    }
+    return count;
+  }
+};
+
+TEST_F(RulersTest, NothingIsDrawnWithoutTheMenusCheck) {
+  frmMain.mnuFileRulers.SetChecked(false);
+  Draw(1);
+  EXPECT_TRUE(Board().painted.empty());
+}
+
+TEST_F(RulersTest, BandsFillBothSidesFiveMillimetresDeepOnScreen) {
+  for (const double zoom : {0.5, 1.0, 4.0}) {
+    Draw(zoom);
+    const auto bands = Board().Of(Painted::What::kBox);
+    ASSERT_EQ(bands.size(), 2u);
+    EXPECT_EQ(bands[0].color, kBand);
+    EXPECT_NEAR(bands[0].x2 - bands[0].x1, 300 * kPixelsPerMillimetre, 1e-6);
+    EXPECT_NEAR(bands[0].y2 - bands[0].y1, 5 * kPixelsPerMillimetre, 1e-6) << zoom;
+    EXPECT_NEAR(bands[1].x2 - bands[1].x1, 5 * kPixelsPerMillimetre, 1e-6) << zoom;
+    EXPECT_NEAR(bands[1].y2 - bands[1].y1, 200 * kPixelsPerMillimetre, 1e-6);
+  }
+}
+
+TEST_F(RulersTest, At100PercentATickStandsAtEveryMillimetre) {
+  Draw(1);
+  const auto ticks = TopTicks();
+  ASSERT_EQ(ticks.size(), 299u);  // board positions 1 to 299
+  for (std::size_t i = 0; i < ticks.size(); ++i) {
+    EXPECT_NEAR(ticks[i].first, 1.0 + static_cast<double>(i), 1e-6);
+  }
+  // Label positions -99 to 199: 29 tens (-90 to 190) and 30 further fives (-95 to 195), 2 mm long;
+  // all others 1 mm.
+  EXPECT_EQ(TicksOfLength(2), 59u);
+  EXPECT_EQ(TicksOfLength(1), 240u);
+}
+
+TEST_F(RulersTest, TicksAndNumbersAreGreyInArial7) {
+  Draw(1);
+  EXPECT_EQ(Board().Of(Painted::What::kLine).front().pen.color, kInk);
+  EXPECT_EQ(Board().Of(Painted::What::kLine).front().pen.width, 1);
+  const Painted number = Board().Of(Painted::What::kText).front();
+  EXPECT_EQ(number.color, kInk);
+  EXPECT_EQ(number.font, (FontSpec{"Arial", 7, false, false}));
+}
+
+TEST_F(RulersTest, At60PercentOnlyHalfAndMajorTicksRemain) {
+  Draw(0.6);
+  EXPECT_EQ(TicksOfLength(1), 0u);
+  // The board shows 500 mm: positions 1 to 499 are -99 to 399 on the label: 49 tens, 50 fives.
+  EXPECT_EQ(TicksOfLength(2), 99u);
+}
+
+TEST_F(RulersTest, MinorTicksNeedAZoomAboveSeventyPercent) {
+  Draw(0.7);
+  EXPECT_EQ(TicksOfLength(1), 0u);
+  Draw(0.71);
+  EXPECT_GT(TicksOfLength(1), 0u);
+}
+
+TEST_F(RulersTest, At20PercentOnlyMajorTicksRemain) {
+  Draw(0.2);
+  // 1500 mm: positions 1 to 1499 are -99 to 1399: 149 tens.
+  EXPECT_EQ(TopTicks().size(), 149u);
+  Draw(0.21);
+  EXPECT_GT(TopTicks().size(), 149u);
+}
+
+TEST_F(RulersTest, NumbersCountCentimetresAndAreNegativeBeforeTheLabel) {
+  Draw(1);
+  const auto texts = Board().Texts();
+  // Top: -9 to 19; left: origin 75, positions 1 to 199 are -74 to 124: -7 to 12.
+  ASSERT_EQ(texts.size(), 29u + 20u);
+  EXPECT_EQ(texts[0], "-9");
+  EXPECT_EQ(texts[9], "0");
+  EXPECT_EQ(texts[28], "19");
+  EXPECT_EQ(texts[29], "-7");
+  EXPECT_EQ(texts.back(), "12");
+}
+
+TEST_F(RulersTest, NumbersAreCentredAtTheTopAndEndAtTheTicksDepthAtTheLeft) {
+  Draw(1);
+  const auto texts = Board().Of(Painted::What::kText);
+  // "0" of the top ruler stands on the label's corner, 100.
+  EXPECT_NEAR(Millimetres((texts[9].x1 + texts[9].x2) / 2), 100, 1e-6);
+  // "-7" of the left ruler: label position -70, board position 5.
+  EXPECT_NEAR(Millimetres(texts[29].x2), 3, 1e-6);
+  EXPECT_NEAR(Millimetres((texts[29].y1 + texts[29].y2) / 2), 5, 1e-6);
+}
+
+TEST_F(RulersTest, At49PercentANumberComesOnlyAfterMoreThan20Ticks) {
+  Draw(0.49);
+  // Label positions from -99. The first number needs 21 ticks before it: -70. Then every 30.
+  EXPECT_EQ(Board().Texts()[0], "-7");
+  EXPECT_EQ(Board().Texts()[1], "-4");
+  Draw(0.5);
+  EXPECT_EQ(Board().Texts()[0], "-9");
+  EXPECT_EQ(Board().Texts()[1], "-8");
+}
+
+TEST_F(RulersTest, InchTicksStandOnTrueTenthsOfAnInch) {
+  MetricUnits = kFalse;
+  UnitScale = 25.4;
+  RulerScale = 2.54;
+  Draw(1);
+  // (1 - 100) / 2.54 = -38.976..: the nearest tick is -39, at 100 - 39 x 2.54 = 0.94. Cut to three
+  // decimals the quotient is -38.976, which puts that tick at 1 - 0.024 x 2.54 = 0.93904.
+  const auto ticks = TopTicks();
+  EXPECT_NEAR(ticks[0].first, 0.93904, 1e-6);
+  EXPECT_NEAR(ticks[1].first - ticks[0].first, 2.54, 1e-6);
+  EXPECT_NEAR(ticks[39].first, 100, 0.002);
+  // Tenths -39 to 78: the first whole inch is -3.
+  EXPECT_EQ(Board().Texts()[0], "-3");
+}
+
+TEST_F(RulersTest, LabelCornerAwayFromTheBoardDrawsFromItsOwnCount) {
+  Draw(1, -50, -20);
+  // Board position 1 is label position 51.
+  EXPECT_EQ(Board().Texts()[0], "6");
+  EXPECT_NEAR(TopTicks()[0].first, 1, 1e-6);
+}
+
+}  // namespace
+}  // namespace tagwright
