@@ -60,7 +60,7 @@ constexpr std::array<Pair, 100> kPairs = [] {
 
 bool IsDigit(char character) { return character >= '0' && character <= '9'; }
 
-// The painter meets nothing but pairs and single digits.
+// The painter meets nothing but pairs and single digits, which need no locale to be read.
 bool IsAboveZero(std::string_view pair) {
   const bool digits =
       !pair.empty() && pair.size() <= 2 && IsDigit(pair.front()) && IsDigit(pair.back());
@@ -76,12 +76,11 @@ std::string_view TwoOfFiveSymbol(std::int16_t Code) {
 }
 
 std::string_view InterleavedSymbol(std::string_view Pair) {
-  // The start and the stop stand for negative numbers. Zero is taken for one of them and is
+  if (Pair == "-1") return kPairsStart;
+  if (Pair == "-2") return kPairsStop;
+  // Only numbers above zero are digits to paint: zero is taken for a start or a stop, being
   // neither.
-  if (!IsAboveZero(Pair)) {
-    if (Pair == "-1") return kPairsStart;
-    return Pair == "-2" ? kPairsStop : std::string_view();
-  }
+  if (!IsAboveZero(Pair)) return {};
   if (!IsDigit(Pair.front()) || !IsDigit(Pair.back())) return {};
   const auto& widths =
       kPairs[static_cast<std::size_t>((Pair.front() - '0') * 10 + Pair.back() - '0')];
