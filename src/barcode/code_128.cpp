@@ -4,7 +4,6 @@
 #include <cmath>
 
 #include "barcode/engine.h"
-#include "common/public_functions.h"
 #include "platform/locale.h"
 
 namespace tagwright {
@@ -55,26 +54,20 @@ constexpr bool WidthsAddUp() {
 }
 static_assert(WidthsAddUp());
 
-bool AllDigits(std::string_view text) {
-  return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
-}
-
-int RowOfValue(double value) {
-  const bool known = value >= 0 && value < kRows && std::floor(value) == value;
-  return known ? static_cast<int>(value) : kNoRow;
-}
-
-// Of at most three digits.
-int Decimal(std::string_view digits) {
+// Of one to three digits; kNoRow for anything else and beyond the rows.
+int RowOfDigits(std::string_view digits) {
+  if (digits.empty() || digits.size() > 3) return kNoRow;
   int number = 0;
-  for (const char digit : digits) number = number * 10 + (digit - '0');
-  return number;
+  for (const char digit : digits) {
+    if (digit < '0' || digit > '9') return kNoRow;
+    number = number * 10 + (digit - '0');
+  }
+  return number < kRows ? number : kNoRow;
 }
 
 // The number must be written as the row's own: "05" is no row.
 int RowOfNumber(std::string_view key) {
-  const bool plain = AllDigits(key) && key.size() <= 3 && (key[0] != '0' || key.size() == 1);
-  return plain ? RowOfValue(Decimal(key)) : kNoRow;
+  return key.starts_with('0') && key.size() > 1 ? kNoRow : RowOfDigits(key);
 }
 
 int RowOfCharacter(std::string_view key) {
@@ -83,28 +76,26 @@ int RowOfCharacter(std::string_view key) {
   return row >= 0 && row < kCharacterRows ? row : kNoRow;
 }
 
-int RowOfName(std::string_view key, std::int16_t code_set) {
-  if (key == "start") return kFirstStart + code_set;
-  return key == "stop" ? kStop : kNoRow;
-}
-
-// Code set 2 goes by the number that the text is: "05" is row 5.
+// Code set 2 goes by the number that the text is, however it is written: "05" is row 5.
 int RowOfPair(std::string_view value) {
-  if (AllDigits(value) && value.size() <= 3) return RowOfValue(Decimal(value));
-  return RowOfValue(ParseNumber(value).value_or(kNoRow));
+  const int row = RowOfDigits(value);
+  if (row != kNoRow) return row;
+  const double number = ParseNumber(value).value_or(kNoRow);
+  const bool known = number >= 0 && number < kRows && std::floor(number) == number;
+  return known ? static_cast<int>(number) : kNoRow;
 }
 
 int RowOf(std::string_view value, bool as_character, std::int16_t code_set) {
-  const int named = RowOfName(value, code_set);
-  if (named != kNoRow) return named;
+  if (value == "start") return kFirstStart + code_set;
+  if (value == "stop") return kStop;
   if (code_set == kSetC) return RowOfPair(value);
   return as_character ? RowOfCharacter(value) : RowOfNumber(value);
 }
 
 void CountIn(int value, std::int16_t multiplier) {
   if (multiplier == -1) return;
-  const double product = static_cast<double>(value) * multiplier;
-  CheckSum = multiplier == 0 ? value : ToInt32(CheckSum + product);
+  const std::int64_t sum = CheckSum + std::int64_t{value} * multiplier;
+  CheckSum = multiplier == 0 ? value : Narrowed<std::int32_t>(sum);
 }
 
 }  // namespace
@@ -131,7 +122,7 @@ Patterns Code128Patterns(std::string_view Data, std::int16_t CodeSet) {
   patterns.push_back(Code128Symbol("start", 0, true, CodeSet));
   std::int16_t position = 0;
   for (std::size_t i = 0; i < Data.size(); i += step) {
-    EngineTraced([&] { position = ToInt16(position + 1); });
+    EngineTraced([&] { position = Narrowed<std::int16_t>(position + 1); });
     patterns.push_back(Code128Symbol(Data.substr(i, step), position, true, CodeSet));
   }
   patterns.push_back(Code128Symbol(Code128Check(), -1, false, CodeSet));

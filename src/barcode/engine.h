@@ -12,6 +12,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "common/diagnostics.h"
@@ -47,6 +48,13 @@ inline double Finite(double value) {
 inline float ToSingle(double value) {
   if (!(std::abs(value) <= FLT_MAX)) RaiseFault(kOverflow);
   return static_cast<float>(value);
+}
+
+// A whole number as a smaller type. Faults 6 outside it.
+template <class Integer>
+Integer Narrowed(std::int64_t value) {
+  if (!std::in_range<Integer>(value)) RaiseFault(kOverflow);
+  return static_cast<Integer>(value);
 }
 
 // Faults 11 for a zero divisor, 6 for a quotient out of range.

@@ -1,6 +1,7 @@
 #include "barcode/mod_bar_code.h"
 
 #include <algorithm>
+#include <array>
 
 #include "barcode/codabar.h"
 #include "barcode/code_128.h"
@@ -11,7 +12,6 @@
 #include "barcode/two_of_five.h"
 #include "barcode/upc_ean.h"
 #include "barcode/validation.h"
-#include "common/public_functions.h"
 
 namespace tagwright {
 namespace {
@@ -28,7 +28,7 @@ double BarRoom(std::int16_t format, double height, bool with_text) {
 
 std::int16_t PrepareTarget(double font_size) {
   std::int16_t mode = 0;
-  EngineTraced([&] { mode = ToInt16(Target().DrawMode); });
+  EngineTraced([&] { mode = Narrowed<std::int16_t>(Target().DrawMode); });
   EngineTraced([&] { Target().DrawStyle = kNoOutline; });
   EngineTraced([&] { Target().DrawMode = kMaskPen; });
   EngineTraced([&] { Target().Font.Size = Finite(font_size); });
@@ -79,19 +79,69 @@ void DrawSymbol(std::string& data, std::int16_t format, float x, float y, double
 
 // --- the bar painter ---
 
-void PaintBar(double width) {
-  const double left = CursorX, top = CursorY;
+// The text of a pattern: due until its first bar has been painted.
+struct UnderText {
+  double left;
+  std::string_view text;
+  bool due;
+};
+
+// One module stands for the space that a pattern begins with, however wide that is.
+double TextLeft(std::string_view pattern) {
+  return pattern.starts_with('0') ? CursorX + ModuleWidth : CursorX;
+}
+
+void PaintBar(float left, double width) {
+  const double top = CursorY;
   Target().Line(left, top, Finite(left + width), Finite(top + BarHeight), 0);
 }
 
-void PrintUnderBar(double left, std::string_view text) {
-  EngineTraced([&] { Target().CurrentX = Finite(left); });
+void PrintUnder(const UnderText& under) {
+  EngineTraced([&] { Target().CurrentX = Finite(under.left); });
   EngineTraced([&] { Target().CurrentY = Finite(CursorY + BarHeight + 0.25); });
-  EngineTraced([&] { Target().Print(text); });
+  EngineTraced([&] { Target().Print(under.text); });
 }
 
-std::int64_t DigitSum(std::string_view pattern) {
-  std::int64_t sum = 0;
+constexpr std::size_t kElementsAtOnce = 32;  // even: each part begins with a bar as the whole does
+using Lefts = std::array<float, kElementsAtOnce>;
+
+// Behind one element. What cannot be reached leaves the cursor where it is.
+float Advanced(float left, double width) {
+  if (!(width > 0)) return left;
+  const double next = left + width;
+  if (next <= FLT_MAX) return static_cast<float>(next);
+  EngineTraced([] { RaiseFault(kOverflow); });
+  return left;
+}
+
+// The left edges of all elements, and CursorX behind them.
+Lefts PlaceElements(std::string_view elements, double module) {
+  Lefts lefts;
+  float left = CursorX;
+  for (std::size_t i = 0; i < elements.size(); ++i) {
+    lefts[i] = left;
+    left = Advanced(left, (elements[i] - '0') * module);
+  }
+  CursorX = left;
+  return lefts;
+}
+
+// Places first and paints afterwards: a place hangs on the one before it, which is slow enough
+// without a call to the target between the two.
+void PaintElements(std::string_view elements, UnderText& under) {
+  const double module = ModuleWidth;
+  const Lefts lefts = PlaceElements(elements, module);
+  for (std::size_t i = 0; i < elements.size(); i += 2) {
+    const double width = (elements[i] - '0') * module;
+    if (!(width > 0)) continue;
+    EngineTraced([&] { PaintBar(lefts[i], width); });
+    if (under.due) PrintUnder(under);
+    under.due = false;
+  }
+}
+
+int DigitSum(std::string_view pattern) {
+  int sum = 0;
   for (const char digit : pattern) sum += digit - '0';
   return sum;
 }
@@ -123,20 +173,9 @@ void ResetBarcodeState() {
 }
 
 void PaintPattern(std::string_view Pattern, std::string_view Text) {
-  double text_left = CursorX;
-  if (Pattern.starts_with('0')) text_left += ModuleWidth;
-  bool bar = false;
-  int bars = 0;
-  for (const char digit : Pattern) {
-    bar = !bar;
-    const double width = (digit - '0') * ModuleWidth;
-    if (!(width > 0)) continue;
-    if (bar) {
-      EngineTraced([&] { PaintBar(width); });
-      if (bars == 0 && PrintChars) PrintUnderBar(text_left, Text);
-      ++bars;
-    }
-    EngineTraced([&] { CursorX = ToSingle(CursorX + width); });
+  UnderText under{TextLeft(Pattern), Text, PrintChars};
+  for (std::size_t i = 0; i < Pattern.size(); i += kElementsAtOnce) {
+    PaintElements(Pattern.substr(i, kElementsAtOnce), under);
   }
 }
 
@@ -145,13 +184,13 @@ void PaintPatterns(const Patterns& patterns) {
 }
 
 std::int16_t SumPattern(std::string_view Pattern) {
-  return ToInt16(static_cast<double>(DigitSum(Pattern)));
+  return Narrowed<std::int16_t>(DigitSum(Pattern));
 }
 
 void MeasureModule(const Patterns& patterns, double Width, std::size_t gaps) {
   std::int64_t sum = 0;
   for (const std::string_view pattern : patterns) sum += DigitSum(pattern);
-  PatternSum = ToInt16(static_cast<double>(sum));
+  PatternSum = Narrowed<std::int16_t>(sum);
   ModuleWidth = Quotient(Width, PatternSum + static_cast<double>(gaps));
 }
 

@@ -3,7 +3,6 @@
 #include <array>
 
 #include "barcode/engine.h"
-#include "common/public_functions.h"
 
 namespace tagwright {
 namespace {
@@ -63,9 +62,11 @@ bool Holds(std::string_view positions, int position) {
   return positions.find(static_cast<char>('0' + position)) != std::string_view::npos;
 }
 
-// Halves go to the even position.
-int CentrePosition(std::size_t length, std::int16_t format) {
-  return format == kUpcE ? kNoCentre : ToInt16(static_cast<double>(length) / 2 + 1);
+// Half the length and one more, halves going to the even position.
+int CentrePosition(int length, std::int16_t format) {
+  if (format == kUpcE) return kNoCentre;
+  const int below = length / 2 + 1;
+  return length % 2 == 1 && below % 2 == 1 ? below + 1 : below;
 }
 
 bool IsOdd(std::string_view data, std::int16_t format, int position, int centre) {
@@ -146,7 +147,7 @@ char UpcEanCheckDigit(std::string_view Data, std::int16_t Format) {
 }
 
 std::vector<UpcEanElement> UpcEanElements(std::string_view Data, std::int16_t Format) {
-  const int length = static_cast<int>(Data.size()), centre = CentrePosition(Data.size(), Format);
+  const int length = static_cast<int>(Data.size()), centre = CentrePosition(length, Format);
   std::vector<UpcEanElement> elements;
   elements.reserve(Data.size() + 3);
   elements.push_back({true, GuardPattern(0), ' '});
