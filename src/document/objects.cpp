@@ -33,7 +33,6 @@ void ResetView() {
   ZoomFactor = 1.0;
   BoardOriginX = 0;
   BoardOriginY = 0;
-  MetricUnits = kTrue;
   UnitScale = 1.0;
   RulerScale = 1.0;
   HairPositionX = 0;
@@ -50,8 +49,6 @@ void ResetRedraw() {
   DrawTarget = nullptr;
   PreviewMode = false;
   PreviewPaperWidth = 0;
-  PrintOffsetX = 0;
-  PrintOffsetY = 0;
 }
 
 void ResetSelection() {

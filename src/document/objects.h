@@ -84,13 +84,11 @@ inline bool PreviewMode = false;          // a redraw for the preview is under w
 inline bool SerialUsed = false;           // a printed text held the serial token
 inline std::string ProjectPath;           // full path, empty when untitled
 inline Flag DirtyFlag = kFalse;           // unsaved changes
-inline Flag MetricUnits = kTrue;          // millimetres; 0 inches
-inline double UnitScale = 1.0;            // millimetres per display unit: 1.0 or 25.4
-inline double RulerScale = 1.0;           // millimetres between ruler ticks: 1.0 or 2.54
-inline double LabelWidth = 0;             // of one label
+// Whether the unit is metric, and how far labels are moved on paper, are settings: ProgSettings.
+inline double UnitScale = 1.0;   // millimetres per display unit: 1.0 or 25.4
+inline double RulerScale = 1.0;  // millimetres between ruler ticks: 1.0 or 2.54
+inline double LabelWidth = 0;    // of one label
 inline double LabelHeight = 0;
-inline std::int16_t PrintOffsetX = 0;  // added to the origin of every printed label
-inline std::int16_t PrintOffsetY = 0;
 
 // Where the cross hairs stand, millimetres from the label's corner: whoever moves HairX and HairY
 // stores it here, so that a redraw can carry them along with the label.
@@ -118,7 +116,7 @@ inline Flag SerialPrintText = kTrue;
 // Selection (its routines live in editing).
 inline std::vector<std::int16_t> SelectedList = std::vector<std::int16_t>(257);
 inline std::int16_t SelectedUpper = -1;  // upper bound in use, -1 no group
-inline bool TextEntryActive = false;      // a text field of a panel has the keyboard
+inline bool TextEntryActive = false;     // a text field of a panel has the keyboard
 inline bool PanelLoading = false;        // a panel is being filled: its events write nothing back
 inline bool LoadingProject = false;      // a project is being loaded: no dialogs open
 

@@ -142,14 +142,15 @@ void TakeSerialTrailer() {
 
 // --- hit areas ----------------------------------------------------------------------------------
 
-// A caption stands on a hit area only while it is measured.
+// A caption stands on a hit area only while it is measured. A font that measures to no size at all
+// is passed over step by step.
 void FitToText(Label& hold, const ObjectRecord& object) {
-  hold.SetAutoSize(true);
-  hold.SetFontName(object.FontName.Trimmed());
+  CarryOn([&] { hold.SetAutoSize(true); });
+  CarryOn([&] { hold.SetFontName(object.FontName.Trimmed()); });
   CarryOn([&] { hold.SetFontSize(object.FontSize); });
-  hold.SetFontBold(object.Bold != kFalse);
-  if (object.ObjType == kText) hold.SetFontItalic(object.Italic != kFalse);
-  hold.SetCaption(object.Text.Trimmed());
+  CarryOn([&] { hold.SetFontBold(object.Bold != kFalse); });
+  if (object.ObjType == kText) CarryOn([&] { hold.SetFontItalic(object.Italic != kFalse); });
+  CarryOn([&] { hold.SetCaption(object.Text.Trimmed()); });
   hold.SetAutoSize(false);
   hold.SetCaption("");
 }

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "common/diagnostics.h"
+#include "common/prog_settings.h"
 #include "common/public_functions.h"
 #include "document/objects.h"
 #include "forms/frmMain.h"
@@ -108,8 +109,8 @@ double PreviewZoom() {
 void FixPageOrigin(RedrawPass& pass) {
   pass.label_x = std::nearbyint(pass.offset_x);
   pass.label_y = std::nearbyint(pass.offset_y);
-  BoardOriginX = PrintOffsetX + pass.offset_x;
-  BoardOriginY = PrintOffsetY + pass.offset_y;
+  BoardOriginX = ProgSettings.PrintOffsetX + pass.offset_x;
+  BoardOriginY = ProgSettings.PrintOffsetY + pass.offset_y;
   Step([] { ZoomFactor = PreviewMode ? PreviewZoom() : 1.0; });
   Step([] { Printer().Page().SetBkMode(kTransparentBackground); });
 }
@@ -231,8 +232,8 @@ void PaintPictureObject(const ObjectRecord& object) {
 
 // What a record leaves open comes from the panel; the panel's size is not zoomed.
 void SetTargetFont(const ObjectRecord& object) {
-  std::string name = object.FontName.Trimmed();
-  DrawTarget->Font.Name = name.empty() ? frmMain.cboFont.Text() : std::move(name);
+  const std::string name = object.FontName.Trimmed();
+  DrawTarget->Font.Name = name.empty() ? frmMain.cboFont.Text() : name;
   DrawTarget->Font.Size =
       object.FontSize == 0 ? ToNumber(frmMain.cboSize.Text()) : object.FontSize * ZoomFactor;
   DrawTarget->Font.Bold = object.Bold != kFalse;

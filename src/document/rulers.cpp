@@ -1,6 +1,7 @@
 #include <cmath>
 #include <string>
 
+#include "common/prog_settings.h"
 #include "document/objects.h"
 #include "document/redraw.h"
 #include "forms/frmMain.h"
@@ -74,7 +75,7 @@ void DrawNumber(const Ruler& ruler, double place, int number) {
 // How far the tick next to board position 1 stands before it. Inch ticks fall between whole units:
 // three decimals keep them on true tenths of an inch.
 double TickOffset(const Ruler& ruler, int tick) {
-  if (MetricUnits) return 0;
+  if (ProgSettings.MetricUnits) return 0;
   const double exact = std::trunc((1 - ruler.origin) / RulerScale * 1000) / 1000;
   return -(tick - exact) * RulerScale;
 }

@@ -7,10 +7,20 @@ namespace {
 constexpr double kStripHeight = 1860;
 constexpr double kPanelLeft = 50;
 constexpr double kPanelWidth = 13000;
-constexpr double kToolColumnWidth = 750;
-constexpr double kToolColumnHeight = 8400;
+constexpr double kToolColumnWidth = 1320;
+constexpr double kToolColumnHeight = 3795;
+constexpr double kToolSize = 540;
+constexpr double kToolMargin = 90;
+constexpr double kToolStep = 600;
+constexpr double kFlyoutWidth = 2940;
+constexpr double kFlyoutHeight = 660;
 constexpr double kStatusHeight = 390;
-constexpr double kHandleSize = 90;
+constexpr double kHandleSize = 105;
+
+// The one colour of what lies over the label: handles, frames, rules.
+constexpr Color kAccent = Rgb(47, 107, 216);
+constexpr Color kHair = Rgb(120, 150, 205);
+constexpr int kDots = 3;
 
 void DesignMenus(FrmMain& f) {
   f.mnuFileOpen.SetEnabled(true);
@@ -41,9 +51,15 @@ void DesignStrip(FrmMain& f) {
 void DesignTools(FrmMain& f) {
   f.picTools.SetWidth(kToolColumnWidth);
   f.picTools.SetHeight(kToolColumnHeight);
+  constexpr int kOrder[] = {0, 1, 2, 3, 4, 7, 5, 6};  // in two columns, row by row
+  for (int place = 0; place < 8; ++place) {
+    f.cmdTools(kOrder[place])
+        .Move(kToolMargin + kToolStep * (place % 2), kToolMargin + kToolStep * (place / 2),
+              kToolSize, kToolSize);
+  }
   f.picMag.SetVisible(false);
-  f.picMag.SetWidth(3000);
-  f.picMag.SetHeight(630);
+  f.picMag.SetWidth(kFlyoutWidth);
+  f.picMag.SetHeight(kFlyoutHeight);
   f.sB1.SetHeight(kStatusHeight);
 }
 
@@ -57,12 +73,22 @@ void DesignBoard(FrmMain& f) {
   for (const auto& [index, handle] : f.lblHandle) {
     handle->SetWidth(kHandleSize);
     handle->SetHeight(kHandleSize);
+    handle->SetBackColor(kAccent);
+    handle->SetForeColor(Rgb(255, 255, 255));
+    handle->SetBorderStyle(1);
     handle->SetVisible(false);
   }
   f.lblHandle(0).SetMousePointer(8);
   f.lblHandle(1).SetMousePointer(6);
   f.lblHandle(2).SetMousePointer(6);
   f.lblHandle(3).SetMousePointer(8);
+  f.shpBox.SetBorderColor(kAccent);
+  f.shpBox.SetBorderStyle(kDots);
+  f.shpLine.SetBorderColor(kAccent);
+  f.lnMX.SetBorderColor(kAccent);
+  f.lnMY.SetBorderColor(kAccent);
+  f.HairX.SetBorderColor(kHair);
+  f.HairY.SetBorderColor(kHair);
   f.shpBox.SetVisible(false);
   f.shpLine.SetVisible(false);
   f.lnMX.SetVisible(false);

@@ -241,7 +241,7 @@ class Container : public Control {
 
   ScaleSpace& Scale() { return scale_; }
   const ScaleSpace& Scale() const { return scale_; }
-  // The scale as VB-style members; changing it keeps the children where they are on screen.
+  // The scale as members of the control; changing it keeps the children where they are on screen.
   int ScaleMode() const { return scale_.ScaleMode(); }
   void SetScaleMode(int code);
   double ScaleWidth() const { return scale_.ScaleWidth(); }

@@ -13,7 +13,7 @@ class Picture {
   virtual ~Picture() = default;
   // Natural size in hundredths of a millimetre. A raster picture counts 2540 / 96 a pixel, whatever
   // resolution its file names; a metafile has the size of its placeable header, or without one the
-  // window it draws into at 96 units an inch, or 100 mm square where it names none.
+  // window it draws into at 96 units an inch, or 100 mm on its longer side where it names none.
   double Width = 0;
   double Height = 0;
 };

@@ -8,10 +8,9 @@ namespace {
 
 constexpr double kPointsPerInch = 72;
 
-// Added in its place: an entry is large, and a label has thousands.
-Painted& Add(RecordingSurface& surface, Painted::What what, double x1, double y1, double x2,
-             double y2) {
-  Painted& entry = surface.painted.emplace_back();
+Painted Entry(const Surface& surface, Painted::What what, double x1, double y1, double x2,
+              double y2) {
+  Painted entry;
   entry.what = what;
   entry.draw_mode = surface.DrawMode;
   entry.x1 = x1;
@@ -43,13 +42,14 @@ std::vector<std::string> RecordingSurface::Texts() const {
 }
 
 void RecordingSurface::DeviceClear(Color color) {
-  Painted& entry = Add(*this, Painted::What::kClear, 0, 0, 0, 0);
+  Painted entry = Entry(*this, Painted::What::kClear, 0, 0, 0, 0);
   entry.color = color;
+  painted.push_back(entry);
 }
 
 // One entry a page is enough: what comes first opens it.
 void RecordingSurface::DeviceOpen() {
-  if (painted.empty()) Add(*this, Painted::What::kOpen, 0, 0, 0, 0);
+  if (painted.empty()) painted.push_back(Entry(*this, Painted::What::kOpen, 0, 0, 0, 0));
 }
 
 void RecordingSurface::DeviceText(double x, double y, double, std::string_view text,
@@ -57,36 +57,40 @@ void RecordingSurface::DeviceText(double x, double y, double, std::string_view t
   const double pixels_per_point = Scale().PixelsPerInch() / kPointsPerInch;
   const double width = Fonts().Width(text, font) * pixels_per_point;
   const double height = (Fonts().Ascent(font) + Fonts().Descent(font)) * pixels_per_point;
-  Painted& entry = Add(*this, Painted::What::kText, x, y, x + width, y + height);
+  Painted entry = Entry(*this, Painted::What::kText, x, y, x + width, y + height);
   entry.text = text;
   entry.font = font;
   entry.color = color;
+  painted.push_back(entry);
 }
 
 void RecordingSurface::DeviceBox(double x1, double y1, double x2, double y2, Color color) {
-  Painted& entry = Add(*this, Painted::What::kBox, x1, y1, x2, y2);
+  Painted entry = Entry(*this, Painted::What::kBox, x1, y1, x2, y2);
   entry.color = color;
+  painted.push_back(entry);
 }
 
 void RecordingSurface::DeviceShape(ShapeKind kind, double x1, double y1, double x2, double y2,
                                    double corner_width, double corner_height, const Pen& pen,
                                    const Brush& brush) {
-  Painted& entry = Add(*this, Painted::What::kShape, x1, y1, x2, y2);
+  Painted entry = Entry(*this, Painted::What::kShape, x1, y1, x2, y2);
   entry.shape = kind;
   entry.corner_width = corner_width;
   entry.corner_height = corner_height;
   entry.pen = pen;
   entry.brush = brush;
+  painted.push_back(entry);
 }
 
 void RecordingSurface::DeviceLine(double x1, double y1, double x2, double y2, const Pen& pen) {
-  Painted& entry = Add(*this, Painted::What::kLine, x1, y1, x2, y2);
+  Painted entry = Entry(*this, Painted::What::kLine, x1, y1, x2, y2);
   entry.pen = pen;
+  painted.push_back(entry);
 }
 
 void RecordingSurface::DevicePicture(const Picture&, double x, double y, double width,
                                      double height) {
-  Add(*this, Painted::What::kPicture, x, y, x + width, y + height);
+  painted.push_back(Entry(*this, Painted::What::kPicture, x, y, x + width, y + height));
 }
 
 }  // namespace tagwright

@@ -1,5 +1,6 @@
 #include "shell/startup.h"
 
+#include <cmath>
 #include <string>
 
 #include "barcode/formats.h"
@@ -30,6 +31,7 @@ namespace {
 
 constexpr double kNeverSavedLeft = -1000.033;
 constexpr double kNeverSavedTop = 3900.0;
+constexpr double kFarthestPixel = 32767;
 constexpr int kWaitPointer = 11;
 
 // --- the steps ----------------------------------------------------------------------------------
@@ -70,13 +72,19 @@ void CheckMagneticZone() {
   frmMain.mnuMagRule(ToInt16(2 * ProgSettings.MagneticZone - 1)).SetChecked(true);
 }
 
+// Window systems count pixels in 16 bits, so what lies beyond is no place but a damaged file.
+double Coordinate(double value) {
+  if (!(std::abs(value) <= kFarthestPixel * kTwipsPerPixel)) RaiseFault(kOverflow);
+  return value;
+}
+
 void PlaceWindow() {
   const SettingsRecord& s = ProgSettings;
   if (s.WindowLeft == kNeverSavedLeft && s.WindowTop == kNeverSavedTop) return;
-  CarryOn([&] { frmMain.SetLeft(s.WindowLeft); });
-  CarryOn([&] { frmMain.SetTop(s.WindowTop); });
-  CarryOn([&] { frmMain.SetWidth(s.WindowWidth); });
-  CarryOn([&] { frmMain.SetHeight(s.WindowHeight); });
+  CarryOn([&] { frmMain.SetLeft(Coordinate(s.WindowLeft)); });
+  CarryOn([&] { frmMain.SetTop(Coordinate(s.WindowTop)); });
+  CarryOn([&] { frmMain.SetWidth(Coordinate(s.WindowWidth)); });
+  CarryOn([&] { frmMain.SetHeight(Coordinate(s.WindowHeight)); });
 }
 
 void SetSerialDefaults() {

@@ -126,12 +126,11 @@ void ConvertSizeFields(double from, double to) {
   }
 }
 
-void SetUnit(Flag metric, double ruler_scale, double unit_scale) {
-  MetricUnits = metric;
+void ShowUnit(bool metric, double ruler_scale, double unit_scale) {
   RulerScale = ruler_scale;
   UnitScale = unit_scale;
-  frmMain.mnuUnitMM.SetChecked(metric != kFalse);
-  frmMain.mnuUnitIn.SetChecked(metric == kFalse);
+  frmMain.mnuUnitMM.SetChecked(metric);
+  frmMain.mnuUnitIn.SetChecked(!metric);
 }
 
 }  // namespace
@@ -211,20 +210,20 @@ void mnuFileRulers_Click() {
   ProgSettings.ShowRulers = frmMain.mnuFileRulers.Checked() ? kTrue : kFalse;
 }
 
-void UseMillimetres() { SetUnit(kTrue, 1.0, 1.0); }
-void UseInches() { SetUnit(kFalse, 2.54, kMillimetresPerInch); }
+void UseMillimetres() { ShowUnit(true, 1.0, 1.0); }
+void UseInches() { ShowUnit(false, 2.54, kMillimetresPerInch); }
 
 void mnuUnitMM_Click() {
-  UseMillimetres();
   ProgSettings.MetricUnits = kTrue;
+  UseMillimetres();
   RedrawBoard();
   ConvertSizeFields(kMillimetresPerInch, 1.0);
   FillLayoutList();
 }
 
 void mnuUnitIn_Click() {
-  UseInches();
   ProgSettings.MetricUnits = kFalse;
+  UseInches();
   RedrawBoard();
   ConvertSizeFields(1.0, kMillimetresPerInch);
   FillLayoutList();

@@ -61,7 +61,7 @@ void mnuFileRulers_Click();
 
 // --- unit ---------------------------------------------------------------------------------------
 
-// MetricUnits, UnitScale, RulerScale and the checks of mnuUnitMM and mnuUnitIn.
+// UnitScale, RulerScale and the checks of mnuUnitMM and mnuUnitIn.
 void UseMillimetres();
 void UseInches();
 

@@ -151,7 +151,6 @@ TEST_F(ObjectsTest, ResetPutsTheStateBackToProgramStart) {
   RedrawSkip = 3;
   BoardReady = -1;
   RedrawCount = 9;
-  MetricUnits = kFalse;
   UnitScale = 25.4;
   SerialPrefix = "x";
   SerialValue = 1;
@@ -173,7 +172,6 @@ TEST_F(ObjectsTest, ResetPutsTheStateBackToProgramStart) {
   EXPECT_EQ(RedrawSkip, -1);
   EXPECT_EQ(BoardReady, 0);
   EXPECT_EQ(RedrawCount, 0);
-  EXPECT_EQ(MetricUnits, kTrue);
   EXPECT_EQ(UnitScale, 1);
   EXPECT_EQ(SerialPrefix, "");
   EXPECT_EQ(SerialValue, 1001);

@@ -4,6 +4,7 @@
 
 #include <csignal>
 #include <filesystem>
+#include <limits>
 
 #include "document/document_support.h"
 #include "platform/picture.h"
@@ -339,6 +340,15 @@ TEST_F(ProjectFileTest, FileWithoutTrailersLoadsEveryRecordAsAnObject) {
   EXPECT_EQ(SerialPrefix, "kept");
 }
 
+TEST_F(ProjectFileTest, FontSizeThatIsNoNumberIsPassedOver) {
+  ObjectRecord odd = TextObject("a");
+  odd.FontSize = std::numeric_limits<double>::quiet_NaN();
+  Load(Bytes({odd, TextObject("b")}));
+  EXPECT_EQ(ObjectUB, 1);
+  EXPECT_EQ(frmMain.lblHold(0).Caption(), "");
+  EXPECT_FALSE(frmMain.lblHold(0).AutoSize());
+}
+
 TEST_F(ProjectFileTest, FileWithTheSerialTrailerAloneUsesIt) {
   Load(Bytes({TextObject("a"), SerialTrailer()}));
   EXPECT_EQ(ObjectUB, 0);
@@ -577,6 +587,19 @@ TEST_F(ProjectFileTest, HitAreasAreShownAndFittedBeforeAnythingIsPainted) {
   EXPECT_FALSE(HoldAt(1).Font().Italic);
   EXPECT_EQ(HoldAt(2).Width(), 7);
   EXPECT_EQ(HoldAt(2).Height(), 8);
+}
+
+TEST_F(ProjectFileTest, FontSizesThatMeasureToNothingArePassedOver) {
+  constexpr double kInfinity = std::numeric_limits<double>::infinity();
+  constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
+  for (const double size : {kNoNumber, kInfinity, -kInfinity, -1.0, 0.0, 1e300}) {
+    ObjectRecord record = TextObject("abc", 1, 2);
+    record.FontSize = size;
+    Load(Bytes({record, TextObject("ok")}));
+    EXPECT_EQ(ObjectUB, 1) << size;
+    EXPECT_EQ(HoldAt(0).Caption(), "") << size;
+    EXPECT_FALSE(HoldAt(0).AutoSize()) << size;
+  }
 }
 
 TEST_F(ProjectFileTest, MissingPicturesAreNamedAndRemovedOneByOne) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "common/prog_settings.h"
 #include "document/document_support.h"
 #include "platform/picture.h"
 #include "platform/printer.h"
@@ -563,8 +564,8 @@ TEST_F(RedrawTest, PrintMakesThePrinterTheTargetAndKeepsTheZoom) {
 
 TEST_F(RedrawTest, PrintPlacesByOffsetAndPrintOffset) {
   ZoomFactor = 3;
-  PrintOffsetX = 2;
-  PrintOffsetY = -1;
+  ProgSettings.PrintOffsetX = 2;
+  ProgSettings.PrintOffsetY = -1;
   Add(ShapeObject(kRectangle, 10, 5, 30, 20));
   const auto page = PageAfter(100.25, 50.5);
   ExpectBox(FirstOf(page, What::kShape), 112.25, 54.5, 142.25, 74.5, kPrinterPixels);
@@ -621,7 +622,7 @@ TEST_F(RedrawTest, PreviewPaintsWhiteLabelsAtTheRatioOfItsPicture) {
   Add(ShapeObject(kRectangle, 10, 5, 30, 20));
   Add(TextObject("Abc", 10, 5));
   ZoomFactor = 0.5;
-  PrintOffsetX = 4;
+  ProgSettings.PrintOffsetX = 4;
   RedrawBoard(20.5, 31.5, true);
   EXPECT_EQ(DrawTarget, &paper);
   EXPECT_EQ(ZoomFactor, 0.5);

@@ -1,5 +1,6 @@
 #include <cmath>
 
+#include "common/prog_settings.h"
 #include "document/document_support.h"
 
 namespace tagwright {
@@ -140,7 +141,7 @@ TEST_F(RulersTest, At49PercentANumberComesOnlyAfterMoreThan20Ticks) {
 }
 
 TEST_F(RulersTest, InchTicksStandOnTrueTenthsOfAnInch) {
-  MetricUnits = kFalse;
+  ProgSettings.MetricUnits = kFalse;
   UnitScale = 25.4;
   RulerScale = 2.54;
   Draw(1);

@@ -1,6 +1,8 @@
 #include "shell/startup.h"
 
+#include <cmath>
 #include <functional>
+#include <random>
 #include <vector>
 
 #include "barcode/formats.h"
@@ -282,7 +284,7 @@ TEST_F(StartUpTest, InchesFromTheSettings) {
   StartProgram();
   EXPECT_EQ(UnitScale, 25.4);
   EXPECT_EQ(RulerScale, 2.54);
-  EXPECT_EQ(MetricUnits, 0);
+  EXPECT_EQ(ProgSettings.MetricUnits, 0);
   EXPECT_FALSE(frmMain.mnuUnitMM.Checked());
   EXPECT_TRUE(frmMain.mnuUnitIn.Checked());
 }
@@ -369,6 +371,36 @@ TEST_F(StartUpTest, ARefusedWidthDoesNotKeepTheHeightFromBeingSet) {
   EXPECT_EQ(frmMain.Height(), 9000);
 }
 
+// Beyond the 16 bits in which window systems count pixels: 32767 pixels are 491505 twips.
+TEST_F(StartUpTest, CoordinatesThatNoWindowSystemHasKeepTheDesign) {
+  const FrmMain design;
+  for (double damaged : {std::nan(""), HUGE_VAL, -HUGE_VAL, 491506.0, -491506.0, 1e300}) {
+    SettingsRecord settings;
+    settings.WindowLeft = damaged;
+    settings.WindowTop = 300;
+    settings.WindowWidth = damaged;
+    settings.WindowHeight = 9000;
+    WriteSettingsFile(settings);
+    StartProgram();
+    EXPECT_EQ(frmMain.Left(), design.Left()) << damaged;
+    EXPECT_EQ(frmMain.Top(), 300) << damaged;
+    EXPECT_EQ(frmMain.Width(), design.Width()) << damaged;
+    EXPECT_EQ(frmMain.Height(), 9000) << damaged;
+  }
+}
+
+TEST_F(StartUpTest, TheFarthestCoordinatesAreTaken) {
+  SettingsRecord settings;
+  settings.WindowLeft = -491505;
+  settings.WindowTop = 491505;
+  settings.WindowWidth = 12000;
+  settings.WindowHeight = 9000;
+  WriteSettingsFile(settings);
+  StartProgram();
+  EXPECT_EQ(frmMain.Left(), -491505);
+  EXPECT_EQ(frmMain.Top(), 491505);
+}
+
 // --- recent files -------------------------------------------------------------------------------
 
 TEST_F(StartUpTest, ARecentListWithAGapShowsNoGapAndTheFileKeepsIt) {
@@ -435,6 +467,27 @@ TEST_F(StartUpTest, AnEmptySettingsFileStartsToo) {
   StartProgram();
   EXPECT_EQ(BoardReady, -1);
   EXPECT_EQ(frmMain.cboZoom.Text(), "100%");
+}
+
+TEST_F(StartUpTest, RandomSettingsAndLayoutsStartAndEndWithoutAFault) {
+  std::mt19937 random(20260314);
+  int reports = 0;
+  SetFaultReporter([&](const Fault&) { ++reports; });
+  for (int round = 0; round < 100; ++round) {
+    const auto bytes = [&](std::size_t longest) {
+      std::string text(random() % (longest + 1), 0);
+      for (char& c : text) c = static_cast<char>(random());
+      return text;
+    };
+    WriteFile(SettingsFile(), bytes(1300));
+    WriteFile(folder.File("label.dta"), bytes(900));
+    StartProgram();
+    EXPECT_EQ(frmMain.cboImportType.ListCount(), 3);
+    EXPECT_TRUE(Unload(frmMain));
+    DeleteFile(SettingsFile());
+    DeleteFile(folder.File("label.dta"));
+  }
+  EXPECT_EQ(reports, 0);
 }
 
 // --- failures -----------------------------------------------------------------------------------

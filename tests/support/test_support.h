@@ -93,7 +93,7 @@ class TempFolder {
  public:
   TempFolder();
   ~TempFolder();
-  const std::string& Path() const { return path_; }         // no trailing separator
+  const std::string& Path() const { return path_; }  // no trailing separator
   std::string File(const std::string& name) const { return path_ + "/" + name; }
 
  private:

@@ -6,6 +6,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <csignal>
@@ -171,8 +172,8 @@ int Printed(const std::string& report, const std::string& label) {
   return std::stoi(report.substr(at + label.size()));
 }
 
-Box WindowBox(const std::string& window, const std::string& option) {
-  const std::string report = Shell("xwininfo " + option + " -id " + window);
+Box WindowBox(const std::string& window) {
+  const std::string report = Shell("xwininfo -id " + window);
   return {Printed(report, "Absolute upper-left X:"), Printed(report, "Absolute upper-left Y:"),
           Printed(report, "Width:"), Printed(report, "Height:")};
 }
@@ -325,8 +326,20 @@ Program::~Program() {
 }
 
 std::string Program::Title() const { return Shell("xdotool getwindowname " + window_); }
-Box Program::Client() const { return WindowBox(window_, ""); }
-Box Program::Frame() const { return WindowBox(window_, "-frame"); }
+Box Program::Client() const { return WindowBox(window_); }
+
+Box Program::Frame() const {
+  // "_NET_FRAME_EXTENTS(CARDINAL) = left, right, top, bottom"
+  std::string report = Shell("xprop -notype -id " + window_ + " _NET_FRAME_EXTENTS");
+  report.erase(0, report.find('=') + 1);
+  std::ranges::replace(report, ',', ' ');
+  std::istringstream numbers(report);
+  int left = 0, right = 0, top = 0, bottom = 0;
+  if (!(numbers >> left >> right >> top >> bottom)) Fail("no frame around the window");
+  const Box client = Client();
+  return {client.x - left, client.y - top, client.width + left + right,
+          client.height + top + bottom};
+}
 
 bool Program::Running() const {
   if (pid_ > 0 && waitpid(pid_, &status_, WNOHANG) == pid_) pid_ = -1;
@@ -426,11 +439,34 @@ void ChooseMenu(const Program& program, const std::vector<std::string>& path) {
   }
 }
 
-void ChooseRow(const Program& program, const std::string& combo, const std::string& row) {
-  Click(Find(program, combo, "combo box").box);
-  Find(program, row, "list item");  // unfolded
+int Middle(const Box& box) { return box.y + box.height / 2; }
+
+Spoken FindCombo(const Program& program, const std::string& label) {
+  const Box beside = Find(program, label, "label").box;
+  Spoken found;
+  WaitFor("a list beside \"" + label + "\"", [&] {
+    for (const Spoken& spoken : Everything(program)) {
+      const int offset = spoken.box.x - beside.x;
+      const bool nearer = found.role.empty() || spoken.box.x < found.box.x;
+      const bool same_row = std::abs(Middle(spoken.box) - Middle(beside)) < beside.height / 2;
+      if (spoken.role == "combo box" && spoken.showing && same_row && offset > 0 && nearer) {
+        found = spoken;
+      }
+    }
+    return !found.role.empty();
+  });
+  return found;
+}
+
+void ChooseRow(const Program& program, const std::string& label, const std::string& row) {
+  Click(FindCombo(program, label).box);
+  WaitFor("the list to unfold", [&] {
+    const std::string popups = Shell("xdotool search --onlyvisible --class tagwright", false);
+    return std::ranges::count(popups, '\n') > 0;
+  });
   Type(row);
   Key("Return");
+  WaitFor("the row " + row, [&] { return FindCombo(program, label).name == row; });
 }
 
 std::vector<std::uint32_t> Pixels(const Box& part) {

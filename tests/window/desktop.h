@@ -104,8 +104,10 @@ void WaitForWindow(const std::string& title_part);
 // Opens a menu and clicks through its entries: {"File", "Open"}. Names are without marks.
 void ChooseMenu(const Program& program, const std::vector<std::string>& path);
 
-// Chooses a row of a list of rows that unfolds, by its spoken name and the row's text.
-void ChooseRow(const Program& program, const std::string& combo, const std::string& row);
+// The unfolding list on the right of a caption; its name is the row that it shows.
+Spoken FindCombo(const Program& program, const std::string& label);
+// Unfolds it and chooses a row by its text.
+void ChooseRow(const Program& program, const std::string& label, const std::string& row);
 
 // The pixels of a part of the screen, row by row, as 0xRRGGBB.
 std::vector<std::uint32_t> Pixels(const Box& part);

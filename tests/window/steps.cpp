@@ -63,7 +63,9 @@ void PlaceWindow(const Program& program, const Box& frame) {
   Shell("xdotool windowsize " + program.Window() +
         Numbers(frame.width - (outer.width - client.width),
                 frame.height - (outer.height - client.height)));
-  Shell("xdotool windowmove " + program.Window() + Numbers(frame.x, frame.y));
+  // The toolkit's windows count their place inside the frame.
+  Shell("xdotool windowmove " + program.Window() +
+        Numbers(frame.x + client.x - outer.x, frame.y + client.y - outer.y));
   WaitFor("the window at its place", [&] { return program.Frame() == frame; });
 }
 

@@ -1,0 +1,306 @@
+#include "platform/qt/board_view.h"
+
+#include <QFocusEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <algorithm>
+#include <memory>
+#include <string_view>
+#include <utility>
+
+#include "platform/qt/fonts_qt.h"
+#include "platform/qt/surface_qt.h"
+#include "platform/qt/views.h"
+
+namespace tagwright {
+namespace {
+
+constexpr double kPixelsPerPoint = 96.0 / 72.0;
+constexpr double kRoundCorner = 0.18;  // of a rounded rectangle's shorter side
+constexpr int kDots = 3;
+constexpr int kOval = 2;
+constexpr int kRounded = 4;
+
+// --- what a child covers ------------------------------------------------------------------------
+
+bool PaintsNothing(const Label& label) {
+  return label.Caption().empty() && label.BackStyle() == 0 && label.BorderStyle() == 0;
+}
+
+QRectF BoxOf(const Control& child) {
+  return {child.LeftTwips() / kTwipsPerPixel, child.TopTwips() / kTwipsPerPixel,
+          std::max(child.WidthTwips(), 0.0) / kTwipsPerPixel,
+          std::max(child.HeightTwips(), 0.0) / kTwipsPerPixel};
+}
+
+QLineF LineOf(const LineControl& line) {
+  const double unit_x = line.Parent()->Scale().UnitX() / kTwipsPerPixel;
+  const double unit_y = line.Parent()->Scale().UnitY() / kTwipsPerPixel;
+  return {line.X1() * unit_x, line.Y1() * unit_y, line.X2() * unit_x, line.Y2() * unit_y};
+}
+
+// What has to be painted when the child comes, goes or moves; empty for one that paints nothing.
+QRect AreaOf(const Control& child) {
+  constexpr int kPen = 2;
+  if (!child.Visible() || child.View()) return {};
+  QRectF box;
+  if (const auto* label = dynamic_cast<const Label*>(&child)) {
+    if (PaintsNothing(*label)) return {};
+    box = BoxOf(child);
+  } else if (const auto* line = dynamic_cast<const LineControl*>(&child)) {
+    const QLineF at = LineOf(*line);
+    box = QRectF(at.p1(), at.p2()).normalized();
+  } else if (dynamic_cast<const Shape*>(&child)) {
+    box = BoxOf(child);
+  } else {
+    return {};
+  }
+  return box.toAlignedRect().adjusted(-kPen, -kPen, kPen, kPen);
+}
+
+// --- painting -----------------------------------------------------------------------------------
+
+// Through the middle of pixels, so that a thin line is crisp.
+QPointF OnPixel(const QPointF& point) {
+  return {std::floor(point.x()) + 0.5, std::floor(point.y()) + 0.5};
+}
+
+QPen OutlinePen(Color color, int border_style) {
+  QPen pen(ToQColor(color), 1.0, border_style == kDots ? Qt::CustomDashLine : Qt::SolidLine,
+           Qt::FlatCap);
+  if (border_style == kDots) pen.setDashPattern({2.0, 2.0});
+  return pen;
+}
+
+// Dots are seen on every ground: white between them.
+template <class Draw>
+void DrawOutline(QPainter& painter, Color color, int border_style, Draw&& draw) {
+  if (border_style == 0) return;
+  if (border_style == kDots) {
+    painter.setPen(QPen(Qt::white, 1.0));
+    draw();
+  }
+  painter.setPen(OutlinePen(color, border_style));
+  draw();
+}
+
+double LineLeft(const Label& label, const QRectF& box, std::string_view line) {
+  const double width = Fonts().Width(line, label.Font()) * kPixelsPerPoint;
+  switch (label.Alignment()) {
+    case TextAlignment::kRight:
+      return box.right() - width;
+    case TextAlignment::kCenter:
+      return box.left() + (box.width() - width) / 2;
+    default:
+      return box.left();
+  }
+}
+
+void PaintCaption(QPainter& painter, const Label& label, const QRectF& box) {
+  const double ascent = Fonts().Ascent(label.Font()) * kPixelsPerPoint;
+  const double height = ascent + Fonts().Descent(label.Font()) * kPixelsPerPoint;
+  double top = box.top();
+  std::string_view rest = label.Caption();
+  while (true) {
+    const std::size_t end = rest.find_first_of("\r\n");
+    const std::string_view line = rest.substr(0, end);
+    PaintText(painter, LineLeft(label, box, line), top + ascent, line, label.Font(),
+              label.ForeColor(), kTwipsPerInch / kTwipsPerPixel);
+    if (end == std::string_view::npos) return;
+    rest.remove_prefix(end + (rest.substr(end, 2) == "\r\n" ? 2 : 1));
+    top += height;
+  }
+}
+
+void PaintLabel(QPainter& painter, const Label& label) {
+  const QRectF box = BoxOf(label);
+  if (label.BackStyle() != 0) painter.fillRect(box, ToQColor(label.BackColor()));
+  if (label.BorderStyle() != 0) {
+    painter.setPen(QPen(ToQColor(label.ForeColor()), 1.0));
+    painter.drawRect(QRectF(OnPixel(box.topLeft()), OnPixel(box.bottomRight()) - QPointF(1, 1)));
+  }
+  if (label.Caption().empty()) return;
+  painter.save();
+  painter.setClipRect(box, Qt::IntersectClip);
+  PaintCaption(painter, label, box);
+  painter.restore();
+}
+
+void PaintShape(QPainter& painter, const Shape& shape) {
+  const QRectF real = BoxOf(shape);
+  const QRectF box(OnPixel(real.topLeft()), OnPixel(real.bottomRight()));
+  const double corner = kRoundCorner * std::min(box.width(), box.height());
+  painter.setRenderHint(QPainter::Antialiasing, shape.ShapeCode() != 0);
+  DrawOutline(painter, shape.BorderColor(), shape.BorderStyle(), [&] {
+    if (shape.ShapeCode() == kOval) {
+      painter.drawEllipse(box);
+    } else if (shape.ShapeCode() == kRounded) {
+      painter.drawRoundedRect(box, corner, corner);
+    } else {
+      painter.drawRect(box);
+    }
+  });
+  painter.setRenderHint(QPainter::Antialiasing, false);
+}
+
+void PaintLine(QPainter& painter, const LineControl& line) {
+  const QLineF at = LineOf(line);
+  const bool straight = at.x1() == at.x2() || at.y1() == at.y2();
+  painter.setRenderHint(QPainter::Antialiasing, !straight);
+  DrawOutline(painter, line.BorderColor(), line.BorderStyle(),
+              [&] { painter.drawLine(QLineF(OnPixel(at.p1()), OnPixel(at.p2()))); });
+  painter.setRenderHint(QPainter::Antialiasing, false);
+}
+
+void PaintChild(QPainter& painter, const Control& child) {
+  painter.setBrush(Qt::NoBrush);
+  if (const auto* label = dynamic_cast<const Label*>(&child)) return PaintLabel(painter, *label);
+  if (const auto* shape = dynamic_cast<const Shape*>(&child)) return PaintShape(painter, *shape);
+  if (const auto* line = dynamic_cast<const LineControl*>(&child)) PaintLine(painter, *line);
+}
+
+double PointX(const QMouseEvent& event) { return event.position().x() * kTwipsPerPixel; }
+double PointY(const QMouseEvent& event) { return event.position().y() * kTwipsPerPixel; }
+
+}  // namespace
+
+BoardView::BoardView(QWidget* parent) : QWidget(parent) {
+  setMouseTracking(true);
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  setFocusPolicy(Qt::TabFocus);
+}
+
+void BoardView::Attach(PictureBox& box) {
+  auto surface = std::make_unique<ImageSurface>(devicePixelRatioF());
+  surface_ = surface.get();
+  surface_->BackColor = box.BackColor();
+  box.SetCanvas(std::move(surface));
+  box_ = &box;
+  box.AttachView(this);
+  Place();
+}
+
+// --- rendering ----------------------------------------------------------------------------------
+
+void BoardView::Changed(const Control& control, Aspect aspect) {
+  if (aspect == Aspect::kFocus) {
+    FollowFocus(*control.ParentForm());
+  } else if (&control != box_) {
+    Touch(control);
+    if (aspect == Aspect::kLook) ShowPointer(nullptr);
+  } else if (aspect == Aspect::kGeometry) {
+    Place();
+  } else if (aspect == Aspect::kVisible) {
+    setVisible(box_->Visible());
+  } else if (aspect == Aspect::kEnabled) {
+    setEnabled(box_->Enabled());
+  } else if (aspect == Aspect::kImage || aspect == Aspect::kLook) {
+    update();
+  }
+}
+
+void BoardView::Place() {
+  setGeometry(Pixels(box_->Left()), Pixels(box_->Top()), Pixels(box_->Width()),
+              Pixels(box_->Height()));
+  update();
+}
+
+// Hit areas by the thousand come through here at each redraw: most paint nothing and never did.
+void BoardView::Touch(const Control& child) {
+  const QRect now = AreaOf(child);
+  const auto before = painted_.find(&child);
+  if (before != painted_.end()) {
+    update(before->second);
+    painted_.erase(before);
+  }
+  if (now.isEmpty()) return;
+  update(now);
+  painted_[&child] = now;
+}
+
+std::vector<const Control*> BoardView::PaintedChildren(const QRect& area) const {
+  std::vector<const Control*> children;
+  for (const Control* child : box_->Children()) {
+    if (AreaOf(*child).intersects(area)) children.push_back(child);
+  }
+  std::sort(children.begin(), children.end(),
+            [](const Control* a, const Control* b) { return a->Order() < b->Order(); });
+  return children;
+}
+
+void BoardView::paintEvent(QPaintEvent* event) {
+  if (!box_) return;
+  QPainter painter(this);
+  const QImage& image = surface_->Image();
+  const qreal ratio = image.devicePixelRatioF();
+  for (const QRect& part : event->region()) {
+    painter.fillRect(part, ToQColor(box_->BackColor()));
+    if (image.isNull()) continue;
+    painter.drawImage(
+        QRectF(part), image,
+        QRectF(part.x() * ratio, part.y() * ratio, part.width() * ratio, part.height() * ratio));
+  }
+  for (const Control* child : PaintedChildren(event->rect())) {
+    painted_[child] = AreaOf(*child);
+    PaintChild(painter, *child);
+  }
+}
+
+// The window came to a screen of another resolution, or its scale factor changed. The picture is
+// shown scaled until the program has painted it anew, which it does when the window is laid out.
+void BoardView::FollowScreen() {
+  if (!box_ || surface_->DevicePixelRatio() == devicePixelRatioF()) return;
+  surface_->SetDevicePixelRatio(devicePixelRatioF());
+  Form* form = box_->ParentForm();
+  AfterHandlers(
+      this, [form] { form->WindowEvents().Resize.Raise(-1); }, form->EventLevel());
+}
+
+bool BoardView::event(QEvent* event) {
+  if (event->type() == QEvent::ScreenChangeInternal || event->type() == QEvent::Show) {
+    FollowScreen();
+  }
+  return QWidget::event(event);
+}
+
+void BoardView::ShowPointer(const Control* over) {
+  if (!over) {
+    const QPointF at = mapFromGlobal(QCursor::pos());
+    over = box_->ChildAt(at.x() * kTwipsPerPixel, at.y() * kTwipsPerPixel);
+  }
+  const Control* pointing = over && over->MousePointer() != 0 ? over : box_;
+  if (pointing->MousePointer() == 0) return unsetCursor();  // then the window's shows
+  setCursor(PointerOf(*pointing, devicePixelRatioF()));
+}
+
+// --- the user -----------------------------------------------------------------------------------
+
+void BoardView::mousePressEvent(QMouseEvent* event) {
+  box_->UserMouseDown(ButtonCode(event->button()), ShiftCode(event->modifiers()), PointX(*event),
+                      PointY(*event));
+}
+
+void BoardView::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
+
+void BoardView::mouseMoveEvent(QMouseEvent* event) {
+  if (HasOwnView(childAt(event->position().toPoint()), *this)) return;
+  if (event->buttons() == Qt::NoButton) UserButtonsUp();
+  box_->UserMouseMove(ButtonCodes(event->buttons()), ShiftCode(event->modifiers()), PointX(*event),
+                      PointY(*event));
+  const Control* captured = box_->Captured();
+  ShowPointer(captured ? captured : box_->ChildAt(PointX(*event), PointY(*event)));
+}
+
+void BoardView::mouseReleaseEvent(QMouseEvent* event) {
+  box_->UserMouseUp(ButtonCode(event->button()), ShiftCode(event->modifiers()), PointX(*event),
+                    PointY(*event));
+}
+
+void BoardView::focusInEvent(QFocusEvent* event) {
+  Control* stand_in = box_->FocusStandIn();
+  if (UserMovesFocus::UnderWay() && stand_in) stand_in->UserFocus();
+  FollowFocus(*box_->ParentForm());
+  QWidget::focusInEvent(event);
+}
+
+}  // namespace tagwright

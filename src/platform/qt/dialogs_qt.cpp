@@ -1,0 +1,150 @@
+#include "platform/qt/dialogs_qt.h"
+
+#include <QColorDialog>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QInputDialog>
+#include <QMessageBox>
+
+#include "platform/qt/color_qt.h"
+#include "platform/qt/views.h"
+#include "platform/qt/windows_qt.h"
+
+namespace tagwright {
+namespace {
+
+QMessageBox::Icon ToIcon(MessageIcon icon) {
+  switch (icon) {
+    case MessageIcon::kCritical:
+      return QMessageBox::Critical;
+    case MessageIcon::kQuestion:
+      return QMessageBox::Question;
+    case MessageIcon::kExclamation:
+      return QMessageBox::Warning;
+    case MessageIcon::kInformation:
+      return QMessageBox::Information;
+    default:
+      return QMessageBox::NoIcon;
+  }
+}
+
+void AddButtons(QMessageBox& box, MessageButtons buttons) {
+  switch (buttons) {
+    case MessageButtons::kYesNo:
+      box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+      box.setEscapeButton(QMessageBox::No);
+      break;
+    case MessageButtons::kYesNoCancel:
+      box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+      break;
+    default:
+      box.setStandardButtons(QMessageBox::Ok);
+  }
+}
+
+Answer ToAnswer(int button) {
+  switch (button) {
+    case QMessageBox::Yes:
+      return Answer::kYes;
+    case QMessageBox::No:
+      return Answer::kNo;
+    case QMessageBox::Cancel:
+      return Answer::kCancel;
+    default:
+      return Answer::kOk;
+  }
+}
+
+QString TitleOf(const std::string& title) { return title.empty() ? ProgramName() : ToQt(title); }
+
+class ToolkitDialogs : public DialogService {
+ public:
+  Answer MessageBox(const std::string& text, MessageButtons buttons, MessageIcon icon,
+                    const std::string& title) override {
+    const ModalRun run;
+    QMessageBox box(ToIcon(icon), TitleOf(title), ToQt(text), QMessageBox::NoButton,
+                    WindowForDialogs());
+    box.setTextFormat(Qt::PlainText);
+    AddButtons(box, buttons);
+    return ToAnswer(box.exec());
+  }
+
+  std::string InputBox(const std::string& prompt, const std::string& title,
+                       const std::string& initial) override {
+    const ModalRun run;
+    QInputDialog box(WindowForDialogs());
+    box.setWindowTitle(TitleOf(title));
+    box.setLabelText(ToQt(prompt));
+    box.setTextValue(ToQt(initial));
+    return box.exec() == QDialog::Accepted ? box.textValue().toStdString() : std::string();
+  }
+
+  std::optional<std::string> OpenFile(const FileDialogRequest& request) override {
+    return ChooseFile(request, QFileDialog::AcceptOpen);
+  }
+
+  std::optional<std::string> SaveFile(const FileDialogRequest& request) override {
+    return ChooseFile(request, QFileDialog::AcceptSave);
+  }
+
+  std::optional<std::int32_t> ChooseColor(std::int32_t initial) override {
+    const ModalRun run;
+    QColorDialog dialog(ToQColor(initial), WindowForDialogs());
+    dialog.setOption(QColorDialog::DontUseNativeDialog);
+    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    const QColor color = dialog.selectedColor();
+    return Rgb(color.red(), color.green(), color.blue());
+  }
+
+ private:
+  std::optional<std::string> ChooseFile(const FileDialogRequest& request,
+                                        QFileDialog::AcceptMode mode) {
+    const ModalRun run;
+    const bool opens = mode == QFileDialog::AcceptOpen;
+    QFileDialog dialog(WindowForDialogs(), opens ? "Open" : "Save As", folder_);
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setAcceptMode(mode);
+    dialog.setFileMode(opens ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    dialog.setNameFilters(NameFilters(request.filter));
+    dialog.setDefaultSuffix(ToQt(request.default_extension));
+    if (!request.file_name.empty()) Preselect(dialog, ToQt(request.file_name));
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+      return std::nullopt;
+    }
+    folder_ = dialog.directory().absolutePath();
+    return QDir::toNativeSeparators(dialog.selectedFiles().front()).toStdString();
+  }
+
+  static void Preselect(QFileDialog& dialog, const QString& file) {
+    const QFileInfo info(file);
+    if (info.isAbsolute() && info.dir().exists()) dialog.setDirectory(info.dir());
+    dialog.selectFile(info.fileName());
+  }
+
+  // Where the last file was chosen: the next dialog starts there.
+  QString folder_ = QDir::homePath();
+};
+
+}  // namespace
+
+std::unique_ptr<DialogService> MakeDialogService() { return std::make_unique<ToolkitDialogs>(); }
+
+QString ProgramName() { return "Tagwright"; }
+
+QStringList NameFilters(const std::string& filter) {
+  const QStringList parts = ToQt(filter).split('|');
+  QStringList filters;
+  for (int i = 0; i < parts.size(); i += 2) {
+    const QString description = parts[i].trimmed();
+    const QString patterns = i + 1 < parts.size() ? parts[i + 1].trimmed() : QString();
+    if (description.isEmpty() && patterns.isEmpty()) continue;
+    const QStringList list = patterns.split(';', Qt::SkipEmptyParts);
+    QStringList trimmed;
+    for (const QString& pattern : list) trimmed << pattern.trimmed();
+    filters << description + " (" + (trimmed.isEmpty() ? "*" : trimmed.join(' ')) + ")";
+  }
+  return filters;
+}
+
+}  // namespace tagwright

@@ -84,6 +84,26 @@ QString PlainLine(std::string_view text) {
   return line;
 }
 
+// A blank leaves no mark, and a page that stored it would give it back as a tab: the toolkit names
+// a glyph by the first character that uses it.
+QGlyphRun WithoutBlanks(const QGlyphRun& run) {
+  const QList<quint32> blanks = run.rawFont().glyphIndexesForString(QStringLiteral(" \u00A0"));
+  const QList<quint32> glyphs = run.glyphIndexes();
+  const QList<QPointF> positions = run.positions();
+  QList<quint32> marks;
+  QList<QPointF> places;
+  for (qsizetype i = 0; i < glyphs.size(); ++i) {
+    if (blanks.contains(glyphs[i])) continue;
+    marks.append(glyphs[i]);
+    places.append(positions[i]);
+  }
+  QGlyphRun rest;
+  rest.setRawFont(run.rawFont());
+  rest.setGlyphIndexes(marks);
+  rest.setPositions(places);
+  return rest;
+}
+
 ShapedText Shape(const QString& text, const QFont& font) {
   QTextLayout layout(text, font);
   QTextOption option;
@@ -97,7 +117,9 @@ ShapedText Shape(const QString& text, const QFont& font) {
   line.setLineWidth(1e7);
   line.setPosition(QPointF(0, -line.ascent()));
   layout.endLayout();
-  return {layout.glyphRuns(), line.naturalTextWidth()};
+  ShapedText shaped{{}, line.naturalTextWidth()};
+  for (const QGlyphRun& run : layout.glyphRuns()) shaped.runs.append(WithoutBlanks(run));
+  return shaped;
 }
 
 CachedShape& ShapeOf(std::string_view text, const FontSpec& font) {

@@ -220,7 +220,7 @@ void ToolkitPrinter::NewPage() {
 }
 
 void ToolkitPrinter::EndDoc() {
-  painter_.end();
+  if (painter_.isActive()) painter_.end();
   const std::unique_ptr<Spool> spool = std::move(spool_);
   ForgetJob();
   if (spool) spool->Send();
@@ -228,7 +228,7 @@ void ToolkitPrinter::EndDoc() {
 
 void ToolkitPrinter::KillDoc() {
   if (spool_) spool_->Drop();
-  painter_.end();
+  if (painter_.isActive()) painter_.end();
   ForgetJob();
 }
 

@@ -1,0 +1,94 @@
+#include "platform/picture.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+
+#include "platform/fault.h"
+#include "platform/files.h"
+#include "support/test_support.h"
+
+namespace tagwright {
+namespace {
+
+int reads = 0;
+std::string last_bytes, last_name;
+
+PicturePtr RememberingReader(const std::string& bytes, std::string_view name) {
+  ++reads;
+  last_bytes = bytes;
+  last_name = name;
+  return bytes == "good" ? BlankPicture(100, 50) : nullptr;
+}
+
+int FaultOf(const std::string& path) {
+  try {
+    LoadPicture(path);
+  } catch (const Fault& fault) {
+    return fault.number;
+  }
+  return 0;
+}
+
+class LoadPictureTest : public testing::Test {
+ protected:
+  LoadPictureTest() {
+    reads = 0;
+    SetPictureReader(RememberingReader);
+  }
+  ~LoadPictureTest() override { SetPictureReader(nullptr); }
+  TempFolder folder;
+};
+
+TEST_F(LoadPictureTest, HandsTheBytesAndTheLastPartOfTheNameToTheReader) {
+  WriteFile(folder.File("Logo.GIF"), "good");
+  const PicturePtr picture = LoadPicture(folder.File("Logo.GIF"));
+  EXPECT_EQ(picture->Width, 100);
+  EXPECT_EQ(picture->Height, 50);
+  EXPECT_EQ(last_bytes, "good");
+  EXPECT_EQ(last_name, "Logo.GIF");
+}
+
+TEST_F(LoadPictureTest, ReadsAnewAtEachCall) {
+  WriteFile(folder.File("a.gif"), "good");
+  LoadPicture(folder.File("a.gif"));
+  LoadPicture(folder.File("a.gif"));
+  EXPECT_EQ(reads, 2);
+}
+
+TEST_F(LoadPictureTest, FindsTheFileWhateverTheCaseOfItsName) {
+  WriteFile(folder.File("Logo.GIF"), "good");
+  EXPECT_EQ(FaultOf(folder.File("logo.gif")), 0);
+}
+
+TEST_F(LoadPictureTest, AMissingFileIsFault53) {
+  EXPECT_EQ(FaultOf(folder.File("none.gif")), 53);
+  EXPECT_EQ(FaultOf(""), 53);
+  EXPECT_EQ(reads, 0);
+}
+
+TEST_F(LoadPictureTest, AnUnreadableFileIsFault481) {
+  WriteFile(folder.File("bad.gif"), "bad");
+  WriteFile(folder.File("empty.gif"), "");
+  EXPECT_EQ(FaultOf(folder.File("bad.gif")), 481);
+  EXPECT_EQ(FaultOf(folder.File("empty.gif")), 481);
+}
+
+TEST_F(LoadPictureTest, AFileThatIsNoPictureByItsSizeIsNotRead) {
+  const std::string path = folder.File("huge.gif");
+  WriteFile(path, "good");
+  std::filesystem::resize_file(path, 256 * 1024 * 1024 + 1);
+  EXPECT_EQ(FaultOf(path), 481);
+  EXPECT_EQ(reads, 0);
+}
+
+TEST_F(LoadPictureTest, WithoutAReaderNothingIsReadable) {
+  SetPictureReader(nullptr);
+  WriteFile(folder.File("a.gif"), "good");
+  EXPECT_EQ(FaultOf(folder.File("a.gif")), 481);
+  EXPECT_EQ(FaultOf(folder.File("none.gif")), 53);
+}
+
+}  // namespace
+}  // namespace tagwright
