@@ -167,6 +167,12 @@ void DrawBarcode(std::string& Data, const std::int16_t& Format, float X, float Y
   EngineTraced([&] { Target().DrawStyle = 0; });
 }
 
+void PaintBarcodeOf(std::string Data, std::int16_t Format, float X, float Y, double Height,
+                    double Width, bool PrintCharacters, double FontSize,
+                    const std::string& FontName) {
+  DrawBarcode(Data, Format, X, Y, Height, Width, PrintCharacters, FontSize, FontName);
+}
+
 void ResetBarcodeState() {
   ModuleWidth = BarHeight = BarGap = 0;
   CursorX = CursorY = 0;

@@ -21,6 +21,12 @@ namespace tagwright {
 void DrawBarcode(std::string& Data, const std::int16_t& Format, float X, float Y, double Height,
                  double Width, bool PrintCharacters, double FontSize, const std::string& FontName);
 
+// The same for a caller whose data is its own to give away: what the document calls as its barcode
+// painter.
+void PaintBarcodeOf(std::string Data, std::int16_t Format, float X, float Y, double Height,
+                    double Width, bool PrintCharacters, double FontSize,
+                    const std::string& FontName);
+
 // The state of engine.h and of validation.h back to program start.
 void ResetBarcodeState();
 

@@ -10,6 +10,7 @@
 #include "platform/clock.h"
 #include "platform/fault.h"
 #include "platform/locale.h"
+#include "platform/surface.h"
 
 namespace tagwright {
 namespace {

@@ -1,6 +1,5 @@
 #include "document/objects.h"
 
-#include <algorithm>
 #include <limits>
 #include <type_traits>
 
@@ -8,16 +7,13 @@
 #include "document/redraw.h"
 #include "forms/frmMain.h"
 #include "platform/fault.h"
+#include "platform/surface.h"
 
 namespace tagwright {
 namespace {
 
 // Undo, clipboard and stacking order are plain copies of records.
 static_assert(std::is_trivially_copyable_v<ObjectRecord>);
-
-constexpr std::size_t kFieldSlots = 101;
-constexpr std::size_t kSelectionSlots = 257;
-constexpr std::size_t kRecentSlots = 7;
 
 void ResetDocument() {
   Objects.clear();
@@ -96,9 +92,7 @@ void TakePlaceOf(Label& hold, const Label& successor) {
 void ClearObject(int index) { ObjectAt(index) = ObjectRecord{}; }
 
 std::string PathOf(const ObjectRecord& record) {
-  std::string path = record.Text.Padded();
-  std::replace(path.begin(), path.end(), '\0', ' ');
-  return Trim(path);
+  return Trim(ZeroBytesAsBlanks(record.Text.Padded()));
 }
 
 ObjectRecord& ObjectAt(int index) {

@@ -3,12 +3,12 @@
 // right and y downward; font sizes points; pen widths device pixels; colours 0x00BBGGRR.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
 
 #include "platform/controls.h"
-#include "platform/surface.h"
 #include "platform/text.h"
 
 namespace tagwright {
@@ -101,7 +101,8 @@ inline double PendingScrollX = -1;
 inline double PendingScrollY = -1;
 
 // The columns of the current data row (their names while designing).
-inline std::vector<std::string> FieldValues = std::vector<std::string>(101);
+constexpr std::size_t kFieldSlots = 101;
+inline std::vector<std::string> FieldValues = std::vector<std::string>(kFieldSlots);
 inline std::int16_t FieldUB = -1;  // highest used column, -1 no data source
 
 // Serial numbers.
@@ -114,7 +115,8 @@ inline double SerialBarcodeHeight = 15.0;
 inline Flag SerialPrintText = kTrue;
 
 // Selection (its routines live in editing).
-inline std::vector<std::int16_t> SelectedList = std::vector<std::int16_t>(257);
+constexpr std::size_t kSelectionSlots = 257;
+inline std::vector<std::int16_t> SelectedList = std::vector<std::int16_t>(kSelectionSlots);
 inline std::int16_t SelectedUpper = -1;  // upper bound in use, -1 no group
 inline bool TextEntryActive = false;     // a text field of a panel has the keyboard
 inline bool PanelLoading = false;        // a panel is being filled: its events write nothing back
@@ -136,11 +138,12 @@ void GrowObjects();
 
 // The array's elements `index` + 1 to ObjectUB move down one place, each hit area takes the place
 // of its successor and an empty caption, the last is hidden and ObjectUB falls by one. The array
-// keeps its allocation. Nothing for an empty document.
+// keeps its allocation. Nothing for an empty document. Faults 9 for a negative `index` before
+// anything is changed.
 void RemoveRecord(int index);
 
 // `lblHold(index)`; an element that does not exist yet is created visible, transparent, without a
-// caption.
+// caption. Faults 9 outside 0 to 32,767.
 Label& HoldAt(int index);
 
 // The whole state of this folder (that of project_file.h and redraw.h too) back to program start.

@@ -42,12 +42,9 @@ void HideFourHandles() {
   for (int i = 0; i < kHandleCount; ++i) frmMain.lblHandle(i).SetVisible(false);
 }
 
-// A box may be turned inside out while it is dragged; a size that the shape refuses stays.
 void PlaceFrame(double left, double top, double width, double height) {
   Shape& frame = frmMain.shpBox;
-  frame.Move(left, top);
-  CarryOn([&] { frame.SetWidth(width); });
-  CarryOn([&] { frame.SetHeight(height); });
+  frame.Move(left, top, width, height);
   frame.SetVisible(true);
   frame.SetBorderStyle(kDots);
 }

@@ -1,6 +1,7 @@
 // Project files: fixed records of 333 bytes, little-endian, with two trailers.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -39,7 +40,8 @@ void SaveProject(const Flag& ForceDialog);
 void LoadProject(const std::string& Path);
 
 // Recent files: slots 0 to 6, RecentUB the highest used one (-1 none).
-inline std::vector<std::string> RecentFiles = std::vector<std::string>(7);
+constexpr std::size_t kRecentSlots = 7;
+inline std::vector<std::string> RecentFiles = std::vector<std::string>(kRecentSlots);
 inline std::int16_t RecentUB = -1;
 
 // Puts `Path` first in the recent list (a blank one only rebuilds), shows the menu entries and

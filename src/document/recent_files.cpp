@@ -63,6 +63,7 @@ void CopyToSettings() {
 }  // namespace
 
 void AddRecentFile(const std::string& Path) {
+  // A copy: the caller's text may be one of the slots that move.
   if (!Trim(Path).empty()) Insert(std::string(Path));
   RecentUB = std::min(RecentUB, kLastEntry);
   ShowRecentFiles();

@@ -12,6 +12,7 @@
 #include "platform/fault.h"
 #include "platform/picture.h"
 #include "platform/printer.h"
+#include "platform/surface.h"
 
 namespace tagwright {
 namespace {
@@ -340,7 +341,8 @@ void FinishPass(const RedrawPass& pass) {
   EndPass(pass);
 }
 
-// An unreadable picture leaves at once: zoom, skip mark, frame and AutoRedraw stay as they are.
+// An unreadable picture, the only fault that a step lets through, leaves at once: zoom, skip mark,
+// frame and AutoRedraw stay as they are.
 void RunPass(const RedrawPass& pass) {
   try {
     RedrawObjects(pass);

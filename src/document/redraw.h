@@ -9,12 +9,14 @@
 
 namespace tagwright {
 
-// Paints the whole label from Objects on DrawTarget. With `Output` false the target is picBoard and
-// both offsets are ignored; it also puts every hit area over its object and draws handles and
+// Paints the whole label from Objects on DrawTarget. With `Output` false that is picBoard's canvas
+// and both offsets are ignored; it also puts every hit area over its object and draws handles and
 // rulers. With `Output` true it paints one cell of a sheet at `OffsetX`, `OffsetY` millimetres of
-// the page, on the Printer, or in PreviewMode on the present target. Nothing at all happens while
-// BoardReady is zero or SuspendRedraw is not. Changes RedrawCount, RedrawSkip, BoardOriginX and
-// BoardOriginY; an unreadable picture drops the newest object. Never faults.
+// the page, on the Printer, which becomes the DrawTarget, or in PreviewMode on the present target.
+// Nothing at all happens while BoardReady is zero or SuspendRedraw is not. Changes RedrawCount,
+// RedrawSkip, BoardOriginX and BoardOriginY, on the screen PendingScrollX and PendingScrollY too.
+// An unreadable picture drops the newest object and ends the redraw: ZoomFactor and RedrawSkip are
+// not put back then. Never faults.
 void RedrawBoard(const double& OffsetX, const double& OffsetY, const bool& Output);
 
 // The screen's redraw: offsets are ignored there.
@@ -42,12 +44,15 @@ void PaintObjectText(int Index, bool Output);
 
 // Puts shpBox and the four handles around one hit area and shows them.
 void ShowHandles(const Label& hold);
-// Puts shpBox around the group in SelectedList; the handles are placed and hidden.
+// Puts shpBox around the group in SelectedList; the handles are placed and hidden. Nothing without
+// a group. Faults 9 for a group that is larger than its list or names no record.
 void ShowGroupBox();
 // Hides shpBox and the handles.
 void HideHandles();
 
-// The rulers along the board's top and left side; nothing with mnuFileRulers unchecked.
+// The rulers along the board's top and left side; nothing with mnuFileRulers unchecked. Ticks stand
+// every RulerScale millimetres from the label's corner, numbers at every tenth. A label too far
+// away or a board too wide to count its ticks has the bands alone.
 void DrawRulers();
 
 }  // namespace tagwright

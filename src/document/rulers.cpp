@@ -24,6 +24,11 @@ constexpr double kHalfZoom = 0.2;
 constexpr double kMinorZoom = 0.7;
 constexpr int kTicksBetweenNumbers = 20;  // at or below kNumberZoom
 
+// Layout files can name labels of any size. Beyond these a tick has no number that could be
+// counted, or there are more of them than a screen has pixels: then the band stays empty.
+constexpr double kFarthestTick = 1e9;
+constexpr double kMostTicks = 1e5;
+
 // One of the two rulers: along the top (x) or along the left side (y).
 struct Ruler {
   bool top;
@@ -80,6 +85,12 @@ double TickOffset(const Ruler& ruler, int tick) {
   return -(tick - exact) * RulerScale;
 }
 
+// False also where one of them is no number.
+bool CanCountTicks(const Ruler& ruler) {
+  return std::abs((1 - ruler.origin) / RulerScale) < kFarthestTick &&
+         ruler.length / RulerScale < kMostTicks;
+}
+
 void DrawTicks(const Ruler& ruler) {
   int tick = static_cast<int>(std::nearbyint((1 - ruler.origin) / RulerScale));
   const double offset = TickOffset(ruler, tick);
@@ -109,7 +120,7 @@ void PrepareInk() {
 
 void DrawRuler(const Ruler& ruler) {
   FillBand(ruler);
-  DrawTicks(ruler);
+  if (CanCountTicks(ruler)) DrawTicks(ruler);
 }
 
 }  // namespace

@@ -5,6 +5,7 @@ namespace tagwright {
 
 // Fills cboLabelLayout with the titles of all layouts and chooses the default one, the last of
 // several, else the first. Every choice raises the list's Click, and so changes the label's size.
+// Faults 380 where there is no layout at all; the list is empty then.
 void FillLayoutList();
 
 // Shows the numbers of the layout chosen in cboLabelLayout in txtLabLayout(0) to (7), in the user's

@@ -141,7 +141,8 @@ class Surface {
   double pen_y_ = 0;
 };
 
-// What all drawing goes to: picBoard's canvas, a page of the Printer, the preview's page.
+// What all drawing goes to: picBoard's canvas, the printer's page or the preview's. Not owned; null
+// until start-up sets it. Every painting folder shares it, down to the bars of a barcode.
 inline Surface* DrawTarget = nullptr;
 
 }  // namespace tagwright

@@ -59,11 +59,14 @@ void TakeRecentFiles() {
   TakeRecentFile(ProgSettings.RecentFile6);
 }
 
+// Only a folder without the file gives the defaults. One that is there and cannot be read is as an
+// empty one: every field keeps the zero of unread memory.
 void ReadOrBuildSettings() {
   ProgSettings = {};
   RecentUB = -1;
   if (!FileExists(SettingsPath())) return;
-  ProgSettings = ReadSettings(SettingsPath());
+  ProgSettings = SettingsFromBytes("");
+  CarryOn([] { ProgSettings = ReadSettings(SettingsPath()); });
   TakeRecentFiles();
   ShowRecentFiles();
 }
@@ -186,12 +189,15 @@ void SetColourSamples() {
   frmMain.lblBCol(6).SetBackColor(Rgb(255, 255, 255));
 }
 
+// A print service that refuses one answer may still give the other.
 void ListPrinters() {
-  for (const std::string& name : Printers()) frmMain.cboPrinter.AddItem(name);
-  frmMain.cboPrinter.SetVisible(true);
-  const std::string standard = PrinterList().DefaultName();
-  frmMain.cboPrinter.SetText(standard);
-  frmMain.cboPrinter.SetToolTipText(standard);
+  ComboBox& list = frmMain.cboPrinter;
+  CarryOn([&] {
+    for (const std::string& name : Printers()) list.AddItem(name);
+  });
+  list.SetVisible(true);
+  CarryOn([&] { list.SetText(PrinterList().DefaultName()); });
+  CarryOn([&] { list.SetToolTipText(PrinterList().DefaultName()); });
 }
 
 void FillSizes() {

@@ -58,22 +58,26 @@ bool TextIsSelected() {
 }
 
 // A selected text is shown by its hit area and not by the painter, so the hit area takes the new
-// size; its caption must be away while the board is painted under it.
+// size; its caption must be away while the board is painted under it. A size from a damaged file
+// may be refused by the hit area: the label is painted all the same.
 void RedrawWithSelectedText() {
-  const ObjectRecord& text = ObjectAt(SelectedObject);
-  Label& hold = HoldAt(SelectedObject);
-  hold.SetCaption("");
-  hold.SetFontSize(text.FontSize * ZoomFactor);
+  const int index = SelectedObject;
+  CarryOn([&] { HoldAt(index).SetCaption(""); });
+  CarryOn([&] { HoldAt(index).SetFontSize(ObjectAt(index).FontSize * ZoomFactor); });
   RedrawBoard();
   RedrawSkip = -1;
-  hold.SetCaption(text.Text.Trimmed());
-  ShowHandles(hold);
+  CarryOn([&] { HoldAt(index).SetCaption(ObjectAt(index).Text.Trimmed()); });
+  CarryOn([&] { ShowHandles(HoldAt(index)); });
 }
 
 void RedrawWithSelection() {
   RedrawBoard();
-  if (SelectedObject > -1) ShowHandles(HoldAt(SelectedObject));
-  if (SelectedUpper > -1) ShowGroupBox();
+  CarryOn([] {
+    if (SelectedObject > -1) ShowHandles(HoldAt(SelectedObject));
+  });
+  CarryOn([] {
+    if (SelectedUpper > -1) ShowGroupBox();
+  });
 }
 
 bool FitsWellEnough(double label, double board) { return label <= board && label >= kFits * board; }
@@ -156,7 +160,7 @@ void cboZoom_Click() {
   CarryOn([] { ZoomFactor = ZoomOfCombo(); });
   ScaleBoardToZoom();
   DrawTarget = &frmMain.picBoard.Canvas();
-  CarryOn([] { TextIsSelected() ? RedrawWithSelectedText() : RedrawWithSelection(); });
+  TextIsSelected() ? RedrawWithSelectedText() : RedrawWithSelection();
   SetPointer(0);
 }
 
@@ -213,12 +217,13 @@ void mnuFileRulers_Click() {
 void UseMillimetres() { ShowUnit(true, 1.0, 1.0); }
 void UseInches() { ShowUnit(false, 2.54, kMillimetresPerInch); }
 
+// An installation whose layouts could not be read has none to choose.
 void mnuUnitMM_Click() {
   ProgSettings.MetricUnits = kTrue;
   UseMillimetres();
   RedrawBoard();
   ConvertSizeFields(kMillimetresPerInch, 1.0);
-  FillLayoutList();
+  CarryOn(FillLayoutList);
 }
 
 void mnuUnitIn_Click() {
@@ -226,7 +231,7 @@ void mnuUnitIn_Click() {
   UseInches();
   RedrawBoard();
   ConvertSizeFields(1.0, kMillimetresPerInch);
-  FillLayoutList();
+  CarryOn(FillLayoutList);
 }
 
 void ResetView() { CrossHairsShown = kTrue; }

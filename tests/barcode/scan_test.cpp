@@ -234,10 +234,7 @@ class ScanTest : public ProgramTest, public testing::WithParamInterface<Symbolog
     ChoosePrinter(kPrintToPdf);
     Printer().Page().Scale().SetScaleMode(kMillimetres);
     dialogs.files = {Pdf()};
-    PaintBarcode = [](std::string data, std::int16_t format, float x, float y, double height,
-                      double width, bool text, double size, const std::string& font) {
-      DrawBarcode(data, format, x, y, height, width, text, size, font);
-    };
+    PaintBarcode = PaintBarcodeOf;
     LabelWidth = 210;
     LabelHeight = 297;
     ReadyBoard();

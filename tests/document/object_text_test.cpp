@@ -100,7 +100,7 @@ TEST_F(ObjectTextTest, RightAlignedLinesEndAtTheRightEdge) {
 }
 
 TEST_F(ObjectTextTest, OtherAlignmentCodesAreLeft) {
-  for (const std::int16_t code : {0, 3, -1, 32767}) {
+  for (const std::int16_t code : std::vector<std::int16_t>{0, 3, -1, 32767}) {
     ObjectRecord record = TextObject("ab", 10, 0);
     record.Width = 30;
     record.Param = code;
@@ -111,7 +111,7 @@ TEST_F(ObjectTextTest, OtherAlignmentCodesAreLeft) {
 
 TEST_F(ObjectTextTest, DataFieldIsAlwaysLeftWhateverItsColumn) {
   FieldValues[1] = FieldValues[2] = "ab";
-  for (const std::int16_t column : {1, 2}) {
+  for (const std::int16_t column : std::vector<std::int16_t>{1, 2}) {
     ObjectRecord record = Field(column, 0);
     record.Left = 10;
     record.Width = 30;
@@ -235,6 +235,10 @@ TEST_F(ObjectTextTest, UnclosedDateTokenPrintsAsItStandsInBlack) {
   EXPECT_EQ(dialogs.messages.size(), 1u) << "the marker file shows the fault";
 }
 
+TEST_F(ObjectTextTest, UnclosedDateTokenBehindAClosedOneLeavesThatOneReplaced) {
+  EXPECT_EQ(Printed("[#DT1] [#DT2"), Lines{"3/15/2026 [#DT2"});
+}
+
 TEST_F(ObjectTextTest, SerialTextComesBeforeDates) {
   SerialBarcodeType = -1;
   SerialPrefix = "[#DT1]";
@@ -317,6 +321,18 @@ TEST_F(ObjectTextTest, ValuePrintsOncePerLineOfItsText) {
   FieldValues[3] = "v";
   Paint(Field(3, 0, "a\r\nb"));
   EXPECT_EQ(page_.Texts(), (Lines{"v", "v"}));
+}
+
+TEST_F(ObjectTextTest, ValueOfAFieldWithoutANamePrintsOnce) {
+  FieldValues[3] = "v";
+  Paint(Field(3, 0, ""));
+  EXPECT_EQ(page_.Texts(), Lines{"v"});
+}
+
+TEST_F(ObjectTextTest, CurrencyFieldThatLeadsToItselfPrintsItsOwnValue) {
+  FieldValues[0] = "abc";
+  Paint(Field(0, 1));  // column 0 leads to object 0, whose column is 0
+  EXPECT_EQ(page_.Texts(), Lines{"abc"});
 }
 
 TEST_F(ObjectTextTest, FieldBarcode) {

@@ -144,6 +144,14 @@ TEST_F(ObjectsTest, RemovingFromAnEmptyDocumentDoesNothing) {
   EXPECT_EQ(ObjectUB, -1);
 }
 
+TEST_F(ObjectsTest, RemovingWithoutASelectionFaultsAndChangesNothing) {
+  Add(TextObject("a"));
+  Add(TextObject("b"));
+  EXPECT_EQ(FaultOf([] { RemoveRecord(-1); }), kOutOfBounds);
+  EXPECT_EQ(ObjectUB, 1);
+  EXPECT_EQ(ObjectAt(0).Text.Trimmed(), "a");
+}
+
 TEST_F(ObjectsTest, ResetPutsTheStateBackToProgramStart) {
   Add(TextObject("a"));
   ZoomFactor = 2;

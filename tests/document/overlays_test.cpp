@@ -1,4 +1,6 @@
 #include "document/document_support.h"
+#include "platform/fault.h"
+#include "support/fault_of.h"
 
 namespace tagwright {
 namespace {
@@ -88,6 +90,27 @@ TEST_F(OverlaysTest, GroupBoxWithoutAGroupChangesNothing) {
   frmMain.shpBox.SetVisible(false);
   ShowGroupBox();
   EXPECT_FALSE(frmMain.shpBox.Visible());
+}
+
+TEST_F(OverlaysTest, GroupBoxTakesTheFirstMemberAsItStandsEvenTurnedInsideOut) {
+  Add(ShapeObject(kRectangle, 30, 40, -5, -6));
+  SelectedList[0] = 0;
+  SelectedUpper = 0;
+  ShowGroupBox();
+  EXPECT_EQ(frmMain.shpBox.Left(), 30);
+  EXPECT_EQ(frmMain.shpBox.Width(), -5);
+  EXPECT_EQ(frmMain.shpBox.Height(), -6);
+}
+
+TEST_F(OverlaysTest, GroupBeyondItsListOrTheArrayFaults) {
+  for (int i = 0; i < 3; ++i) Add(ShapeObject(kRectangle, 3, 4, 5, 6));
+  SelectedUpper = 256;
+  EXPECT_EQ(FaultOf([] { ShowGroupBox(); }), 0) << "the last place of the list";
+  SelectedUpper = 257;
+  EXPECT_EQ(FaultOf([] { ShowGroupBox(); }), kOutOfBounds);
+  SelectedUpper = 0;
+  SelectedList[0] = 3;
+  EXPECT_EQ(FaultOf([] { ShowGroupBox(); }), kOutOfBounds);
 }
 
 TEST_F(OverlaysTest, HideHandlesHidesBoxAndHandles) {

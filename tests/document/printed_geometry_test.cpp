@@ -281,7 +281,7 @@ TEST_F(TextTruthTest, A96PointCapitalIsAsHighAsItsFontSays) {
   const ObjectRecord capital = Sample("H", 96);
   const double height = Millimetres(96 * kCapital);  // 23.3
   const double top = 2 + Millimetres(96 * (kAscent - kCapital));
-  const Ink paper = OnPaper({capital}, 60, kDots)[0];
+  const Ink paper = OnPaper({capital}, 60, kDots).at(0);
   EXPECT_NEAR(paper.Height(), height, 0.01 * height);
   EXPECT_NEAR(paper.top, top, kBaselineTolerance);
   for (const double zoom : {0.5, 1.0, 2.0, 7.5}) {

@@ -378,14 +378,41 @@ TEST_F(ProjectFileTest, NumberOfRecordsIsRoundedAndTheLastOnePartlyRead) {
 }
 
 TEST_F(ProjectFileTest, FileOf32768BytesOrMoreOpensAsBlankRecords) {
+  struct Row {
+    std::size_t length;
+    std::string text;
+    int bound;
+  };
+  // 98 records are 32,634 bytes, 99 are 32,967; what lies between rounds to 98.
+  const std::vector<Row> rows = {
+      {32634, "a", 97}, {32767, "a", 97}, {32768, "", 97}, {32967, "", 98}};
   const std::string bytes = Bytes(std::vector<ObjectRecord>(101, TextObject("a")));
-  for (const auto& [length, text] : std::vector<std::pair<std::size_t, std::string>>{
-           {98u * 333u, "a"}, {32767u, "a"}, {32768u, ""}, {99u * 333u, ""}}) {
-    Load(bytes.substr(0, length));
-    EXPECT_EQ(ObjectAt(0).Text.Trimmed(), text) << length;
-    EXPECT_EQ(ObjectUB, length < 32700 ? 97 : length == 99u * 333u ? 98 : 97) << length;
+  for (const Row& row : rows) {
+    Load(bytes.substr(0, row.length));
+    EXPECT_EQ(ObjectAt(0).Text.Trimmed(), row.text) << row.length;
+    EXPECT_EQ(ObjectUB, row.bound) << row.length;
   }
   EXPECT_EQ(ObjectAt(98), ObjectRecord{});
+  EXPECT_TRUE(dialogs.messages.empty());
+}
+
+TEST_F(ProjectFileTest, FileWithMoreRecordsThanCanBeCountedKeepsTheFormerBoundWithBlankRecords) {
+  Add(TextObject("a"));
+  Add(TextObject("b"));
+  const std::string path = Made("long.twp", "");
+  std::filesystem::resize_file(path, 333u * 32769u);  // one more than 32,768 records
+  LoadProject(path);
+  EXPECT_EQ(ObjectUB, 1);
+  EXPECT_EQ(Objects, std::vector<ObjectRecord>(2));
+  EXPECT_TRUE(dialogs.messages.empty());
+}
+
+TEST_F(ProjectFileTest, FileThatIsNotThereKeepsTheFormerBoundWithBlankRecords) {
+  Add(TextObject("a"));
+  LoadProject(folder.File("nowhere.twp"));
+  EXPECT_EQ(ObjectUB, 0);
+  EXPECT_EQ(ObjectAt(0), ObjectRecord{});
+  EXPECT_EQ(ProjectPath, folder.File("nowhere.twp"));
   EXPECT_TRUE(dialogs.messages.empty());
 }
 
@@ -549,6 +576,48 @@ TEST_F(ProjectFileTest, DatabaseListsItsTablesAndChoosesTheStoredOne) {
   EXPECT_NE(SourceDatabase, nullptr);
 }
 
+TEST_F(ProjectFileTest, DatabaseWithoutAPasswordOpensWithoutAConnectText) {
+  std::string asked = "nothing";
+  SetDatabaseEngine([&](const std::string&, const std::string& connect) {
+    asked = connect;
+    return std::make_unique<TwoTables>();
+  });
+  ObjectRecord source = SourceTrailer();
+  source.Param = 0;
+  source.Text = Made("a.mdb", "x");
+  CurrentTable = "as before";
+  Load(Bytes({SerialTrailer(), source}));
+  EXPECT_EQ(asked, "");
+  EXPECT_EQ(frmMain.cboRSet.ListIndex(), -1) << "no table was stored";
+  EXPECT_EQ(CurrentTable, "as before");
+}
+
+TEST_F(ProjectFileTest, TableBeyondTheListIsPassedOverAndNoTextRemembered) {
+  SetDatabaseEngine(
+      [](const std::string&, const std::string&) { return std::make_unique<TwoTables>(); });
+  ObjectRecord source = SourceTrailer();
+  source.Param = 0;
+  source.Text = Made("a.mdb", "x");
+  source.FillColor = 2;
+  CurrentTable = "as before";
+  Load(Bytes({SerialTrailer(), source}));
+  EXPECT_EQ(frmMain.cboRSet.ListIndex(), -1);
+  EXPECT_EQ(CurrentTable, "") << "the statement after the one that failed still runs";
+}
+
+TEST_F(ProjectFileTest, DatabaseSourceWithoutAFileLeavesItsFieldsAsTheyAre) {
+  ObjectRecord source = SourceTrailer();
+  source.Param = 0;
+  frmMain.cboRSet.SetVisible(false);
+  frmMain.chkQuote.SetVisible(true);
+  frmMain.cboRSet.AddItem("as before");
+  Load(Bytes({SerialTrailer(), source}));
+  EXPECT_FALSE(frmMain.cboRSet.Visible());
+  EXPECT_TRUE(frmMain.chkQuote.Visible());
+  EXPECT_EQ(frmMain.cboRSet.ListCount(), 1);
+  EXPECT_EQ(frmMain.cboImportType.ListIndex(), 0);
+}
+
 TEST_F(ProjectFileTest, DatabaseThatCannotBeOpenedIsPassedOver) {
   ObjectRecord source = SourceTrailer();
   source.Param = 0;
@@ -600,6 +669,32 @@ TEST_F(ProjectFileTest, FontSizesThatMeasureToNothingArePassedOver) {
     EXPECT_EQ(HoldAt(0).Caption(), "") << size;
     EXPECT_FALSE(HoldAt(0).AutoSize()) << size;
   }
+}
+
+TEST_F(ProjectFileTest, HitAreasOfTheFormerLabelStayWhereTheyWereShown) {
+  Load(Bytes({TextObject("a"), TextObject("b"), TextObject("c")}));
+  Load(Bytes({TextObject("d")}));
+  EXPECT_EQ(ObjectUB, 0);
+  EXPECT_TRUE(HoldAt(2).Visible()) << "the next press on it hides it";
+}
+
+// A layout's click redraws while the trailers still count as records.
+TEST_F(ProjectFileTest, RedrawOfTheLayoutsClickMakesHitAreasForTheTrailersToo) {
+  frmMain.cboLabelLayout.Events().Click = [] { RedrawBoard(); };
+  Load(Bytes({TextObject("a"), SerialTrailer(), SourceTrailer()}));
+  EXPECT_EQ(RedrawCount, 2);
+  EXPECT_EQ(ObjectUB, 0);
+  EXPECT_TRUE(frmMain.lblHold.Exists(2));
+}
+
+// That redraw may drop a record already: then the last one left counts as the trailer.
+TEST_F(ProjectFileTest, UnreadablePictureInTheLayoutsRedrawCostsTheSerialTrailer) {
+  frmMain.cboLabelLayout.Events().Click = [] { RedrawBoard(); };
+  SerialPrefix = "kept";
+  Load(Bytes({PictureObject(Made("bad.gif", "rubbish")), SerialTrailer(), SourceTrailer()}));
+  EXPECT_EQ(SerialPrefix, "kept");
+  EXPECT_EQ(dialogs.messages.size(), 2u) << "once in each redraw";
+  EXPECT_EQ(ObjectUB, -1);
 }
 
 TEST_F(ProjectFileTest, MissingPicturesAreNamedAndRemovedOneByOne) {

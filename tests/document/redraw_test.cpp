@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "common/prog_settings.h"
 #include "document/document_support.h"
@@ -247,9 +248,9 @@ TEST_F(RedrawTest, LinesAreHorizontalOrVerticalNeverSlanted) {
 }
 
 TEST_F(RedrawTest, UnknownKindsPaintNothingButHaveAHitArea) {
-  for (const std::int16_t kind : {0, 4, 9, 14, 19, 21, -1, -2, -100}) {
+  for (const int kind : {0, 4, 9, 14, 19, 21, -1, -2, -100}) {
     ObjectRecord record = ShapeObject(kBlank, 5, 6, 7, 8);
-    record.ObjType = kind;
+    record.ObjType = static_cast<std::int16_t>(kind);
     Add(record);
   }
   Redraw();
@@ -276,6 +277,46 @@ TEST_F(RedrawTest, TargetInMillimetresTakesTheZoomAsAFactor) {
   RedrawBoard();
   const Painted shape = target.Of(What::kShape).back();
   EXPECT_NEAR(shape.x2 - shape.x1, 10 * kPixelsPerMillimetre * 2, 1e-6);
+}
+
+TEST_F(RedrawTest, LabelIsPaintedAsACopyAndObjectsWithSolidStyle) {
+  Board().DrawMode = kMaskPen;
+  Board().DrawStyle = 5;
+  Board().ForeColor = Rgb(9, 9, 9);
+  Redraw();
+  EXPECT_EQ(Board().Of(What::kShape)[0].draw_mode, kCopyPen);
+  EXPECT_EQ(Board().DrawStyle, 0);
+  EXPECT_EQ(Board().ForeColor, 0);
+}
+
+TEST_F(RedrawTest, RecordsThatAreNoNumbersPaintNothingAndKeepTheirHitAreasSizes) {
+  constexpr double kInfinity = std::numeric_limits<double>::infinity();
+  constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
+  for (const Kind kind : {kLine, kRectangle, kRoundedRectangle, kEllipse, kText}) {
+    for (const double odd : {kNoNumber, kInfinity, -kInfinity}) {
+      ObjectUB = -1;
+      ObjectRecord record = ShapeObject(kind, static_cast<float>(odd), 1, odd, odd);
+      record.Text = "abc";
+      record.FontSize = odd;
+      Add(record);
+      HoldAt(0).Move(0, 0, 3, 4);
+      Redraw();
+      EXPECT_EQ(Board().painted.size(), 2u) << kind << ' ' << odd;
+      const bool refused = !(odd > 0);  // endless is a size like another
+      EXPECT_EQ(HoldAt(0).Width(), refused ? 3 : kInfinity) << kind << ' ' << odd;
+      EXPECT_EQ(HoldAt(0).Height(), refused ? 4 : kInfinity) << kind << ' ' << odd;
+    }
+  }
+}
+
+TEST_F(RedrawTest, LabelOfAnImpossibleSizeStillRedraws) {
+  frmMain.mnuFileRulers.SetChecked(true);
+  Add(ShapeObject(kRectangle, 1, 2, 3, 4));
+  for (const double odd : {std::numeric_limits<double>::quiet_NaN(), 3.4e38, -3.4e38}) {
+    LabelWidth = LabelHeight = odd;
+    EXPECT_NO_THROW(Redraw()) << odd;
+    EXPECT_NO_THROW(PageAfter(0, 0)) << odd;
+  }
 }
 
 // --- barcodes, texts, pictures ------------------------------------------------------------------
@@ -553,6 +594,17 @@ TEST_F(RedrawTest, PrintOpensAPageOnThePrinterAndPaintsNoBackground) {
   EXPECT_EQ(CountOf(page, What::kClear), 0u);
   EXPECT_EQ(Printer().Page().BackgroundMode(), kTransparentBackground);
   EXPECT_TRUE(Board().painted.empty());
+}
+
+TEST_F(RedrawTest, PrintLeavesASolidBlackPenOfOnePixelForWhatFollows) {
+  Printer().Page().ForeColor = Rgb(9, 9, 9);
+  Printer().Page().DrawStyle = 5;
+  PageAfter(0, 0);
+  EXPECT_EQ(Printer().Page().ForeColor, 0);
+  EXPECT_EQ(Printer().Page().DrawStyle, 0);
+  EXPECT_EQ(Printer().Page().SelectedPen().style, kPenSolid);
+  EXPECT_EQ(Printer().Page().SelectedPen().width, 1);
+  EXPECT_EQ(Printer().Page().SelectedPen().color, 0);
 }
 
 TEST_F(RedrawTest, PrintMakesThePrinterTheTargetAndKeepsTheZoom) {

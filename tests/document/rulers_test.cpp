@@ -1,4 +1,5 @@
 #include <cmath>
+#include <limits>
 
 #include "common/prog_settings.h"
 #include "document/document_support.h"
@@ -34,6 +35,12 @@ class RulersTest : public LabelTest {
       }
     }
     return ticks;
+  }
+
+  void ExpectBandsAlone() {
+    EXPECT_EQ(Board().Of(Painted::What::kBox).size(), 2u);
+    EXPECT_TRUE(Board().Of(Painted::What::kLine).empty());
+    EXPECT_TRUE(Board().Texts().empty());
   }
 
   std::size_t TicksOfLength(double millimetres_on_screen) {
@@ -160,6 +167,37 @@ TEST_F(RulersTest, LabelCornerAwayFromTheBoardDrawsFromItsOwnCount) {
   // Board position 1 is label position 51.
   EXPECT_EQ(Board().Texts()[0], "6");
   EXPECT_NEAR(TopTicks()[0].first, 1, 1e-6);
+}
+
+TEST_F(RulersTest, LabelWithoutACountableCornerHasBandsAlone) {
+  constexpr double kInfinity = std::numeric_limits<double>::infinity();
+  constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
+  for (const double corner : {2e9, -2e9, 1e30, -3e38, kInfinity, -kInfinity, kNoNumber}) {
+    SCOPED_TRACE(corner);
+    Draw(1, corner, corner);
+    ExpectBandsAlone();
+  }
+}
+
+TEST_F(RulersTest, LabelFarAwayIsStillCounted) {
+  Draw(1, -5e8, -5e8);
+  EXPECT_EQ(TopTicks().size(), 299u);
+  EXPECT_EQ(Board().Texts()[0], "50000001") << "the first ten after 500,000,001 mm";
+}
+
+TEST_F(RulersTest, BoardWiderThanAnyScreenHasBandsAlone) {
+  Draw(300 / 99999.0);  // 99,999 mm wide: major ticks only, below 20 %
+  EXPECT_EQ(TopTicks().size(), 9999u);
+  for (const double zoom : {300 / 100001.0, 1e-9, 1e-300}) {
+    SCOPED_TRACE(zoom);
+    Draw(zoom);
+    EXPECT_TRUE(TopTicks().empty());
+  }
+}
+
+TEST_F(RulersTest, BoardOfLessThanOneTickHasBandsAlone) {
+  Draw(400);  // 0.75 by 0.5 mm
+  ExpectBandsAlone();
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "shell/startup.h"
 
 #include <cmath>
+#include <filesystem>
 #include <functional>
 #include <random>
 #include <vector>
@@ -469,6 +470,43 @@ TEST_F(StartUpTest, AnEmptySettingsFileStartsToo) {
   EXPECT_EQ(frmMain.cboZoom.Text(), "100%");
 }
 
+// Its bytes cannot be read, as on a failing disk; yet the file is there, so these are no defaults.
+TEST_F(StartUpTest, ASettingsFileThatCannotBeReadIsARecordOfZeros) {
+  std::filesystem::create_symlink("/proc/self/mem", SettingsFile());
+  ASSERT_TRUE(FileExists(SettingsFile()));
+  ASSERT_THROW(ReadFile(SettingsFile()), Fault);
+  StartProgram();
+  EXPECT_EQ(ProgSettings.DefaultFontName.Trimmed(), "");
+  EXPECT_EQ(ProgSettings.MagneticZone, 0);
+  EXPECT_EQ(UnitScale, 25.4);
+  EXPECT_EQ(RecentUB, -1);
+  EXPECT_EQ(frmMain.cboZoom.Text(), "100%");
+  EXPECT_TRUE(dialogs.messages.empty());
+}
+
+// Numbers that no sheet has, in every length at once: the program starts, shows them as they are
+// and can be worked with.
+TEST_F(StartUpTest, LayoutsOfImpossibleSizesStartAndZoom) {
+  int reports = 0;
+  SetFaultReporter([&](const Fault&) { ++reports; });
+  for (float size : {std::nanf(""), HUGE_VALF, -HUGE_VALF, 3.4e38F, -3.4e38F, 1e9F, -1e9F, 0.0F}) {
+    LabelLayouts.assign(1, {"Odd", 0, -1, size, size, size, size, -1, 32767, size, size, -1});
+    LabelLayoutTop = 0;
+    WriteFile(folder.File("label.dta"), LabelLayoutBytes(LabelLayouts[0]));
+    StartProgram();
+    EXPECT_EQ(frmMain.cboLabelLayout.Text(), "Odd") << size;
+    EXPECT_EQ(RedrawCount, 1) << size;
+    for (int button = 0; button < 5; ++button) frmMain.cmdMagnify(button).Press();
+    frmMain.mnuUnitIn.Press();
+    frmMain.mnuUnitMM.Press();
+    EXPECT_GE(ZoomFactor, 0.2) << size;
+    EXPECT_EQ(SuspendRedraw, 0) << size;
+    EXPECT_TRUE(Unload(frmMain)) << size;
+  }
+  SetFaultReporter({});
+  EXPECT_EQ(reports, 0);
+}
+
 TEST_F(StartUpTest, RandomSettingsAndLayoutsStartAndEndWithoutAFault) {
   std::mt19937 random(20260314);
   int reports = 0;
@@ -487,6 +525,7 @@ TEST_F(StartUpTest, RandomSettingsAndLayoutsStartAndEndWithoutAFault) {
     DeleteFile(SettingsFile());
     DeleteFile(folder.File("label.dta"));
   }
+  SetFaultReporter({});
   EXPECT_EQ(reports, 0);
 }
 
@@ -529,8 +568,28 @@ TEST_F(StartUpTest, AFailingStepIsSkippedAndTheNextOnesRun) {
   SetPrinterList(&failing);
   StartProgram();
   SetPrinterList(&printers);
+  EXPECT_EQ(frmMain.cboPrinter.ListCount(), 0);
+  EXPECT_TRUE(frmMain.cboPrinter.Visible());
+  EXPECT_EQ(frmMain.cboPrinter.Text(), "Test printer");  // its own statement, which did not fail
+  EXPECT_EQ(frmMain.cboPrinter.ToolTipText(), "Test printer");
   EXPECT_EQ(frmMain.cboSize.Text(), "12");
   EXPECT_EQ(FieldUB, -1);
+  EXPECT_TRUE(dialogs.messages.empty());
+}
+
+class NoDefaultPrinter : public FakePrinterList {
+ public:
+  std::string DefaultName() override { RaiseFault(kPrinterFault); }
+};
+
+TEST_F(StartUpTest, WithoutADefaultPrinterTheOthersAreListed) {
+  NoDefaultPrinter failing;
+  SetPrinterList(&failing);
+  StartProgram();
+  SetPrinterList(&printers);
+  EXPECT_EQ(frmMain.cboPrinter.ListCount(), 1);
+  EXPECT_TRUE(frmMain.cboPrinter.Visible());
+  EXPECT_EQ(frmMain.cboPrinter.Text(), "");
   EXPECT_TRUE(dialogs.messages.empty());
 }
 

@@ -1,5 +1,6 @@
 #include "tools/view.h"
 
+#include <cmath>
 #include <string>
 
 #include "common/prog_settings.h"
@@ -134,6 +135,23 @@ TEST_F(ViewTest, ASelectedTextForgetsTheObjectToSkip) {
   SuspendRedraw = kTrue;
   Choose("200%");
   EXPECT_EQ(RedrawSkip, -1);
+}
+
+// No number is a size that the hit area refuses while it measures its caption.
+TEST_F(ViewTest, ASelectedTextOfADamagedSizeIsRedrawnAllTheSame) {
+  ObjectRecord& text = AddObject(kText);
+  text.Text = "Ag";
+  text.FontSize = std::nan("");
+  frmMain.lblHold(0).SetCaption("Ag");
+  frmMain.lblHold(0).SetAutoSize(true);
+  SelectedObject = 0;
+  RedrawSkip = 0;
+  CursorShape = 2;
+  Choose("200%");
+  EXPECT_EQ(RedrawCount, 1);
+  EXPECT_EQ(RedrawSkip, -1);
+  EXPECT_EQ(frmMain.lblHold(0).Caption(), "Ag");
+  EXPECT_EQ(CursorShape, 0);
 }
 
 TEST_F(ViewTest, AnotherSelectedObjectKeepsItsHandles) {
@@ -475,6 +493,21 @@ TEST_F(ViewTest, AUnitChangeSelectsTheDefaultLayoutAndSoChangesTheLabel) {
   EXPECT_EQ(LabelWidth, 99);
   EXPECT_EQ(LabelHeight, 38);
   EXPECT_EQ(frmMain.txtLabLayout(2).Text(), "3.90");  // 99 / 25.4 = 3.8976
+}
+
+TEST_F(ViewTest, AUnitChangeWithoutLayoutsSaysNothing) {
+  LabelLayouts.clear();
+  LabelLayoutTop = -1;
+  int reports = 0;
+  const FaultReporter before = SetFaultReporter([&](const Fault&) { ++reports; });
+  frmMain.mnuUnitIn.Events().Click = mnuUnitIn_Click;
+  frmMain.mnuUnitMM.Events().Click = mnuUnitMM_Click;
+  frmMain.mnuUnitIn.Press();
+  EXPECT_EQ(UnitScale, 25.4);
+  frmMain.mnuUnitMM.Press();
+  EXPECT_EQ(UnitScale, 1.0);
+  SetFaultReporter(before);
+  EXPECT_EQ(reports, 0);
 }
 
 TEST_F(ViewTest, ResetShowsTheCrossHairsAgain) {

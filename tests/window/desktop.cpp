@@ -1,5 +1,7 @@
 #include "window/desktop.h"
 
+#include <X11/Xlib.h>
+#include <X11/Xutil.h>
 #include <atspi/atspi.h>
 #include <fcntl.h>
 #include <sys/prctl.h>
@@ -9,6 +11,7 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
+#include <cmath>
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
@@ -207,23 +210,24 @@ std::string TextOf(AtspiAccessible* node) {
   return contents;
 }
 
-Box BoxOf(AtspiAccessible* node) {
+Box BoxOf(AtspiAccessible* node, double scale) {
   AtspiComponent* component = atspi_accessible_get_component_iface(node);
   if (!component) return {};
   AtspiRect* rect = atspi_component_get_extents(component, ATSPI_COORD_TYPE_SCREEN, nullptr);
   Box box;
-  if (rect) box = {rect->x, rect->y, rect->width, rect->height};
+  const auto pixels = [scale](int value) { return static_cast<int>(std::lround(value * scale)); };
+  if (rect) box = {pixels(rect->x), pixels(rect->y), pixels(rect->width), pixels(rect->height)};
   g_free(rect);
   g_object_unref(component);
   return box;
 }
 
-Spoken Described(AtspiAccessible* node) {
+Spoken Described(AtspiAccessible* node, double scale) {
   Spoken spoken;
   spoken.name = Taken(atspi_accessible_get_name(node, nullptr));
   spoken.role = Taken(atspi_accessible_get_role_name(node, nullptr));
   spoken.text = TextOf(node);
-  spoken.box = BoxOf(node);
+  spoken.box = BoxOf(node, scale);
   spoken.enabled = Has(node, ATSPI_STATE_ENABLED);
   spoken.checked = Has(node, ATSPI_STATE_CHECKED);
   spoken.showing = Has(node, ATSPI_STATE_SHOWING);
@@ -272,7 +276,7 @@ bool FindInto(const Program& program, const std::string& name, const std::string
               Spoken& found) {
   return WalkProgram(program, [&](AtspiAccessible* node) {
     if (!Matches(node, name, role)) return false;
-    found = Described(node);
+    found = Described(node, program.Scale());
     return found.box.width > 0 && found.box.height > 0;
   });
 }
@@ -280,7 +284,7 @@ bool FindInto(const Program& program, const std::string& name, const std::string
 }  // namespace
 
 std::string Shell(const std::string& command, bool must) {
-  FILE* pipe = popen((command + (must ? "" : " 2>/dev/null")).c_str(), "r");
+  FILE* pipe = popen(must ? command.c_str() : ("(" + command + ") 2>/dev/null").c_str(), "r");
   if (!pipe) Fail("no shell");
   std::string output;
   std::array<char, 4096> chunk{};
@@ -308,6 +312,11 @@ Program::Program(const std::string& folder, const std::vector<std::string>& vari
   if (!fs::exists(executable)) fs::copy_file(TAGWRIGHT_EXECUTABLE, executable);
   std::vector<std::string> command = {"env"};
   command.insert(command.end(), variables.begin(), variables.end());
+  const std::string scale_variable = "QT_SCALE_FACTOR=";
+  for (const std::string& variable : variables) {
+    if (!variable.starts_with(scale_variable)) continue;
+    scale_ = std::stod(variable.substr(scale_variable.size()));
+  }
   command.push_back(executable.string());
   pid_ = Spawn(command, log);
   WaitFor("the main window", [&] {
@@ -393,7 +402,7 @@ void Type(const std::string& text) { Xdotool("type --delay 5 " + Quoted(text)); 
 std::vector<Spoken> Everything(const Program& program) {
   std::vector<Spoken> all;
   WalkProgram(program, [&](AtspiAccessible* node) {
-    all.push_back(Described(node));
+    all.push_back(Described(node, program.Scale()));
     return false;
   });
   return all;
@@ -470,14 +479,19 @@ void ChooseRow(const Program& program, const std::string& label, const std::stri
 }
 
 std::vector<std::uint32_t> Pixels(const Box& part) {
-  const std::string raw = Shell("import -window root -crop " + Geometry(part) +
-                                " +repage -depth 8 rgb:- | od -An -v -tu1 -w3");
-  std::istringstream numbers(raw);
+  Display* display = XOpenDisplay(nullptr);
+  if (!display) Fail("no display");
+  XImage* image = XGetImage(display, DefaultRootWindow(display), part.x, part.y, part.width,
+                            part.height, AllPlanes, ZPixmap);
   std::vector<std::uint32_t> pixels;
-  for (std::uint32_t red = 0, green = 0, blue = 0; numbers >> red >> green >> blue;) {
-    pixels.push_back(red << 16 | green << 8 | blue);
+  for (int y = 0; image && y < part.height; ++y) {
+    for (int x = 0; x < part.width; ++x) {
+      pixels.push_back(static_cast<std::uint32_t>(XGetPixel(image, x, y)) & 0xFFFFFF);
+    }
   }
-  if (pixels.size() != static_cast<std::size_t>(part.width) * part.height) Fail("no picture");
+  if (image) XDestroyImage(image);
+  XCloseDisplay(display);
+  if (pixels.empty()) Fail("no picture");
   return pixels;
 }
 

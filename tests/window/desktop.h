@@ -22,8 +22,9 @@ struct Box {
   bool operator==(const Box&) const = default;
 };
 
-constexpr int kScreenWidth = 1600;
-constexpr int kScreenHeight = 1000;
+// Room for the main window at twice its size.
+constexpr int kScreenWidth = 2600;
+constexpr int kScreenHeight = 1700;
 
 // Output of a shell command, without its last newline. Throws when it fails and `must` is set.
 std::string Shell(const std::string& command, bool must = true);
@@ -44,6 +45,8 @@ class Program {
   Program& operator=(const Program&) = delete;
 
   pid_t Pid() const { return pid_; }
+  // Screen pixels of one of the program's own; the tree of spoken names counts the latter.
+  double Scale() const { return scale_; }
   // Number of the main window.
   const std::string& Window() const { return window_; }
   std::string Title() const;
@@ -60,6 +63,7 @@ class Program {
   mutable pid_t pid_ = -1;
   mutable int status_ = 0;
   std::string window_;
+  double scale_ = 1;
 };
 
 // --- mouse and keyboard --------------------------------------------------------------------------

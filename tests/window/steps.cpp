@@ -44,12 +44,15 @@ int Leave(Program& program) {
 
 Box Board(const Program& program) { return Find(program, "Label").box; }
 
-int LabelPixels(const Program& program) {
+Span LabelSpan(const Program& program) {
+  constexpr std::uint32_t kWhite = 0xFFFFFF;
   Box middle = Board(program);
   middle.y += middle.height / 2;
   middle.height = 1;
   const auto pixels = Pixels(middle);
-  return static_cast<int>(std::ranges::count(pixels, 0xFFFFFFU));
+  const auto first = std::ranges::find(pixels, kWhite);
+  return {middle.x + static_cast<int>(first - pixels.begin()),
+          static_cast<int>(std::ranges::count(pixels, kWhite))};
 }
 
 int Coloured(const Program& program, std::uint32_t color) {

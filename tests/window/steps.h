@@ -19,10 +19,14 @@ void SaveProjectAs(const Program& program, const std::string& path);
 // Leaves with File > Exit. Returns the exit code.
 int Leave(Program& program);
 
-// The board on the screen, and on it the label of an otherwise empty board: how many pixels of the
-// board's middle row are white.
+// The board on the screen, and on it the label, empty on an otherwise empty board: the white pixels
+// of the board's middle row.
+struct Span {
+  int left = 0;  // on the screen
+  int width = 0;
+};
 Box Board(const Program& program);
-int LabelPixels(const Program& program);
+Span LabelSpan(const Program& program);
 
 // How many pixels of the board have exactly this colour (0xRRGGBB).
 int Coloured(const Program& program, std::uint32_t color);

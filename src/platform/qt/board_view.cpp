@@ -200,8 +200,7 @@ void BoardView::Changed(const Control& control, Aspect aspect) {
 }
 
 void BoardView::Place() {
-  setGeometry(Pixels(box_->Left()), Pixels(box_->Top()), Pixels(box_->Width()),
-              Pixels(box_->Height()));
+  setGeometry(PixelBox(*box_));
   update();
 }
 

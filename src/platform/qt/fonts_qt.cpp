@@ -3,7 +3,6 @@
 #include <QFont>
 #include <QFontDatabase>
 #include <QFontMetricsF>
-#include <QGlyphRun>
 #include <QPaintEngine>
 #include <QPainter>
 #include <QRawFont>
@@ -22,6 +21,11 @@ constexpr double kPointsPerInch = 72;
 constexpr std::size_t kShapesKept = 8192;
 constexpr std::size_t kSizedFontsKept = 128;
 constexpr std::size_t kFacesKept = 1024;
+
+// The toolkit lays text out in 32 bits, of which 6 are a fraction: so many units and characters of
+// the reference size keep clear of that.
+constexpr double kWidestPart = 1e7;
+constexpr qsizetype kLongestPart = 4096;
 
 // One family in one style, at the reference size.
 struct Face {
@@ -104,22 +108,44 @@ QGlyphRun WithoutBlanks(const QGlyphRun& run) {
   return rest;
 }
 
-ShapedText Shape(const QString& text, const QFont& font) {
+// A part of a line that is short enough for the toolkit's arithmetic.
+ShapedText ShapePart(const QString& text, const QFont& font) {
   QTextLayout layout(text, font);
   QTextOption option;
   option.setWrapMode(QTextOption::NoWrap);
   option.setFlags(QTextOption::IncludeTrailingSpaces);
   layout.setTextOption(option);
-  layout.setCacheEnabled(false);
   layout.beginLayout();
   QTextLine line = layout.createLine();
   if (!line.isValid()) return {};
-  line.setLineWidth(1e7);
+  line.setLineWidth(kWidestPart);
   line.setPosition(QPointF(0, -line.ascent()));
   layout.endLayout();
-  ShapedText shaped{{}, line.naturalTextWidth()};
+  ShapedText shaped{{}, line.horizontalAdvance()};
   for (const QGlyphRun& run : layout.glyphRuns()) shaped.runs.append(WithoutBlanks(run));
   return shaped;
+}
+
+void Append(ShapedText& line, const ShapedText& part) {
+  for (QGlyphRun run : part.runs) {
+    QList<QPointF> positions = run.positions();
+    for (QPointF& position : positions) position.rx() += line.width;
+    run.setPositions(positions);
+    line.runs.append(run);
+  }
+  line.width += part.width;
+}
+
+// What lies beyond the widest part is measured but not drawn: no paper is as wide.
+ShapedText Shape(const QString& text, const QFont& font) {
+  if (text.size() <= kLongestPart) return ShapePart(text, font);
+  ShapedText line;
+  for (qsizetype at = 0; at < text.size(); at += kLongestPart) {
+    ShapedText part = ShapePart(text.mid(at, kLongestPart), font);
+    if (line.width > kWidestPart) part.runs.clear();
+    Append(line, part);
+  }
+  return line;
 }
 
 CachedShape& ShapeOf(std::string_view text, const FontSpec& font) {

@@ -5,6 +5,7 @@
 // where rounding does not matter, and every other size is that shape under a scale.
 #pragma once
 
+#include <QGlyphRun>
 #include <QList>
 #include <QString>
 #include <string_view>
@@ -12,7 +13,6 @@
 #include "platform/fonts.h"
 #include "platform/surface.h"
 
-class QGlyphRun;
 class QPainter;
 
 namespace tagwright {

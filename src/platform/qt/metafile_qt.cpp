@@ -12,6 +12,7 @@
 #include <deque>
 #include <optional>
 #include <string_view>
+#include <unordered_map>
 #include <utility>
 
 #include "platform/qt/fonts_qt.h"
@@ -30,6 +31,15 @@ constexpr std::int64_t kMostBitmapPixels = 25'000'000;  // of all bitmaps of one
 constexpr double kHatchPixels = 8;                      // one hatch pattern at 96 an inch
 constexpr double kHatchesPerBox = 50;                   // so many lie across the picture
 
+// A font of the drawing, copied when it was made.
+struct MadeFont {
+  FontSpec spec;  // of one point
+  bool symbol = false;
+  bool underlined = false;
+  bool struck_out = false;
+  double degrees = 0;  // against the clock
+};
+
 // What one playing of a file draws on. The library hands every call of the drawing its API record,
 // which leads here.
 struct Stage {
@@ -39,6 +49,10 @@ struct Stage {
   QRectF box;           // the picture in the library's units
   double unit = 1;      // of the painter in the library's, for the thinnest pen
   double stretch = 1;   // of text, where the library's units are wider than high or the reverse
+  // The library lets a drawing free or replace an object while it is selected, and then hands out
+  // what lies in its place. So no pointer inside its objects is followed: fonts are those that were
+  // made at an address, and a bitmap must be one of these.
+  std::unordered_map<const wmfFont*, MadeFont> fonts;
   std::deque<QImage> bitmaps;
   std::int64_t bitmap_pixels = 0;
 };
@@ -106,7 +120,12 @@ Qt::BrushStyle HatchOf(int hatch) {
   }
 }
 
-const QImage* BitmapOf(const wmfBMP& bitmap) { return static_cast<const QImage*>(bitmap.data); }
+const QImage* BitmapOf(const Stage& stage, const wmfBMP& bitmap) {
+  for (const QImage& known : stage.bitmaps) {
+    if (&known == bitmap.data) return &known;
+  }
+  return nullptr;
+}
 
 // Patterns grow with the picture: in pixels of the device they would be grey on paper.
 QBrush Patterned(QBrush brush, const Stage& stage) {
@@ -124,7 +143,7 @@ QBrush BrushOf(const wmfDC& dc, const Stage& stage) {
       return Patterned(QBrush(ColorOf(dc.brush->lbColor), HatchOf(dc.brush->lbHatch)), stage);
     case BS_PATTERN:
     case BS_DIBPATTERN: {
-      const QImage* tile = BitmapOf(dc.brush->bmp);
+      const QImage* tile = BitmapOf(stage, dc.brush->bmp);
       return tile ? Patterned(QBrush(*tile), stage) : QBrush(Qt::NoBrush);
     }
     default:
@@ -294,7 +313,7 @@ void ReadBitmap(wmfAPI* api, wmfBMP_Read_t* source) {
 }
 
 void DrawBitmap(wmfAPI* api, wmfBMP_Draw_t* draw) {
-  const QImage* image = BitmapOf(draw->bmp);
+  const QImage* image = BitmapOf(StageOf(api), draw->bmp);
   if (!PainterOf(api) || !image) return;
   const QRect crop(draw->crop.x, draw->crop.y, draw->crop.w, draw->crop.h);
   const QImage part = crop == image->rect() ? *image : image->copy(crop & image->rect());
@@ -317,62 +336,70 @@ void DrawOperation(wmfAPI* api, wmfROP_Draw_t* draw) {
 
 // --- text ---------------------------------------------------------------------------------------
 
-std::string NameOf(const wmfFont& font) {
-  return font.lfFaceName ? FromCodePage(font.lfFaceName) : "";
-}
-
-bool IsSymbol(const wmfFont& font) { return EqualIgnoringCase(NameOf(font), "Symbol"); }
-
-std::string TextOf(const wmfFont& font, const char* text) {
-  return IsSymbol(font) ? SymbolText(text) : FromCodePage(text);
-}
-
-FontSpec FontOf(const wmfFont& font, double size) {
+FontSpec SpecOf(const wmfFont& font, const std::string& name) {
   constexpr int kSemiBold = 600;
-  return {IsSymbol(font) ? "Times New Roman" : NameOf(font), size, font.lfWeight >= kSemiBold,
-          font.lfItalic != 0};
+  return {name, 1, font.lfWeight >= kSemiBold, font.lfItalic != 0};
+}
+
+void MapFont(wmfAPI* api, wmfFont* font) {
+  if (!font) return;
+  const std::string name = font->lfFaceName ? FromCodePage(font->lfFaceName) : "";
+  const bool symbol = EqualIgnoringCase(name, "Symbol");
+  StageOf(api).fonts[font] = {SpecOf(*font, symbol ? "Times New Roman" : name), symbol,
+                              font->lfUnderline != 0, font->lfStrikeOut != 0,
+                              font->lfEscapement / 10.0};
+}
+
+const MadeFont& FontOf(wmfAPI* api, const wmfFont* font) {
+  static const MadeFont usual;
+  const auto& fonts = StageOf(api).fonts;
+  const auto made = fonts.find(font);
+  return made == fonts.end() ? usual : made->second;
+}
+
+std::string TextOf(const MadeFont& font, const char* text) {
+  return font.symbol ? SymbolText(text) : FromCodePage(text);
 }
 
 float StringWidth(wmfAPI* api, wmfFont* font, char* text) {
-  if (!font || !text) return 0;
-  const double width = Fonts().Width(TextOf(*font, text), FontOf(*font, 1));
-  return static_cast<float>(width * StageOf(api).stretch);
+  if (!text) return 0;
+  const MadeFont& made = FontOf(api, font);
+  return static_cast<float>(Fonts().Width(TextOf(made, text), made.spec) * StageOf(api).stretch);
 }
 
 // Lines under or through the text, in parts of its size as most fonts have them.
-void DrawTextLines(QPainter& painter, const wmfFont& font, double width, double size,
+void DrawTextLines(QPainter& painter, const MadeFont& font, double width, double size,
                    const QColor& color) {
   const double thickness = size / 16;
-  if (font.lfUnderline) painter.fillRect(QRectF(0, size / 10, width, thickness), color);
-  if (font.lfStrikeOut) painter.fillRect(QRectF(0, -size / 4, width, thickness), color);
+  if (font.underlined) painter.fillRect(QRectF(0, size / 10, width, thickness), color);
+  if (font.struck_out) painter.fillRect(QRectF(0, -size / 4, width, thickness), color);
+}
+
+void PrepareTextBox(QPainter& painter, const wmfDrawText_t& draw) {
+  const QRectF box = BoxOf(draw.TL, draw.BR);
+  if (draw.flags & ETO_CLIPPED) painter.setClipRect(box, Qt::IntersectClip);
+  if (draw.flags & ETO_OPAQUE) painter.fillRect(box, ColorOf(draw.dc->bgcolor));
 }
 
 void DrawText(wmfAPI* api, wmfDrawText_t* draw) {
-  const wmfFont* font = draw->dc->font;
-  if (!PainterOf(api) || !font || !draw->str) return;
+  if (!PainterOf(api) || !draw->str) return;
   constexpr double kPointsPerInch = 72;
   QPainter& painter = *PainterOf(api);
-  const std::string text = TextOf(*font, draw->str);
-  const double size = std::abs(draw->font_height);
-  const FontSpec spec = FontOf(*font, size);
+  const MadeFont& font = FontOf(api, draw->dc->font);
+  const std::string text = TextOf(font, draw->str);
+  FontSpec spec = font.spec;
+  spec.Size = std::abs(draw->font_height);
   const QColor color = ColorOf(draw->dc->textcolor);
   painter.save();
-  if (draw->flags & ETO_CLIPPED) {
-    painter.setClipRect(BoxOf(draw->TL, draw->BR), Qt::IntersectClip);
-  }
-  if (draw->flags & ETO_OPAQUE) {
-    painter.fillRect(BoxOf(draw->TL, draw->BR), ColorOf(draw->dc->bgcolor));
-  }
+  PrepareTextBox(painter, *draw);
   painter.translate(PointOf(draw->pt));
-  painter.rotate(-font->lfEscapement / 10.0);
+  painter.rotate(-font.degrees);
   painter.scale((draw->font_ratio > 0 ? draw->font_ratio : 1) * StageOf(api).stretch, 1);
   PaintText(painter, 0, 0, text, spec, Rgb(color.red(), color.green(), color.blue()),
             kPointsPerInch);
-  DrawTextLines(painter, *font, Fonts().Width(text, spec), size, color);
+  DrawTextLines(painter, font, Fonts().Width(text, spec), spec.Size, color);
   painter.restore();
 }
-
-void MapFont(wmfAPI*, wmfFont*) {}
 
 // --- regions ------------------------------------------------------------------------------------
 
@@ -498,7 +525,7 @@ void MetafilePicture::Paint(QPainter& painter, const QRectF& box) const {
   const double scale_x = box.width() / box_.width();
   const double scale_y = box.height() / box_.height();
   const double unit = 1 / std::sqrt(std::abs(scale_x * scale_y));
-  Stage stage{&painter, &bytes, metafile_.framed, box_, unit, TextStretch(*this, box_), {}, 0};
+  Stage stage{&painter, &bytes, metafile_.framed, box_, unit, TextStretch(*this, box_), {}, {}, 0};
   Player player(bytes, stage);
   painter.save();
   painter.translate(box.topLeft());

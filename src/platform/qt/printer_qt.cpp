@@ -103,7 +103,7 @@ int FinestResolution(const QPrinterInfo& info) {
 
 // --- a printer ----------------------------------------------------------------------------------
 
-enum class JobState { kNone, kPageOpen, kPageDone, kCancelled };
+enum class JobState { kNone, kPageOpen, kPageDone, kRefused };
 
 // The state of a job moves with what is painted: the first thing opens the job and its page, a page
 // feed ends the page, and the next page opens only when something is painted on it.
@@ -145,6 +145,7 @@ class ToolkitPrinter : public PrinterDevice {
   int orientation_ = kPortrait;
   int paper_ = kA4;
   JobState state_ = JobState::kNone;
+  Fault refusal_;
   std::unique_ptr<Spool> spool_;
   QPainter painter_;
 };
@@ -185,8 +186,8 @@ QPainter& ToolkitPrinter::OpenPage() {
     case JobState::kPageDone:
       FollowPage();
       break;
-    case JobState::kCancelled:
-      RaiseFault(kDialogCancelled);
+    case JobState::kRefused:
+      throw refusal_;
     case JobState::kPageOpen:
       break;
   }
@@ -196,8 +197,9 @@ QPainter& ToolkitPrinter::OpenPage() {
 void ToolkitPrinter::BeginJob() {
   try {
     spool_ = open_spool_();
-  } catch (const Fault&) {
-    state_ = JobState::kCancelled;  // once asked, not again for each thing that is painted
+  } catch (const Fault& fault) {
+    refusal_ = fault;  // once asked, not again for each thing that is painted
+    state_ = JobState::kRefused;
     throw;
   }
   spool_->Device().setPageLayout(Layout());

@@ -10,7 +10,6 @@
 namespace tagwright {
 namespace {
 
-constexpr double kScreenPixelsPerInch = kTwipsPerInch / kTwipsPerPixel;
 constexpr int kLargestSide = 20000;   // image pixels; beyond lies a wrong number, not a picture
 constexpr double kFarthest = 1e6;     // pixels; the toolkit counts in integers beneath
 constexpr double kTallestText = 2e4;  // pixels; a glyph larger than every page says nothing

@@ -48,10 +48,10 @@ class ImageSurface : public Surface {
   void MaskPicture(const Picture& picture, const QRectF& box);
 
   double ratio_;
-  // Opened by the first painting and closed when the image is asked for: opening one for every
-  // call would cost more than most calls.
-  mutable QPainter painter_;
   mutable QImage image_;
+  // Opened by the first painting and closed when the image is asked for: opening one for every
+  // call would cost more than most calls. After the image, since it must go first.
+  mutable QPainter painter_;
 };
 
 // Paints on the page of a printer through a painter that its owner opens. One unit of the painter

@@ -104,6 +104,13 @@ int KeyCode(const QKeyEvent& event) {
   }
 }
 
+QRect PixelBox(const Control& control) {
+  const int left = Pixels(control.LeftTwips());
+  const int top = Pixels(control.TopTwips());
+  return {left, top, Pixels(control.LeftTwips() + control.WidthTwips()) - left,
+          Pixels(control.TopTwips() + control.HeightTwips()) - top};
+}
+
 QString ObjectName(const Control& control) {
   const QString name = ToQt(control.Name());
   return control.Index() < 0 ? name : name + "_" + QString::number(control.Index());
@@ -171,7 +178,10 @@ void ShowFrontPanel(QStackedWidget& stack, const Container& container) {
   if (stack.currentWidget() == panel) return;
   auto* floating = stack.findChild<QWidget*>("fontSlot");
   auto* slot = panel->findChild<QWidget*>(panel->objectName().replace("pic", "slot"));
-  if (floating && slot) slot->layout()->addWidget(floating);
+  if (floating && slot) {
+    slot->layout()->addWidget(floating);
+    slot->layout()->setAlignment(floating, Qt::AlignTop);
+  }
   stack.setCurrentWidget(panel);
   FollowFocus(*container.ParentForm());
 }
@@ -237,8 +247,7 @@ void WidgetView::Changed(const Control& control, Aspect aspect) {
 
 void WidgetView::RenderPlace() {
   if (!PlacedByModel(widget_)) return;
-  widget_.setGeometry(Pixels(control_.LeftTwips()), Pixels(control_.TopTwips()),
-                      Pixels(control_.WidthTwips()), Pixels(control_.HeightTwips()));
+  widget_.setGeometry(PixelBox(control_));
 }
 
 void WidgetView::RenderVisible() {
@@ -560,7 +569,6 @@ class TextView : public WidgetView {
   }
 
  protected:
-  virtual QMenu* StandardMenu() = 0;
   virtual void ShowText() = 0;
   virtual void ShowCaret() = 0;
   virtual bool ManyLines() const = 0;
@@ -598,16 +606,26 @@ class TextView : public WidgetView {
   TextBox& box_;
 
  private:
-  // The toolkit's own menu, with a paste that comes as characters.
+  // The toolkit's own menu would paste past the handlers.
   void ShowContextMenu(const QPoint& at) {
-    std::unique_ptr<QMenu> menu(StandardMenu());
-    if (QAction* paste = menu->findChild<QAction*>("edit-paste")) {
-      paste->disconnect();
-      connect(paste, &QAction::triggered, this,
-              [this] { Type(QApplication::clipboard()->text()); });
-    }
+    const bool selected = box_.SelLength() > 0;
+    QMenu menu;
+    AddEdit(menu, "Cut", "cut", selected && !box_.Locked());
+    AddEdit(menu, "Copy", "copy", selected);
+    QAction* paste =
+        menu.addAction("Paste", this, [this] { Type(QApplication::clipboard()->text()); });
+    paste->setEnabled(!box_.Locked() && !QApplication::clipboard()->text().isEmpty());
+    menu.addSeparator();
+    AddEdit(menu, "Select All", "selectAll", !box_.Text().empty());
     ModalOpens();
-    menu->exec(at);
+    const ModalRun run;
+    menu.exec(at);
+  }
+
+  void AddEdit(QMenu& menu, const QString& caption, const char* slot, bool enabled) {
+    QAction* entry =
+        menu.addAction(caption, this, [=, this] { QMetaObject::invokeMethod(&widget_, slot); });
+    entry->setEnabled(enabled);
   }
 };
 
@@ -623,7 +641,6 @@ class LineView : public TextView {
   }
 
  protected:
-  QMenu* StandardMenu() override { return line_.createStandardContextMenu(); }
   bool ManyLines() const override { return false; }
 
   void Render(Aspect aspect) override {
@@ -670,7 +687,6 @@ class LinesView : public TextView {
   }
 
  protected:
-  QMenu* StandardMenu() override { return lines_.createStandardContextMenu(); }
   bool ManyLines() const override { return true; }
 
   void Render(Aspect aspect) override {
@@ -803,17 +819,19 @@ class ComboView : public WidgetView {
     ShowChoice();
   }
 
+  // The toolkit follows a row with its own text: the model's comes after it.
   void ShowChoice() {
-    const QSignalBlocker quiet(list_);
-    if (!stale_) list_.setCurrentIndex(combo_.ListIndex());
-    const QString text = ToQt(combo_.Text());
     QLineEdit* edit = list_.lineEdit();
-    if (!edit) {
-      list_.setPlaceholderText(text);
-    } else {
-      const QSignalBlocker edit_quiet(*edit);
+    const QSignalBlocker quiet(list_);
+    const QSignalBlocker edit_quiet(edit);
+    const QString text = ToQt(combo_.Text());
+    const bool moved = !stale_ && list_.currentIndex() != combo_.ListIndex();
+    if (moved) list_.setCurrentIndex(combo_.ListIndex());
+    if (edit) {
       if (edit->text() != text) edit->setText(text);
       ShowCaret(*edit);
+    } else {
+      list_.setPlaceholderText(text);
     }
     widget_.update();
   }

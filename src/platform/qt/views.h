@@ -25,6 +25,10 @@ inline int Pixels(double twips) { return qRound(twips / kTwipsPerPixel); }
 inline double Twips(int pixels) { return pixels * kTwipsPerPixel; }
 inline double Twips(double pixels) { return pixels * kTwipsPerPixel; }
 
+// The pixels that a control covers in its container. Edges are rounded, not lengths: neighbours
+// that touch in the model touch on the screen.
+QRect PixelBox(const Control& control);
+
 inline QString ToQt(const std::string& text) { return QString::fromStdString(text); }
 
 int ButtonCode(Qt::MouseButton button);

@@ -12,6 +12,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QTimer>
 #include <QWindow>
 #include <cmath>
@@ -220,10 +221,11 @@ void FormWindow::RunModal() {
   QEventLoop loop;
   modal_loop_ = &loop;
   window_->setWindowModality(Qt::ApplicationModal);
+  const QPointer<QObject> alive(this);
   Show();
-  if (!IsLoaded(form_) || !form_.Visible()) return;
-  FocusFirst();
+  if (IsLoaded(form_)) FocusFirst();
   if (IsLoaded(form_) && form_.Visible()) loop.exec();
+  if (alive) modal_loop_ = nullptr;
 }
 
 // The first field of a dialog has the keyboard, as the user expects.

@@ -1,0 +1,229 @@
+// Metafiles: their size, where they draw, what is refused.
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QPainter>
+#include <filesystem>
+#include <string>
+
+#include "paint_environment.h"
+#include "platform/fault.h"
+#include "platform/files.h"
+#include "platform/qt/metafile_qt.h"
+#include "platform/qt/metafile_records.h"
+#include "platform/qt/picture_qt.h"
+#include "support/test_support.h"
+
+namespace tagwright {
+namespace {
+
+std::string Bytes(const std::string& name) {
+  return ReadFile(TestDataFolder() + "/pictures/" + name);
+}
+
+QImage Draw(const PicturePtr& picture, int width, int height) {
+  QImage image(width, height, QImage::Format_RGB32);
+  image.fill(Qt::white);
+  QPainter painter(&image);
+  painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+  dynamic_cast<const PaintedPicture&>(*picture).Paint(painter, QRectF(0, 0, width, height));
+  return image;
+}
+
+// The box of what is not white.
+QRect InkBox(const QImage& image) {
+  QRect box;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) {
+      if (Ink(image, x, y) > 0.3) box |= QRect(x, y, 1, 1);
+    }
+  }
+  return box;
+}
+
+double InkShare(const QImage& image) {
+  int ink = 0;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) ink += image.pixel(x, y) != qRgb(255, 255, 255);
+  }
+  return 100.0 * ink / (image.width() * image.height());
+}
+
+using MetafileTest = PaintTest;
+
+// --- sizes --------------------------------------------------------------------------------------
+
+TEST_F(MetafileTest, ThePlaceableHeaderGivesTheSize) {
+  const PicturePtr picture = ReadMetafile(Bytes("placeable.wmf"));
+  ASSERT_TRUE(picture);
+  EXPECT_NEAR(picture->Width, 5080, 1e-6);
+  EXPECT_NEAR(picture->Height, 2540, 1e-6);
+}
+
+TEST_F(MetafileTest, AWrongChecksumOfTheHeaderDoesNotMatter) {
+  std::string bytes = Bytes("placeable.wmf");
+  bytes[20] ^= 0x55;
+  EXPECT_TRUE(ReadMetafile(bytes));
+}
+
+TEST_F(MetafileTest, WithoutAHeaderTheWindowGivesTheSizeAt96AnInch) {
+  const PicturePtr picture = ReadMetafile(Bytes("window.wmf"));
+  ASSERT_TRUE(picture);
+  EXPECT_NEAR(picture->Width, 2540, 1e-6);
+  EXPECT_NEAR(picture->Height, 1270, 1e-6);
+}
+
+TEST_F(MetafileTest, ADrawingThatSaysNothingIs100MillimetresOnItsLongerSide) {
+  const PicturePtr picture = ReadMetafile(Bytes("bare.wmf"));
+  ASSERT_TRUE(picture);
+  EXPECT_NEAR(picture->Width, 10000, 1e-6);
+  EXPECT_NEAR(picture->Height, 5000, 100);
+}
+
+TEST_F(MetafileTest, AHeaderWithoutUnitsCounts96AnInch) {
+  std::string bytes = Bytes("placeable.wmf");
+  bytes[14] = bytes[15] = 0;
+  EXPECT_NEAR(ReadMetafile(bytes)->Width, 2880 / 96.0 * 2540, 1e-6);
+}
+
+TEST_F(MetafileTest, AHeaderWithAnEmptyBoxIsUnreadable) {
+  std::string bytes = Bytes("placeable.wmf");
+  for (int at = 6; at < 14; ++at) bytes[at] = 0;
+  EXPECT_FALSE(ReadMetafile(bytes));
+}
+
+// --- drawing ------------------------------------------------------------------------------------
+
+TEST_F(MetafileTest, TheWindowFillsTheBoxAndNotWhatIsDrawnInIt) {
+  EXPECT_EQ(InkBox(Draw(ReadMetafile(Bytes("placeable.wmf")), 200, 100)), QRect(0, 0, 100, 100));
+  EXPECT_EQ(InkBox(Draw(ReadMetafile(Bytes("window.wmf")), 200, 100)), QRect(100, 0, 100, 100));
+}
+
+TEST_F(MetafileTest, DrawsAnewAndAlikeEachTime) {
+  const PicturePtr picture = ReadMetafile(Bytes("placeable.wmf"));
+  const QImage first = Draw(picture, 64, 64);
+  EXPECT_EQ(Draw(picture, 64, 64), first);
+  EXPECT_EQ(first.pixel(10, 10), qRgb(255, 0, 0));
+}
+
+TEST_F(MetafileTest, IsSharpAtEverySize) {
+  const QImage large = Draw(ReadMetafile(Bytes("placeable.wmf")), 2000, 1000);
+  EXPECT_EQ(large.pixel(999, 500), qRgb(255, 0, 0));
+  EXPECT_EQ(large.pixel(1000, 500), qRgb(255, 255, 255));
+}
+
+// The text stands on a baseline at 100, 500 of 1000 units, its font told by `height`.
+PicturePtr TextOfHeight(int height) {
+  std::string bytes = Bytes("text.wmf");
+  const std::size_t at = bytes.find("\x38\xFF");  // -200, as the file has it
+  bytes[at] = static_cast<char>(height & 0xFF);
+  bytes[at + 1] = static_cast<char>(height >> 8 & 0xFF);
+  return ReadMetafile(bytes);
+}
+
+void ExpectHamburg(const QImage& image, double size) {
+  const FontSpec one{"Arial", 1, false, false};
+  const QRect ink = InkBox(image);
+  EXPECT_NEAR(ink.width(), Fonts().Width("Hamburg", one) * size, 0.15 * size);
+  EXPECT_NEAR(ink.left(), 100, 0.1 * size);
+  EXPECT_NEAR(ink.top(), 500 - 0.73 * size, 0.03 * size);                 // up to the b
+  EXPECT_NEAR(ink.top() + ink.height(), 500 + 0.21 * size, 0.03 * size);  // down to the g
+}
+
+TEST_F(MetafileTest, AFontToldByItsLettersIsAsLargeAsThey) {
+  ExpectHamburg(Draw(TextOfHeight(-200), 1000, 1000), 200);
+}
+
+TEST_F(MetafileTest, AFontToldByItsLineIsSmaller) {
+  const FontSpec one{"Arial", 1, false, false};
+  ExpectHamburg(Draw(TextOfHeight(200), 1000, 1000),
+                200 / (Fonts().Ascent(one) + Fonts().Descent(one)));
+}
+
+TEST_F(MetafileTest, TextStretchesWithItsPicture) {
+  const PicturePtr picture = TextOfHeight(-200);
+  const int width = InkBox(Draw(picture, 1000, 1000)).width();
+  EXPECT_NEAR(InkBox(Draw(picture, 500, 1000)).width(), width / 2.0, 4);
+}
+
+TEST_F(MetafileTest, SymbolTextIsReadInGreek) {
+  EXPECT_EQ(SymbolText("ab"), "αβ");
+  EXPECT_EQ(SymbolText("D"), "Δ");
+  EXPECT_EQ(SymbolText("\xD6\x7F"), "√ ");
+}
+
+// --- refusals -----------------------------------------------------------------------------------
+
+TEST_F(MetafileTest, EveryShorterFileIsUnreadableOrDrawsLess) {
+  const std::string whole = Bytes("text.wmf");
+  for (std::size_t length = 0; length < whole.size(); ++length) {
+    const PicturePtr picture = ReadMetafile(whole.substr(0, length));
+    if (picture) Draw(picture, 20, 20);
+    EXPECT_FALSE(picture && length < 60) << length;
+  }
+}
+
+TEST_F(MetafileTest, ARecordBeyondTheEndIsUnreadable) {
+  std::string bytes = Bytes("window.wmf");
+  bytes[18 + 2] = 1;  // the first record is 65,536 words longer
+  EXPECT_FALSE(ReadMetafile(bytes));
+}
+
+TEST_F(MetafileTest, ARecordOfNoLengthIsUnreadable) {
+  std::string bytes = Bytes("window.wmf");
+  bytes[18] = 0;
+  EXPECT_FALSE(ReadMetafile(bytes));
+}
+
+TEST_F(MetafileTest, OtherBytesAreUnreadable) {
+  EXPECT_FALSE(ReadMetafile(""));
+  EXPECT_FALSE(ReadMetafile("text with the wrong extension"));
+  EXPECT_FALSE(ReadMetafile(std::string(1000, '\0')));
+}
+
+// --- the larger collection ----------------------------------------------------------------------
+
+QJsonObject Facts() {
+  QFile file(QString::fromStdString(SharedDataFolder() + "/wmf/facts.json"));
+  return file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()).object()
+                                        : QJsonObject();
+}
+
+PicturePtr FromCollection(const QString& name) {
+  return ReadMetafile(ReadFile(SharedDataFolder() + "/wmf/" + name.toStdString()));
+}
+
+TEST_F(MetafileTest, EveryFileOfTheCollectionHasTheSizeOfItsHeader) {
+  if (SharedDataFolder().empty()) GTEST_SKIP() << "the larger metafile collection is not here";
+  const QJsonObject facts = Facts();
+  ASSERT_GT(facts.size(), 12);
+  for (const QString& name : facts.keys()) {
+    SCOPED_TRACE(name.toStdString());
+    const QJsonObject fact = facts[name].toObject();
+    const PicturePtr picture = FromCollection(name);
+    EXPECT_EQ(picture != nullptr, fact["libwmf"].toString().startsWith("drawn"));
+    if (!picture || !fact["placeable"].toBool()) continue;
+    EXPECT_NEAR(picture->Width, fact["width_himetric"].toDouble(), 1);
+    EXPECT_NEAR(picture->Height, fact["height_himetric"].toDouble(), 1);
+  }
+}
+
+// The share of ink is a rough check: fonts, smooth edges and margins differ. One file draws beyond
+// its window, which lies outside the picture then.
+TEST_F(MetafileTest, EveryFileOfTheCollectionDrawsAboutAsMuchAsElsewhere) {
+  if (SharedDataFolder().empty()) GTEST_SKIP() << "the larger metafile collection is not here";
+  const QJsonObject facts = Facts();
+  for (const QString& name : facts.keys()) {
+    const PicturePtr picture = FromCollection(name);
+    if (!picture || name == "drawing.wmf") continue;
+    const double longer = std::max(picture->Width, picture->Height);
+    const QImage image = Draw(picture, static_cast<int>(picture->Width * 400 / longer),
+                              static_cast<int>(picture->Height * 400 / longer));
+    EXPECT_NEAR(InkShare(image), facts[name].toObject()["nonwhite_percent_at_400px"].toDouble(), 8)
+        << name.toStdString();
+  }
+}
+
+}  // namespace
+}  // namespace tagwright

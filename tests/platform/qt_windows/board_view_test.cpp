@@ -1,0 +1,210 @@
+#include "platform/qt/board_view.h"
+
+#include <QPainter>
+
+#include "platform/qt/views.h"
+#include "platform/qt_windows/window_fixture.h"
+
+namespace tagwright {
+namespace {
+
+constexpr Color kRed = Rgb(200, 30, 20);
+
+class BoardViewTest : public WindowTest {
+ protected:
+  BoardViewTest() {
+    // One board unit is one pixel.
+    frmMain.picBoard.SetScaleWidth(frmMain.picBoard.Width() / 15);
+    frmMain.picBoard.SetScaleHeight(frmMain.picBoard.Height() / 15);
+    for (LineControl* line : {&frmMain.HairX, &frmMain.HairY}) line->SetVisible(false);
+    frmMain.picBoard.Canvas().BackColor = Rgb(255, 255, 255);
+    frmMain.picBoard.Canvas().Cls();
+    frmMain.picBoard.ImageChanged();
+  }
+  QWidget& Board() { return Find("picBoard"); }
+  QColor Pixel(int x, int y) { return Board().grab().toImage().pixelColor(x, y); }
+  QPoint At(int x, int y) { return Board().mapTo(&Window(), QPoint(x, y)); }
+  Label& ShowHold(int index, double left, double top, double width, double height) {
+    Label& hold = frmMain.lblHold(index);
+    hold.Move(left, top, width, height);
+    hold.SetVisible(true);
+    return hold;
+  }
+  using Log = std::vector<std::string>;
+};
+
+TEST_F(BoardViewTest, ShowsWhatWasPaintedOnItsCanvas) {
+  frmMain.picBoard.Canvas().Line(10, 10, 40, 30, kRed);
+  frmMain.picBoard.ImageChanged();
+  EXPECT_EQ(Pixel(20, 20), QColor(200, 30, 20));
+  EXPECT_EQ(Pixel(60, 20), QColor(Qt::white));
+}
+
+TEST_F(BoardViewTest, HandlesAreSmallSquaresInTheAccentColour) {
+  Label& handle = frmMain.lblHandle(0);
+  handle.Move(100, 100);
+  handle.SetVisible(true);
+  EXPECT_EQ(Pixel(103, 103), QColor(47, 107, 216));
+  EXPECT_EQ(Pixel(100, 103), QColor(Qt::white));
+}
+
+TEST_F(BoardViewTest, TransparentLabelsPaintTheirCaptionOnly) {
+  Label& hold = ShowHold(0, 50, 50, 200, 40);
+  EXPECT_EQ(Pixel(60, 60), QColor(Qt::white));
+  hold.SetCaption("MMMM");
+  hold.SetFontSize(24);
+  hold.SetForeColor(kRed);
+  const QImage image = Board().grab().toImage();
+  int red = 0;
+  for (int x = 50; x < 250; ++x) {
+    for (int y = 50; y < 90; ++y) red += image.pixelColor(x, y) == QColor(200, 30, 20);
+  }
+  EXPECT_GT(red, 100);
+}
+
+TEST_F(BoardViewTest, ChildrenArePaintedFromBackToFront) {
+  Label& below = ShowHold(0, 50, 50, 40, 40);
+  Label& above = ShowHold(1, 50, 50, 40, 40);
+  below.SetBackStyle(1);
+  below.SetBackColor(kRed);
+  above.SetBackStyle(1);
+  above.SetBackColor(Rgb(0, 0, 255));
+  EXPECT_EQ(Pixel(70, 70), QColor(Qt::blue));
+  below.ZOrder();
+  EXPECT_EQ(Pixel(70, 70), QColor(200, 30, 20));
+}
+
+TEST_F(BoardViewTest, LinesAndFramesArePainted) {
+  LineControl& rule = frmMain.lnMX;
+  rule.SetX1(30);
+  rule.SetX2(30);
+  rule.SetY1(0);
+  rule.SetY2(200);
+  rule.SetBorderColor(kRed);
+  rule.SetVisible(true);
+  EXPECT_EQ(Pixel(30, 100), QColor(200, 30, 20));
+  rule.SetVisible(false);
+  EXPECT_EQ(Pixel(30, 100), QColor(Qt::white));
+  frmMain.shpBox.Move(60, 60, 50, 50);
+  frmMain.shpBox.SetBorderStyle(1);
+  frmMain.shpBox.SetBorderColor(kRed);
+  frmMain.shpBox.SetVisible(true);
+  EXPECT_EQ(Pixel(80, 60), QColor(200, 30, 20));
+  EXPECT_EQ(Pixel(80, 80), QColor(Qt::white));
+}
+
+TEST_F(BoardViewTest, AFrameOfNegativeSizeIsPaintedAsNone) {
+  frmMain.shpBox.Move(60, 60, -20, -20);
+  frmMain.shpBox.SetBorderColor(kRed);
+  frmMain.shpBox.SetVisible(true);
+  EXPECT_EQ(Pixel(50, 50), QColor(Qt::white));
+}
+
+TEST_F(BoardViewTest, APressReachesTheTopmostLabelInItsOwnCorner) {
+  ShowHold(0, 100, 100, 60, 40);
+  frmMain.lblHold.Events().MouseDown = [this](int index, int button, int shift, double x,
+                                              double y) {
+    log.push_back(std::to_string(index) + " " + std::to_string(button) + " " +
+                  std::to_string(shift) + " " + std::to_string(int(x)) + "," +
+                  std::to_string(int(y)));
+  };
+  QTest::mousePress(Screen(), Qt::LeftButton, Qt::ControlModifier, At(110, 120));
+  EXPECT_EQ(log, Log({"0 1 2 150,300"}));
+  QTest::mouseRelease(Screen(), Qt::LeftButton, Qt::NoModifier, At(110, 120));
+}
+
+TEST_F(BoardViewTest, APressKeepsItsLabelUntilTheRelease) {
+  Label& hold = ShowHold(0, 100, 100, 60, 40);
+  frmMain.lblHold.Events().MouseDown = [&](int, int, int, double, double) {
+    hold.SetVisible(false);
+  };
+  frmMain.lblHold.Events().MouseUp = [this](int index, int, int, double, double) {
+    log.push_back("up " + std::to_string(index));
+  };
+  QTest::mousePress(Screen(), Qt::LeftButton, Qt::NoModifier, At(110, 120));
+  QTest::mouseMove(Screen(), At(300, 300));
+  QTest::mouseRelease(Screen(), Qt::LeftButton, Qt::NoModifier, At(300, 300));
+  EXPECT_EQ(log, Log({"up 0"}));
+}
+
+TEST_F(BoardViewTest, APressOnTheBoardTakesTheKeyboardFromAField) {
+  frmMain.cboZoom.SetFocus();
+  frmMain.cboZoom.Events().LostFocus = [this] { log.push_back("lost"); };
+  frmMain.picBoard.Events().MouseDown = [this](int, int, double, double) { log.push_back("down"); };
+  QTest::mousePress(Screen(), Qt::LeftButton, Qt::NoModifier, At(300, 300));
+  EXPECT_EQ(log, Log({"lost", "down"}));
+  EXPECT_TRUE(Board().hasFocus());
+  QTest::mouseRelease(Screen(), Qt::LeftButton, Qt::NoModifier, At(300, 300));
+}
+
+TEST_F(BoardViewTest, ThePointerIsThatOfTheHandleUnderIt) {
+  Label& handle = frmMain.lblHandle(1);
+  handle.Move(200, 200, 20, 20);
+  handle.SetVisible(true);
+  QTest::mouseMove(Screen(), At(205, 205));
+  EXPECT_EQ(Board().cursor().shape(), Qt::SizeBDiagCursor);
+  frmMain.SetMousePointer(2);
+  QTest::mouseMove(Screen(), At(300, 300));
+  EXPECT_EQ(Board().cursor().shape(), Qt::CrossCursor);
+}
+
+TEST_F(BoardViewTest, AMessageInsideAPressDoesNotLeaveItHanging) {
+  frmMain.picBoard.Events().MouseDown = [this](int, int, double, double) {
+    MessageBox("Unable to load");  // the toolkit's release goes to it
+    log.push_back("down");
+  };
+  frmMain.picBoard.Events().MouseUp = [this](int, int, double, double) { log.push_back("up"); };
+  QTest::mousePress(Screen(), Qt::LeftButton, Qt::NoModifier, At(300, 300));
+  EXPECT_EQ(log, Log({"down", "up"}));
+  QTest::mouseRelease(Screen(), Qt::LeftButton, Qt::NoModifier, At(300, 300));
+  EXPECT_EQ(log, Log({"down", "up"})) << "nor does a late release count again";
+}
+
+TEST_F(BoardViewTest, AButtonFoundUpEndsThePress) {
+  frmMain.picBoard.Events().MouseUp = [this](int, int, double, double) { log.push_back("up"); };
+  QMouseEvent press(QEvent::MouseButtonPress, QPointF(300, 300),
+                    Board().mapToGlobal(QPointF(300, 300)), Qt::LeftButton, Qt::LeftButton,
+                    Qt::NoModifier);
+  QCoreApplication::sendEvent(&Board(), &press);
+  QMouseEvent move(QEvent::MouseMove, QPointF(310, 300), Board().mapToGlobal(QPointF(310, 300)),
+                   Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(&Board(), &move);
+  EXPECT_EQ(log, Log({"up"}));
+}
+
+// Counts paintings and what they covered.
+class PaintWatch : public QObject {
+ public:
+  QRegion region;
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::Paint) region += static_cast<QPaintEvent*>(event)->region();
+    return false;
+  }
+};
+
+TEST_F(BoardViewTest, OnlyWhatChangedIsPaintedAnew) {
+  Label& handle = frmMain.lblHandle(0);
+  handle.Move(100, 100);
+  handle.SetVisible(true);
+  Settle();
+  QTest::qWait(20);
+  PaintWatch watch;
+  Board().installEventFilter(&watch);
+  handle.Move(300, 200);
+  QTest::qWait(20);
+  EXPECT_TRUE(watch.region.contains(QPoint(103, 103)));
+  EXPECT_TRUE(watch.region.contains(QPoint(303, 203)));
+  EXPECT_FALSE(watch.region.contains(QPoint(600, 400)));
+}
+
+TEST_F(BoardViewTest, TransparentHitAreasCostNoPainting) {
+  QTest::qWait(20);
+  PaintWatch watch;
+  Board().installEventFilter(&watch);
+  ShowHold(0, 10, 10, 300, 300);
+  QTest::qWait(20);
+  EXPECT_TRUE(watch.region.isEmpty());
+}
+
+}  // namespace
+}  // namespace tagwright

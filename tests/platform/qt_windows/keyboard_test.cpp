@@ -1,0 +1,310 @@
+#include <QClipboard>
+#include <QComboBox>
+#include <QInputMethodEvent>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QTimer>
+
+#include "platform/qt/views.h"
+#include "platform/qt_windows/window_fixture.h"
+
+namespace tagwright {
+namespace {
+
+class KeyboardTest : public WindowTest {
+ protected:
+  KeyboardTest() {
+    Front(frmMain.picPrint);
+    frmMain.txtNoCopies.SetText("");
+    frmMain.txtNoCopies.SetFocus();
+  }
+  void NoteKeys() {
+    frmMain.WindowEvents().KeyDown = [this](int& code, int shift) {
+      log.push_back("down " + std::to_string(code) + "/" + std::to_string(shift));
+    };
+    frmMain.WindowEvents().KeyUp = [this](int code, int shift) {
+      log.push_back("up " + std::to_string(code) + "/" + std::to_string(shift));
+    };
+  }
+  void Commit(const QString& text) {
+    QInputMethodEvent event;
+    event.setCommitString(text);
+    QCoreApplication::sendEvent(QApplication::focusWidget(), &event);
+  }
+  using Log = std::vector<std::string>;
+};
+
+// --- characters ---------------------------------------------------------------------------------
+
+TEST_F(KeyboardTest, EachCharacterIsAskedForOnce) {
+  frmMain.txtNoCopies.Events().KeyPress = [this](int& key) { log.push_back(std::to_string(key)); };
+  frmMain.txtNoCopies.Events().Change = [this] { log.push_back(frmMain.txtNoCopies.Text()); };
+  Type("12");
+  EXPECT_EQ(log, Log({"49", "1", "50", "12"}));
+  EXPECT_EQ(Find<QLineEdit>("txtNoCopies").text(), "12");
+}
+
+TEST_F(KeyboardTest, AHandlerSwallowsOrReplacesACharacter) {
+  frmMain.txtNoCopies.Events().KeyPress = [](int& key) {
+    if (key == 'x') key = 0;
+    if (key == 'a') key = 'A';
+  };
+  Type("xaxb");
+  EXPECT_EQ(frmMain.txtNoCopies.Text(), "Ab");
+  EXPECT_EQ(Find<QLineEdit>("txtNoCopies").text(), "Ab");
+}
+
+TEST_F(KeyboardTest, APasteComesAsCharacters) {
+  int keys = 0;
+  frmMain.txtNoCopies.Events().KeyPress = [&](int& key) {
+    ++keys;
+    if (key == '-') key = 0;
+  };
+  QApplication::clipboard()->setText("1-2-3");
+  Key(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(keys, 5);
+  EXPECT_EQ(frmMain.txtNoCopies.Text(), "123");
+}
+
+TEST_F(KeyboardTest, ThePasteOfTheContextMenuComesAsCharactersToo) {
+  int keys = 0;
+  frmMain.txtNoCopies.Events().KeyPress = [&](int&) { ++keys; };
+  QApplication::clipboard()->setText("77");
+  auto& field = Find<QLineEdit>("txtNoCopies");
+  QTimer::singleShot(0, [] {
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    for (QAction* entry : menu->actions()) {
+      if (entry->text() == "Paste") entry->trigger();
+    }
+    menu->close();
+  });
+  QContextMenuEvent event(QContextMenuEvent::Mouse, field.rect().center(),
+                          field.mapToGlobal(field.rect().center()));
+  QCoreApplication::sendEvent(&field, &event);
+  EXPECT_EQ(keys, 2);
+  EXPECT_EQ(frmMain.txtNoCopies.Text(), "77");
+}
+
+TEST_F(KeyboardTest, AnInputMethodComesAsCharacters) {
+  frmMain.txtNoCopies.Events().KeyPress = [this](int& key) { log.push_back(std::to_string(key)); };
+  Commit("é𝄞");
+  EXPECT_EQ(log, Log({"233", "119070"}));
+  EXPECT_EQ(frmMain.txtNoCopies.Text(), "é𝄞");
+  EXPECT_EQ(Find<QLineEdit>("txtNoCopies").text(), QString::fromUtf8("é𝄞"));
+}
+
+TEST_F(KeyboardTest, BackspaceIsACharacterAndDeleteIsNot) {
+  frmMain.txtNoCopies.Events().KeyPress = [this](int& key) { log.push_back(std::to_string(key)); };
+  frmMain.txtNoCopies.SetText("abc");
+  frmMain.txtNoCopies.SetSelStart(3);
+  Key(Qt::Key_Backspace);
+  EXPECT_EQ(frmMain.txtNoCopies.Text(), "ab");
+  Key(Qt::Key_Home);
+  Key(Qt::Key_Delete);
+  EXPECT_EQ(frmMain.txtNoCopies.Text(), "b");
+  EXPECT_EQ(log, Log({"8"}));
+}
+
+TEST_F(KeyboardTest, TheCaretCountsCharacters) {
+  Commit("𝄞x");
+  Key(Qt::Key_Left);
+  EXPECT_EQ(frmMain.txtNoCopies.SelStart(), 1);
+  Type("y");
+  EXPECT_EQ(frmMain.txtNoCopies.Text(), "𝄞yx");
+}
+
+TEST_F(KeyboardTest, SeveralLinesEndInReturnAndLineFeed) {
+  Front(frmMain.picText);
+  frmMain.txtTool.SetFocus();
+  Type("a");
+  Key(Qt::Key_Return);
+  Type("b");
+  EXPECT_EQ(frmMain.txtTool.Text(), "a\r\nb");
+  EXPECT_EQ(Find<QPlainTextEdit>("txtTool").toPlainText(), "a\nb");
+  EXPECT_EQ(frmMain.txtTool.SelStart(), 4);
+  Key(Qt::Key_Left);
+  Key(Qt::Key_Backspace);
+  EXPECT_EQ(frmMain.txtTool.Text(), "ab");
+}
+
+TEST_F(KeyboardTest, APickListTellsTheKeyAndKeepsItsText) {
+  frmMain.cboZoom.AddItem("100%");
+  frmMain.cboZoom.AddItem("200%");
+  frmMain.cboZoom.SetListIndex(0);
+  frmMain.cboZoom.SetFocus();
+  frmMain.cboZoom.Events().KeyPress = [this](int& key) { log.push_back(std::to_string(key)); };
+  Type("2");
+  EXPECT_EQ(log, Log({"50"}));
+  EXPECT_EQ(frmMain.cboZoom.Text(), "100%");
+}
+
+TEST_F(KeyboardTest, AComboThatCompletesShowsItsSelection) {
+  Front(frmMain.picText);
+  frmMain.cboFont.SetVisible(true);
+  frmMain.cboFont.SetFocus();
+  frmMain.cboFont.Events().KeyPress = [](int& key) {
+    frmMain.cboFont.SetText("Arial");
+    frmMain.cboFont.SetSelStart(1);
+    frmMain.cboFont.SetSelLength(4);
+    key = 0;
+  };
+  Type("a");
+  const QLineEdit* edit = Find<QComboBox>("cboFont").lineEdit();
+  EXPECT_EQ(edit->text(), "Arial");
+  EXPECT_EQ(edit->selectedText(), "rial");
+}
+
+// --- the window sees every key first ------------------------------------------------------------
+
+TEST_F(KeyboardTest, TheWindowSeesAKeyBeforeTheField) {
+  NoteKeys();
+  frmMain.txtNoCopies.Events().KeyPress = [this](int&) { log.push_back("press"); };
+  Key(Qt::Key_7);
+  EXPECT_EQ(log, Log({"down 55/0", "press", "up 55/0"}));
+}
+
+TEST_F(KeyboardTest, AKeyThatTheWindowTakesGoesNoFurther) {
+  frmMain.WindowEvents().KeyDown = [](int& code, int) { code = 0; };
+  Type("7");
+  EXPECT_EQ(frmMain.txtNoCopies.Text(), "");
+  frmMain.mnuFilePrint.Events().Click = [this] { log.push_back("print"); };
+  Key(Qt::Key_P, Qt::ControlModifier);
+  EXPECT_TRUE(log.empty()) << "nor to the menus";
+}
+
+TEST_F(KeyboardTest, ShortcutsAreSeenByTheWindowOnceAndThenByTheMenu) {
+  NoteKeys();
+  frmMain.mnuArrangeSTB.Events().Click = [this] { log.push_back("to back"); };
+  Key(Qt::Key_B, Qt::ControlModifier);
+  EXPECT_EQ(log, Log({"down 17/2", "down 66/2", "to back", "up 66/2", "up 17/0"}));
+}
+
+TEST_F(KeyboardTest, EveryShortcutOfTheMenusWorksFromWithinAField) {
+  const std::pair<Menu*, QKeyCombination> shortcuts[] = {
+      {&frmMain.mnuFileSave, Qt::CTRL | Qt::Key_S},
+      {&frmMain.mnuFilePrint, Qt::CTRL | Qt::Key_P},
+      {&frmMain.mnuFileImport, Qt::CTRL | Qt::Key_I},
+      {&frmMain.mnuFileExit, Qt::CTRL | Qt::Key_Q},
+      {&frmMain.mnuUndo, Qt::ALT | Qt::Key_Backspace},
+      {&frmMain.mnuAHoriz, Qt::CTRL | Qt::Key_H},
+      {&frmMain.mnuArrangeBTF, Qt::CTRL | Qt::Key_F},
+      {&frmMain.mnuArrangeSTB, Qt::CTRL | Qt::Key_B},
+  };
+  frmMain.txtNoCopies.SetText("12");
+  frmMain.txtNoCopies.SetSelStart(2);
+  for (const auto& [entry, keys] : shortcuts) {
+    int clicks = 0;
+    entry->SetEnabled(true);
+    entry->Events().Click = [&] { ++clicks; };
+    Key(keys.key(), keys.keyboardModifiers());
+    EXPECT_EQ(clicks, 1) << entry->Name();
+  }
+  EXPECT_EQ(frmMain.txtNoCopies.Text(), "12");
+}
+
+TEST_F(KeyboardTest, FieldsKeepTheFourKeysOfEditing) {
+  for (Menu* entry : {&frmMain.mnuEditCut, &frmMain.mnuEditCopy, &frmMain.mnuEditPaste,
+                      &frmMain.mnuEditSelectAll}) {
+    entry->SetEnabled(true);
+    entry->Events().Click = [this, entry] { log.push_back(entry->Name()); };
+  }
+  frmMain.txtNoCopies.SetText("12");
+  Key(Qt::Key_A, Qt::ControlModifier);
+  EXPECT_EQ(frmMain.txtNoCopies.SelLength(), 2);
+  Key(Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QApplication::clipboard()->text(), "12");
+  Key(Qt::Key_X, Qt::ControlModifier);
+  EXPECT_EQ(frmMain.txtNoCopies.Text(), "");
+  Key(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(frmMain.txtNoCopies.Text(), "12");
+  EXPECT_EQ(log, Log());
+  frmMain.txtSetFocus(0).SetFocus();
+  for (const Qt::Key key : {Qt::Key_X, Qt::Key_C, Qt::Key_V, Qt::Key_A}) {
+    Key(key, Qt::ControlModifier);
+  }
+  EXPECT_EQ(log, Log({"mnuEditCut", "mnuEditCopy", "mnuEditPaste", "mnuEditSelectAll"}));
+}
+
+TEST_F(KeyboardTest, ADisabledEntryHasNoShortcut) {
+  frmMain.mnuFileSave.SetEnabled(false);
+  frmMain.mnuFileSave.Events().Click = [this] { log.push_back("save"); };
+  Key(Qt::Key_S, Qt::ControlModifier);
+  EXPECT_EQ(log, Log());
+}
+
+TEST_F(KeyboardTest, F1IsHelp) {
+  frmMain.mnuHelpHelp.Events().Click = [this] { log.push_back("help"); };
+  Key(Qt::Key_F1);
+  EXPECT_EQ(log, Log({"help"}));
+}
+
+TEST_F(KeyboardTest, KeysHaveTheirCodes) {
+  const std::pair<Qt::Key, int> keys[] = {
+      {Qt::Key_A, 65},       {Qt::Key_Z, 90},        {Qt::Key_0, 48},        {Qt::Key_9, 57},
+      {Qt::Key_F1, 112},     {Qt::Key_F12, 123},     {Qt::Key_Backspace, 8}, {Qt::Key_Tab, 9},
+      {Qt::Key_Backtab, 9},  {Qt::Key_Return, 13},   {Qt::Key_Enter, 13},    {Qt::Key_Shift, 16},
+      {Qt::Key_Control, 17}, {Qt::Key_Alt, 18},      {Qt::Key_Escape, 27},   {Qt::Key_Space, 32},
+      {Qt::Key_PageUp, 33},  {Qt::Key_PageDown, 34}, {Qt::Key_End, 35},      {Qt::Key_Home, 36},
+      {Qt::Key_Left, 37},    {Qt::Key_Up, 38},       {Qt::Key_Right, 39},    {Qt::Key_Down, 40},
+      {Qt::Key_Insert, 45},  {Qt::Key_Delete, 46},   {Qt::Key_VolumeUp, 0}};
+  for (const auto& [key, code] : keys) {
+    EXPECT_EQ(KeyCode(QKeyEvent(QEvent::KeyPress, key, Qt::NoModifier)), code) << key;
+  }
+}
+
+// --- where the keyboard is ----------------------------------------------------------------------
+
+TEST_F(KeyboardTest, TheTabKeyMovesTheKeyboard) {
+  frmMain.txtNoCopies.Events().LostFocus = [this] { log.push_back("lost"); };
+  frmMain.chkMailshot.Events().GotFocus = [this] { log.push_back("got"); };
+  Key(Qt::Key_Tab);
+  EXPECT_EQ(log, Log({"lost", "got"}));
+  EXPECT_TRUE(Find("chkMailshot").hasFocus());
+  Key(Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_TRUE(frmMain.txtNoCopies.HasFocus());
+}
+
+TEST_F(KeyboardTest, TheModelMovesTheToolkitsFocus) {
+  frmMain.cmdPreview.SetFocus();
+  EXPECT_TRUE(Find("cmdPreview").hasFocus());
+}
+
+TEST_F(KeyboardTest, AFieldThatRefusesSendsTheKeyboardOn) {
+  frmMain.txtDSize.Events().GotFocus = [] { frmMain.txtSetFocus(0).SetFocus(); };
+  Click("txtDSize_1");
+  EXPECT_TRUE(frmMain.txtSetFocus(0).HasFocus());
+  EXPECT_TRUE(Find("picBoard").hasFocus()) << "the board stands for its invisible text box";
+  Type("5");
+  EXPECT_EQ(Find<QLineEdit>("txtDSize_1").text(), "0.00");
+}
+
+TEST_F(KeyboardTest, HidingTheHolderTellsNobody) {
+  frmMain.txtNoCopies.Events().LostFocus = [this] { log.push_back("lost"); };
+  frmMain.chkMailshot.Events().GotFocus = [this] { log.push_back("got"); };
+  frmMain.cmdPrint.Events().GotFocus = [this] { log.push_back("got"); };
+  frmMain.txtNoCopies.SetVisible(false);
+  Settle();
+  EXPECT_EQ(log, Log());
+  EXPECT_EQ(frmMain.ActiveControl(), nullptr);
+  QWidget* focus = QApplication::focusWidget();
+  EXPECT_TRUE(!focus || !focus->property("control").toBool());
+}
+
+TEST_F(KeyboardTest, CoveringThePanelOfTheHolderTellsNobody) {
+  frmMain.txtNoCopies.Events().LostFocus = [this] { log.push_back("lost"); };
+  Front(frmMain.picText);
+  EXPECT_EQ(log, Log());
+  EXPECT_TRUE(frmMain.txtNoCopies.HasFocus()) << "it is covered, not hidden";
+}
+
+TEST_F(KeyboardTest, TheTabKeyOfTheProgramLeavesTheField) {
+  frmMain.txtNoCopies.Events().KeyPress = [](int& key) {
+    if (key == 13) SendTab();
+  };
+  Key(Qt::Key_Return);
+  ASSERT_TRUE(QTest::qWaitFor([] { return frmMain.chkMailshot.HasFocus(); }, 1000));
+}
+
+}  // namespace
+}  // namespace tagwright
