@@ -51,6 +51,7 @@ void ResetSelection() {
   SelectedObject = -1;
   SelectedList.assign(kSelectionSlots, 0);
   SelectedUpper = -1;
+  TextEntryActive = false;
   PanelLoading = false;
   CurrentTool = 0;
   CursorShape = 0;

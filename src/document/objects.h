@@ -118,6 +118,7 @@ inline Flag SerialPrintText = kTrue;
 constexpr std::size_t kSelectionSlots = 257;
 inline std::vector<std::int16_t> SelectedList = std::vector<std::int16_t>(kSelectionSlots);
 inline std::int16_t SelectedUpper = -1;  // upper bound in use, -1 no group
+inline bool TextEntryActive = false;     // a text field of a panel has the keyboard
 inline bool PanelLoading = false;        // a panel is being filled: its events write nothing back
 inline bool LoadingProject = false;      // a project is being loaded: no dialogs open
 

@@ -24,11 +24,13 @@ ScaleSpace::ScaleSpace(double width_twips, double height_twips, double pixels_pe
 void ScaleSpace::Resize(double width_twips, double height_twips) {
   width_twips_ = std::max(width_twips, 0.0);
   height_twips_ = std::max(height_twips, 0.0);
+  DerivePixels();
 }
 
 void ScaleSpace::SetPixelsPerInch(double pixels_per_inch) {
   CheckUnits(pixels_per_inch);
   pixels_per_inch_ = pixels_per_inch;
+  DerivePixels();
 }
 
 void ScaleSpace::SetScaleMode(int code) {
@@ -38,6 +40,7 @@ void ScaleSpace::SetScaleMode(int code) {
   user_width_ = ScaleWidth();
   user_height_ = ScaleHeight();
   mode_ = code;
+  DerivePixels();
 }
 
 double ScaleSpace::ScaleWidth() const {
@@ -52,12 +55,14 @@ void ScaleSpace::SetScaleWidth(double units) {
   CheckUnits(units);
   SetScaleMode(kUserScale);
   user_width_ = units;
+  DerivePixels();
 }
 
 void ScaleSpace::SetScaleHeight(double units) {
   CheckUnits(units);
   SetScaleMode(kUserScale);
   user_height_ = units;
+  DerivePixels();
 }
 
 double ScaleSpace::ScaleX(double value, int from, int to) const {
@@ -74,6 +79,13 @@ double ScaleSpace::UnitX() const {
 
 double ScaleSpace::UnitY() const {
   return mode_ == kUserScale ? UserUnit(height_twips_, user_height_) : UnitOf(mode_, false);
+}
+
+// Once for each change of the scale, not for each bar of a label.
+void ScaleSpace::DerivePixels() {
+  const double pixel = UnitOf(kPixels, true);
+  pixels_x_ = UnitX() / pixel;
+  pixels_y_ = UnitY() / pixel;
 }
 
 double ScaleSpace::UnitOf(int code, bool horizontal) const {

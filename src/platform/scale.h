@@ -43,8 +43,13 @@ class ScaleSpace {
   double UnitX() const;
   double UnitY() const;
 
+  // Device pixels of one unit of the present scale: what painting multiplies by.
+  double PixelsX() const { return pixels_x_; }
+  double PixelsY() const { return pixels_y_; }
+
  private:
   double UnitOf(int code, bool horizontal) const;
+  void DerivePixels();
 
   double width_twips_;
   double height_twips_;
@@ -52,6 +57,8 @@ class ScaleSpace {
   int mode_ = kTwips;
   double user_width_ = 0;
   double user_height_ = 0;
+  double pixels_x_ = 1;
+  double pixels_y_ = 1;
 };
 
 }  // namespace tagwright

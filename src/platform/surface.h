@@ -129,8 +129,8 @@ class Surface {
   void PrintLine(std::string_view line);
   void Shape(ShapeKind kind, double x1, double y1, double x2, double y2, double corner_width,
              double corner_height);
-  double PixelX(double units) const { return ScaleX(units, kUserScale, kPixels); }
-  double PixelY(double units) const { return ScaleY(units, kUserScale, kPixels); }
+  double PixelX(double units) const { return units * scale_->PixelsX(); }
+  double PixelY(double units) const { return units * scale_->PixelsY(); }
 
   ScaleSpace own_scale_;
   ScaleSpace* scale_ = &own_scale_;

@@ -1,5 +1,6 @@
 #include "shell/reset.h"
 
+#include "barcode/mod_bar_code.h"
 #include "common/prog_settings.h"
 #include "document/objects.h"
 #include "editing/magnetic_rule.h"
@@ -9,6 +10,7 @@
 #include "platform/printer.h"
 #include "platform/windows.h"
 #include "shell/window.h"
+#include "tools/barcode_panel.h"
 #include "tools/font_box.h"
 #include "tools/tool_buttons.h"
 #include "tools/view.h"
@@ -26,6 +28,8 @@ void ResetInstallation() {
 
 void ResetTools() {
   FontComboTyped = kFalse;
+  ResetBarcodePanel();
+  ResetBarcodeState();
   ResetMagneticRules();
   ResetToolButtons();
   ResetView();

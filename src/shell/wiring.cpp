@@ -1,7 +1,9 @@
 // Control on the left, handler on the right: whoever wants to know what a click does starts here.
 #include "shell/wiring.h"
 
+#include "barcode/mod_bar_code.h"
 #include "document/project_file.h"
+#include "document/redraw.h"
 #include "editing/magnetic_rule.h"
 #include "editing/track_status.h"
 #include "layouts/layout_list.h"
@@ -9,6 +11,7 @@
 #include "shell/shutdown.h"
 #include "shell/startup.h"
 #include "shell/window.h"
+#include "tools/barcode_panel.h"
 #include "tools/board.h"
 #include "tools/font_box.h"
 #include "tools/panels.h"
@@ -74,6 +77,19 @@ void WireBoard(FrmMain& f) {
   f.vS1.Events().Change = vS1_Change;
   f.vS1.Events().GotFocus = vS1_GotFocus;
   f.cmdXC.Events().Click = cmdXC_Click;
+}
+
+// chkChkSum is bound to nothing: whether a check digit is made depends on format and data alone.
+void WireBarcodes(FrmMain& f) {
+  PaintBarcode = PaintBarcodeOf;
+  f.cboBCode.Events().Click = cboBCode_Click;
+  f.cboBCode.Events().KeyPress = cboBCode_KeyPress;
+  f.txtBCodeData.Events().GotFocus = txtBCodeData_GotFocus;
+  f.txtBCodeData.Events().KeyPress = txtBCodeData_KeyPress;
+  f.txtBCodeData.Events().Change = txtBCodeData_Change;
+  f.txtBCodeData.Events().LostFocus = txtBCodeData_LostFocus;
+  f.chkPriCharacter.Events().Click = chkPriCharacter_Click;
+  f.cmdBCode.Events().Click = cmdBCode_Click;
 }
 
 // Off the board the pointer is an arrow again. picPicture, picPrint and picMag have no such
@@ -169,17 +185,8 @@ void WireArrangingLater(FrmMain& f) {
   f.cmdSpcVert.Events().Click = NotThereYet;
 }
 
-// Barcodes: the symbols themselves (PaintBarcode is empty and paints nothing), checking their data,
-// and the formats of data fields.
-void WireBarcodesLater(FrmMain& f) {
-  f.cboBCode.Events().Click = NotThereYet;
-  f.cboBCode.Events().KeyPress = NotThereYet;
-  f.txtBCodeData.Events().GotFocus = NotThereYet;
-  f.txtBCodeData.Events().KeyPress = NotThereYet;
-  f.txtBCodeData.Events().Change = NotThereYet;
-  f.txtBCodeData.Events().LostFocus = NotThereYet;
-  f.chkPriCharacter.Events().Click = NotThereYet;
-  f.cmdBCode.Events().Click = NotThereYet;
+// The formats of data fields, and the size of those shown as barcodes.
+void WireFieldBarcodesLater(FrmMain& f) {
   f.mnuField.Events().Click = NotThereYet;
   f.mnuFBC.Events().Click = NotThereYet;
   f.mnuBCSetWid.Events().Click = NotThereYet;
@@ -220,7 +227,7 @@ void WireLater(FrmMain& f) {
   WireObjectsLater(f);
   WirePanelsLater(f);
   WireArrangingLater(f);
-  WireBarcodesLater(f);
+  WireFieldBarcodesLater(f);
   WireDataSourcesLater(f);
   WirePrintingLater(f);
   WireDialogsLater(f);
@@ -234,6 +241,7 @@ void WireMainWindow(FrmMain& f) {
   WireStrip(f);
   WireTools(f);
   WireBoard(f);
+  WireBarcodes(f);
   WireHover(f);
   WireLater(f);
 }

@@ -1,0 +1,97 @@
+// What the symbol families share: the state of the symbol being painted, the bar painter, and the
+// steps that most symbols begin and end with. Only src/barcode includes this.
+//
+// A pattern is a string of decimal digits: digit n is an element n modules wide. Elements alternate
+// bar, space, bar, space, and every PaintPattern call begins with a bar. The digit 0 is an element
+// of no width that still takes its turn; a leading "0" is how a character begins with a space.
+#pragma once
+
+#include <cfloat>
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "common/diagnostics.h"
+#include "platform/fault.h"
+#include "platform/surface.h"
+
+namespace tagwright {
+
+// The patterns of one symbol, one for each PaintPattern call. They are rows of tables that live as
+// long as the program.
+using Patterns = std::vector<std::string_view>;
+
+// --- the symbol being painted; surface units ----------------------------------------------------
+
+inline double ModuleWidth = 0;       // one narrow element
+inline double BarHeight = 0;         // the bars now being painted
+inline double BarGap = 0;            // between bars, postal symbols only
+inline float CursorX = 0;            // left edge of the next element
+inline float CursorY = 0;            // top of the bars
+inline bool PrintChars = false;      // PaintPattern prints its text under its first bar
+inline std::int16_t PatternSum = 0;  // modules of the symbol last measured
+inline std::int32_t CheckSum = 0;    // of Code 128
+
+// --- checked arithmetic -------------------------------------------------------------------------
+
+// `value`, unless it is infinite or no number at all: then fault 6.
+inline double Finite(double value) {
+  if (!std::isfinite(value)) RaiseFault(kOverflow);
+  return value;
+}
+
+// To single precision. Faults 6 outside it and for no number.
+inline float ToSingle(double value) {
+  if (!(std::abs(value) <= FLT_MAX)) RaiseFault(kOverflow);
+  return static_cast<float>(value);
+}
+
+// A whole number as a smaller type. Faults 6 outside it.
+template <class Integer>
+Integer Narrowed(std::int64_t value) {
+  if (!std::in_range<Integer>(value)) RaiseFault(kOverflow);
+  return static_cast<Integer>(value);
+}
+
+// Faults 11 for a zero divisor, 6 for a quotient out of range.
+inline double Quotient(double value, double divisor) {
+  if (divisor == 0) RaiseFault(kDivisionByZero);
+  return Finite(value / divisor);
+}
+
+// --- painting -----------------------------------------------------------------------------------
+
+// DrawTarget. Faults 5 while there is none.
+inline Surface& Target() {
+  if (!DrawTarget) RaiseFault(kInvalidCall);
+  return *DrawTarget;
+}
+
+// Paints a pattern from CursorX on, bars in black from CursorY to CursorY + BarHeight, and moves
+// CursorX past it. With PrintChars set `Text` is printed 0.25 below the first bar. Elements of no
+// positive width paint nothing and move nothing.
+void PaintPattern(std::string_view Pattern, std::string_view Text = {});
+
+// Paints one pattern after the other, without text.
+void PaintPatterns(const Patterns& patterns);
+
+// The sum of a pattern's digits. Faults 6 above 32,767.
+std::int16_t SumPattern(std::string_view Pattern);
+
+// PatternSum becomes the sum of all patterns and ModuleWidth the `Width` of the symbol shared out
+// among them and `gaps` more modules. A symbol above 32,767 modules faults 6 and changes neither.
+void MeasureModule(const Patterns& patterns, double Width, std::size_t gaps = 0);
+
+// How a symbol begins whose text, if any, stands centred below the bars.
+void BeginSymbol(float X, float Y, double Height);
+
+// How it ends: with `PrintCharacters`, `Data` at `FontSize` points right below the bars, centred on
+// `Width`.
+void EndSymbol(std::string_view Data, float X, float Y, double Height, double Width,
+               bool PrintCharacters, double FontSize);
+
+}  // namespace tagwright

@@ -1,0 +1,224 @@
+#include "barcode/mod_bar_code.h"
+
+#include <algorithm>
+#include <array>
+
+#include "barcode/codabar.h"
+#include "barcode/code_128.h"
+#include "barcode/code_39.h"
+#include "barcode/data_rules.h"
+#include "barcode/engine.h"
+#include "barcode/postal.h"
+#include "barcode/two_of_five.h"
+#include "barcode/upc_ean.h"
+#include "barcode/validation.h"
+
+namespace tagwright {
+namespace {
+
+constexpr int kNoOutline = 5;
+
+// The text line takes more room under the symbols that print all of it at once.
+double LineShare(std::int16_t format) { return format < 4 ? 0.65 : 0.85; }
+
+double BarRoom(std::int16_t format, double height, bool with_text) {
+  if (!with_text) return height;
+  return Finite(height - LineShare(format) * Target().TextHeight("1"));
+}
+
+std::int16_t PrepareTarget(double font_size) {
+  std::int16_t mode = 0;
+  EngineTraced([&] { mode = Narrowed<std::int16_t>(Target().DrawMode); });
+  EngineTraced([&] { Target().DrawStyle = kNoOutline; });
+  EngineTraced([&] { Target().DrawMode = kMaskPen; });
+  EngineTraced([&] { Target().Font.Size = Finite(font_size); });
+  EngineTraced([&] { Target().Font.Bold = false; });
+  EngineTraced([&] { Target().Font.Italic = false; });
+  EngineTraced([&] { Target().ForeColor = 0; });
+  return mode;
+}
+
+bool CanCarry(std::int16_t format, std::string_view data) {
+  if (format < 0 || format >= static_cast<int>(kDataRules.size())) return false;
+  const DataRule& rule = kDataRules[static_cast<std::size_t>(format)];
+  const bool known = std::all_of(data.begin(), data.end(), [&](char c) { return rule.set.Has(c); });
+  return known && (rule.limit == -1 || data.size() <= static_cast<std::size_t>(rule.limit));
+}
+
+void DrawSymbol(std::string& data, std::int16_t format, float x, float y, double height,
+                double width, bool text, double size) {
+  switch (format) {
+    case 0:
+    case 1:
+    case 2:
+    case 3:
+      return DrawUpcEan(data, format, x, y, height, width, text, size);
+    case 4:
+      return DrawTwoOfFive(data, format, x, y, height, width, text, size);
+    case 5:
+      return DrawInterleaved(data, format, x, y, height, width, text, size);
+    case 6:
+    case 7:
+    case 8:
+      return DrawCode128(data, static_cast<std::int16_t>(format - 6), x, y, height, width, text,
+                         size);
+    case 9:
+      return DrawCode39(data, format, x, y, height, width, text, size);
+    case 10:
+      return DrawCode39Extended(data, format, x, y, height, width, text, size);
+    case 11:
+      return DrawCodabar(data, format, x, y, height, width, text, size);
+    case 12:
+      return DrawPostNet(data, x, y);
+    case 13:
+      return DrawRoyalMail(data, x, y);
+    default:
+      return;
+  }
+}
+
+// --- the bar painter ---
+
+// The text of a pattern: due until its first bar has been painted.
+struct UnderText {
+  double left;
+  std::string_view text;
+  bool due;
+};
+
+// One module stands for the space that a pattern begins with, however wide that is.
+double TextLeft(std::string_view pattern) {
+  return pattern.starts_with('0') ? CursorX + ModuleWidth : CursorX;
+}
+
+void PaintBar(float left, double width) {
+  const double top = CursorY;
+  Target().Line(left, top, Finite(left + width), Finite(top + BarHeight), 0);
+}
+
+void PrintUnder(const UnderText& under) {
+  EngineTraced([&] { Target().CurrentX = Finite(under.left); });
+  EngineTraced([&] { Target().CurrentY = Finite(CursorY + BarHeight + 0.25); });
+  EngineTraced([&] { Target().Print(under.text); });
+}
+
+constexpr std::size_t kElementsAtOnce = 32;  // even: each part begins with a bar as the whole does
+using Lefts = std::array<float, kElementsAtOnce>;
+
+// Apart, so that the way that is always gone stays a few instructions.
+[[gnu::cold, gnu::noinline]] void TraceOverflow() {
+  EngineTraced([] { RaiseFault(kOverflow); });
+}
+
+// Behind one element. What cannot be reached leaves the cursor where it is.
+float Advanced(float left, double width) {
+  if (!(width > 0)) return left;
+  const double next = left + width;
+  if (next <= FLT_MAX) return static_cast<float>(next);
+  TraceOverflow();
+  return left;
+}
+
+// The left edges of all elements, and CursorX behind them.
+Lefts PlaceElements(std::string_view elements, double module) {
+  Lefts lefts;
+  float left = CursorX;
+  for (std::size_t i = 0; i < elements.size(); ++i) {
+    lefts[i] = left;
+    left = Advanced(left, (elements[i] - '0') * module);
+  }
+  CursorX = left;
+  return lefts;
+}
+
+// Places first and paints afterwards: a place hangs on the one before it, which is slow enough
+// without a call to the target between the two.
+void PaintElements(std::string_view elements, UnderText& under) {
+  const double module = ModuleWidth;
+  const Lefts lefts = PlaceElements(elements, module);
+  for (std::size_t i = 0; i < elements.size(); i += 2) {
+    const double width = (elements[i] - '0') * module;
+    if (!(width > 0)) continue;
+    EngineTraced([&] { PaintBar(lefts[i], width); });
+    if (under.due) PrintUnder(under);
+    under.due = false;
+  }
+}
+
+int DigitSum(std::string_view pattern) {
+  int sum = 0;
+  for (const char digit : pattern) sum += digit - '0';
+  return sum;
+}
+
+}  // namespace
+
+void DrawBarcode(std::string& Data, const std::int16_t& Format, float X, float Y, double Height,
+                 double Width, bool PrintCharacters, double FontSize, const std::string& FontName) {
+  if (Data.find_first_not_of(' ') == std::string::npos) return;
+  if (!FontName.empty()) EngineTraced([&] { Target().Font.Name = FontName; });
+  const std::int16_t mode = PrepareTarget(FontSize);
+  double bars = Height;
+  EngineTraced([&] { bars = BarRoom(Format, Height, PrintCharacters); });
+  // A refusal leaves the target as it has been prepared: the next thing painted meets it that way.
+  if (!CanCarry(Format, Data)) return;
+  DrawSymbol(Data, Format, X, Y, bars, Width, PrintCharacters, FontSize);
+  EngineTraced([&] { Target().DrawMode = mode; });
+  EngineTraced([&] { Target().DrawStyle = 0; });
+}
+
+void PaintBarcodeOf(std::string Data, std::int16_t Format, float X, float Y, double Height,
+                    double Width, bool PrintCharacters, double FontSize,
+                    const std::string& FontName) {
+  DrawBarcode(Data, Format, X, Y, Height, Width, PrintCharacters, FontSize, FontName);
+}
+
+void ResetBarcodeState() {
+  ModuleWidth = BarHeight = BarGap = 0;
+  CursorX = CursorY = 0;
+  PrintChars = false;
+  PatternSum = 0;
+  CheckSum = 0;
+  ValidChars.clear();
+  MaxChars = 0;
+}
+
+void PaintPattern(std::string_view Pattern, std::string_view Text) {
+  UnderText under{TextLeft(Pattern), Text, PrintChars};
+  for (std::size_t i = 0; i < Pattern.size(); i += kElementsAtOnce) {
+    PaintElements(Pattern.substr(i, kElementsAtOnce), under);
+  }
+}
+
+void PaintPatterns(const Patterns& patterns) {
+  for (const std::string_view pattern : patterns) PaintPattern(pattern);
+}
+
+std::int16_t SumPattern(std::string_view Pattern) {
+  return Narrowed<std::int16_t>(DigitSum(Pattern));
+}
+
+void MeasureModule(const Patterns& patterns, double Width, std::size_t gaps) {
+  std::int64_t sum = 0;
+  for (const std::string_view pattern : patterns) sum += DigitSum(pattern);
+  PatternSum = Narrowed<std::int16_t>(sum);
+  ModuleWidth = Quotient(Width, PatternSum + static_cast<double>(gaps));
+}
+
+void BeginSymbol(float X, float Y, double Height) {
+  PrintChars = false;
+  CursorX = X;
+  CursorY = Y;
+  BarHeight = Height;
+}
+
+void EndSymbol(std::string_view Data, float X, float Y, double Height, double Width,
+               bool PrintCharacters, double FontSize) {
+  if (!PrintCharacters) return;
+  EngineTraced([&] { Target().Font.Size = Finite(FontSize); });
+  EngineTraced([&] { Target().CurrentX = Finite(X + Width / 2 - Target().TextWidth(Data) / 2); });
+  EngineTraced([&] { Target().CurrentY = Finite(Y + Height); });
+  EngineTraced([&] { Target().Print(Data); });
+}
+
+}  // namespace tagwright

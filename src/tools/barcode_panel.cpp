@@ -1,0 +1,154 @@
+#include "tools/barcode_panel.h"
+
+#include <string>
+
+#include "barcode/validation.h"
+#include "document/redraw.h"
+#include "forms/frmMain.h"
+#include "platform/dialogs.h"
+#include "platform/fault.h"
+#include "platform/scale.h"
+#include "platform/text.h"
+
+namespace tagwright {
+namespace {
+
+enum Format : std::int16_t { kPostNet = 12, kRoyalMail = 13 };
+
+constexpr std::int16_t kBarcodePointer = 99;
+
+// PostNet in inches. Single-precision constants, as the sizes in saved labels came from.
+constexpr float kPostNetHeight = 0.125F;
+constexpr float kPostNetBar = 0.02F;
+constexpr float kPostNetGap = 0.026F;
+
+constexpr double kRoyalMailHeight = 5;
+
+double Inches(float inches) { return inches * kMillimetresPerInch; }
+
+void Refuse(const std::string& message) {
+  MessageBox(message, MessageButtons::kOk, MessageIcon::kNone);
+}
+
+void RefuseCharacters(const std::string& characters) {
+  Refuse("The following characters " + characters + " are not allowed in the " +
+         frmMain.cboBCode.Text() + " barcode format");
+}
+
+void RefuseLength(const std::string& text) {
+  Refuse("The barcode " + text + " is too long for this format");
+}
+
+bool TooLong(const std::string& text) {
+  return MaxChars > -1 && Length(text) > static_cast<std::size_t>(MaxChars);
+}
+
+// Says what is wrong with the data, and enables cmdBCode if nothing is. `tested` is the part of
+// `text` whose characters count; its length counts whole.
+bool Accepted(const std::string& tested, const std::string& text) {
+  const auto format = static_cast<std::int16_t>(frmMain.cboBCode.ListIndex());
+  const std::string refused = ValidateBarcodeData(format, tested);
+  if (!refused.empty()) {
+    RefuseCharacters(refused);
+    return false;
+  }
+  if (TooLong(text)) {
+    RefuseLength(text);
+    return false;
+  }
+  frmMain.cmdBCode.SetEnabled(true);
+  return true;
+}
+
+bool BarcodeIsSelected() {
+  bool is_barcode = false;
+  CarryOn(
+      [&] { is_barcode = SelectedObject > -1 && ObjectAt(SelectedObject).ObjType == kBarcode; });
+  return is_barcode;
+}
+
+void TakeFormat() {
+  ObjectAt(SelectedObject).Param = static_cast<std::int16_t>(frmMain.cboBCode.ListIndex());
+  RedrawBoard();
+}
+
+void TakeSize(double width, double height) {
+  ObjectRecord& record = ObjectAt(SelectedObject);
+  record.Width = width;
+  record.Height = height;
+  frmMain.shpBox.SetWidth(width);
+  frmMain.shpBox.SetHeight(height);
+}
+
+void FitPostNet(double length) {
+  const double bars = (length + 1) * 5 + 2;
+  const double gaps = bars - 1;
+  TakeSize(bars * Inches(kPostNetBar) + gaps * Inches(kPostNetGap), Inches(kPostNetHeight));
+}
+
+void FitRoyalMail(double length) { TakeSize(((length + 1) * 4 + 1.5) * 1.1, kRoyalMailHeight); }
+
+// The symbol has been redrawn before; that its new outline shows at once is all there is to do.
+void FitPostalSize(const std::string& text) {
+  const auto length = static_cast<double>(Length(text));
+  const int format = frmMain.cboBCode.ListIndex();
+  if (format == kPostNet) CarryOn([&] { FitPostNet(length); });
+  if (format == kRoyalMail) CarryOn([&] { FitRoyalMail(length); });
+}
+
+}  // namespace
+
+void cboBCode_Click() {
+  const std::string text = frmMain.txtBCodeData.Text();
+  if (text.empty()) return;
+  DirtyFlag = kTrue;
+  frmMain.cmdBCode.SetEnabled(false);
+  if (!Accepted(text, text) || !BarcodeIsSelected()) return;
+  TakeFormat();
+  FitPostalSize(text);
+}
+
+void cboBCode_KeyPress(int& KeyAscii) { KeyAscii = 0; }
+
+void txtBCodeData_Change() {
+  const std::string text = frmMain.txtBCodeData.Text();
+  if (text.empty()) return;
+  frmMain.cmdBCode.SetEnabled(false);
+  if (frmMain.cboBCode.ListIndex() == -1) return;
+  if (Accepted(Trim(text), text) && BarcodeIsSelected()) TakeFormat();
+}
+
+void txtBCodeData_GotFocus() {
+  BarcodeEdited = kFalse;
+  TextEntryActive = true;
+}
+
+void txtBCodeData_KeyPress(int& KeyAscii) {
+  if (KeyAscii != 0) DirtyFlag = kTrue;
+  BarcodeEdited = kTrue;
+}
+
+void txtBCodeData_LostFocus() {
+  if (!BarcodeEdited || SelectedObject <= -1) return;
+  CarryOn([] { ObjectAt(SelectedObject).Text = frmMain.txtBCodeData.Text(); });
+  RedrawBoard();
+}
+
+void chkPriCharacter_Click() {
+  if (!BarcodeIsSelected()) return;
+  ObjectAt(SelectedObject).Bold = frmMain.chkPriCharacter.Value() ? kTrue : kFalse;
+  RedrawBoard();
+  DirtyFlag = kTrue;
+}
+
+void cmdBCode_Click() {
+  SelectedObject = -1;
+  CurrentTool = kBarcode;
+  CursorShape = kBarcodePointer;
+  frmMain.SetMouseIcon(frmMain.Image5.Icon());
+  frmMain.SetMousePointer(kBarcodePointer);
+}
+
+void ResetBarcodePanel() { BarcodeEdited = kFalse; }
+
+}  // namespace tagwright
