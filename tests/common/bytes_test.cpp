@@ -88,7 +88,7 @@ TEST(ByteReader, WhatIsMissingIsZeroInNumbersAndBlankInText) {
 }
 
 TEST(ByteReader, APartOfANumberIsFilledWithZeroBytes) {
-  ByteReader in("\x34\x12\x01"s);
+  ByteReader in("\x34\x12\x01");
   EXPECT_EQ(in.I16(), 0x1234);
   EXPECT_EQ(in.I32(), 1);
   EXPECT_EQ(in.I32(), 0);

@@ -234,9 +234,11 @@ Spoken Described(AtspiAccessible* node, double scale) {
   return spoken;
 }
 
-// Visits the tree under `node` until `visit` returns true, which is then the answer.
+// Visits the tree under `node` until `visit` returns true, which is then the answer. The rows of
+// lists are left out: there are hundreds, and they are chosen by typing.
 bool Walk(AtspiAccessible* node, const std::function<bool(AtspiAccessible*)>& visit) {
   if (visit(node)) return true;
+  if (atspi_accessible_get_role(node, nullptr) == ATSPI_ROLE_COMBO_BOX) return false;
   const int count = atspi_accessible_get_child_count(node, nullptr);
   for (int i = 0; i < count; ++i) {
     AtspiAccessible* child = atspi_accessible_get_child_at_index(node, i, nullptr);
@@ -454,14 +456,14 @@ Spoken FindCombo(const Program& program, const std::string& label) {
   const Box beside = Find(program, label, "label").box;
   Spoken found;
   WaitFor("a list beside \"" + label + "\"", [&] {
-    for (const Spoken& spoken : Everything(program)) {
-      const int offset = spoken.box.x - beside.x;
-      const bool nearer = found.role.empty() || spoken.box.x < found.box.x;
-      const bool same_row = std::abs(Middle(spoken.box) - Middle(beside)) < beside.height / 2;
-      if (spoken.role == "combo box" && spoken.showing && same_row && offset > 0 && nearer) {
-        found = spoken;
-      }
-    }
+    WalkProgram(program, [&](AtspiAccessible* node) {
+      if (atspi_accessible_get_role(node, nullptr) != ATSPI_ROLE_COMBO_BOX) return false;
+      const Spoken combo = Described(node, program.Scale());
+      const bool same_row = std::abs(Middle(combo.box) - Middle(beside)) < beside.height / 2;
+      const bool nearer = found.role.empty() || combo.box.x < found.box.x;
+      if (combo.showing && same_row && combo.box.x > beside.x && nearer) found = combo;
+      return false;
+    });
     return !found.role.empty();
   });
   return found;
