@@ -20,6 +20,7 @@ constexpr int kSetWindowOrg = 0x020B;
 constexpr int kSetWindowExt = 0x020C;
 constexpr int kCreateFont = 0x02FB;
 constexpr int kRectangle = 0x041B;
+constexpr int kRectangleWords = 7;
 constexpr int kUnitsPerInch = 96;  // of a window that names none
 constexpr double kHundredthsPerInch = 2540;
 
@@ -110,9 +111,9 @@ void AppendWord(std::string& bytes, int value) {
 }
 
 std::string RectangleRecord(const Frame& frame) {
-  constexpr int kWords = 7;
   std::string record;
-  for (int value : {kWords, 0, kRectangle, frame.bottom, frame.right, frame.top, frame.left}) {
+  for (int value :
+       {kRectangleWords, 0, kRectangle, frame.bottom, frame.right, frame.top, frame.left}) {
     AppendWord(record, value);
   }
   return record;
@@ -132,6 +133,21 @@ void PutFrame(Metafile& metafile, const Frame& frame, std::size_t header) {
   if (!first || !Fits(frame)) return;
   metafile.bytes.insert(*first, RectangleRecord(frame));
   metafile.framed = true;
+}
+
+// A player takes memory for the longest record that the header tells of, which may be any number.
+void LimitLongestRecord(Metafile& metafile, std::size_t header) {
+  constexpr std::size_t kLongestRecord = 12;  // where the header tells of it, in words
+  std::size_t longest = 0;
+  const std::string_view plain = std::string_view(metafile.bytes).substr(header);
+  WalkRecords(
+      plain, [&](int, std::string_view record) { longest = std::max(longest, record.size() / 2); });
+  const std::size_t told = Long(plain, kLongestRecord);
+  if (told <= longest && told >= kRectangleWords) return;
+  std::string words;
+  AppendWord(words, static_cast<int>(longest & 0xFFFF));
+  AppendWord(words, static_cast<int>(longest >> 16));
+  metafile.bytes.replace(header + kLongestRecord, words.size(), words);
 }
 
 void TakeSize(Metafile& metafile, const Frame& frame, int units_per_inch) {
@@ -219,10 +235,12 @@ std::optional<Metafile> ParseMetafile(const std::string& bytes) {
   if (placeable && !box) return std::nullopt;
   Metafile metafile{bytes};
   MeasureFonts(metafile.bytes, header);
-  if (!box) return metafile;
-  const int units = placeable ? Word(bytes, 14) : 0;
-  TakeSize(metafile, *box, units > 0 ? units : kUnitsPerInch);
-  PutFrame(metafile, window ? *window : *box, header);
+  if (box) {
+    const int units = placeable ? Word(bytes, 14) : 0;
+    TakeSize(metafile, *box, units > 0 ? units : kUnitsPerInch);
+    PutFrame(metafile, window ? *window : *box, header);
+  }
+  LimitLongestRecord(metafile, header);
   return metafile;
 }
 

@@ -170,6 +170,28 @@ TEST_F(MetafileTest, ARecordBeyondTheEndIsUnreadable) {
   EXPECT_FALSE(ReadMetafile(bytes));
 }
 
+// The header tells of the longest record, and a player takes memory for it.
+TEST_F(MetafileTest, AHeaderThatExaggeratesItsRecordsTakesNoMemory) {
+  std::string bytes = Bytes("window.wmf");
+  bytes.replace(12, 4, "\xFF\xFF\xFF\x7F");
+  const std::optional<Metafile> metafile = ParseMetafile(bytes);
+  ASSERT_TRUE(metafile);
+  EXPECT_LT(static_cast<unsigned char>(metafile->bytes[12]), 20);
+  EXPECT_EQ(metafile->bytes.substr(13, 3), std::string(3, '\0'));
+  EXPECT_TRUE(ReadMetafile(bytes));
+}
+
+TEST_F(MetafileTest, AFontThatIsFreedWhileItIsSelectedDoesNoHarm) {
+  std::string bytes = Bytes("text.wmf");
+  const std::string free_it("\x04\0\0\0\xF0\x01\0\0", 8);
+  const std::string new_brush("\x07\0\0\0\xFC\x02\0\0\xFF\xFF\xFF\0\xFF\xFF", 14);
+  const std::size_t text = bytes.find(std::string("\x21\x05", 2)) - 4;
+  bytes.insert(text, free_it + new_brush);
+  const PicturePtr picture = ReadMetafile(bytes);
+  ASSERT_TRUE(picture);
+  EXPECT_EQ(Draw(picture, 100, 100), Draw(picture, 100, 100));
+}
+
 TEST_F(MetafileTest, ARecordOfNoLengthIsUnreadable) {
   std::string bytes = Bytes("window.wmf");
   bytes[18] = 0;
