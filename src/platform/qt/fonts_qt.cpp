@@ -52,29 +52,30 @@ void Limit(Map& map, std::size_t most) {
 }
 
 // Without hinting, so that the shape is the same at every size.
-QFont ReferenceFont(const FontSpec& spec) {
-  QFont font(spec.Name.empty() ? QStringLiteral("Sans Serif") : QString::fromStdString(spec.Name));
+QFont ReferenceFont(const FontSpec& wanted) {
+  QFont font(wanted.Name.empty() ? QStringLiteral("Sans Serif")
+                                 : QString::fromStdString(wanted.Name));
   font.setPixelSize(static_cast<int>(kReferencePixels));
-  font.setBold(spec.Bold);
-  font.setItalic(spec.Italic);
+  font.setBold(wanted.Bold);
+  font.setItalic(wanted.Italic);
   font.setStyleHint(QFont::SansSerif, QFont::PreferOutline);
   font.setHintingPreference(QFont::PreferNoHinting);
   font.setKerning(false);
   return font;
 }
 
-Face LoadFace(const FontSpec& spec) {
-  const QFont font = ReferenceFont(spec);
+Face LoadFace(const FontSpec& wanted) {
+  const QFont font = ReferenceFont(wanted);
   const QFontMetricsF metrics(font);
   return {font, metrics.ascent(), metrics.descent()};
 }
 
-const Face& FaceOf(const FontSpec& spec) {
+const Face& FaceOf(const FontSpec& wanted) {
   static std::unordered_map<std::string, Face> faces;
-  const std::string key = FaceKey(spec);
+  const std::string key = FaceKey(wanted);
   if (const auto known = faces.find(key); known != faces.end()) return known->second;
   Limit(faces, kFacesKept);
-  return faces.emplace(key, LoadFace(spec)).first->second;
+  return faces.emplace(key, LoadFace(wanted)).first->second;
 }
 
 // A tab or a stray line break would move the layout to places of its own.

@@ -33,7 +33,7 @@ constexpr double kHatchesPerBox = 50;                   // so many lie across th
 
 // A font of the drawing, copied when it was made.
 struct MadeFont {
-  FontSpec spec;  // of one point
+  FontSpec wanted;  // of one point
   bool symbol = false;
   bool underlined = false;
   bool struck_out = false;
@@ -364,7 +364,7 @@ std::string TextOf(const MadeFont& font, const char* text) {
 float StringWidth(wmfAPI* api, wmfFont* font, char* text) {
   if (!text) return 0;
   const MadeFont& made = FontOf(api, font);
-  return static_cast<float>(Fonts().Width(TextOf(made, text), made.spec) * StageOf(api).stretch);
+  return static_cast<float>(Fonts().Width(TextOf(made, text), made.wanted) * StageOf(api).stretch);
 }
 
 // Lines under or through the text, in parts of its size as most fonts have them.
@@ -387,17 +387,17 @@ void DrawText(wmfAPI* api, wmfDrawText_t* draw) {
   QPainter& painter = *PainterOf(api);
   const MadeFont& font = FontOf(api, draw->dc->font);
   const std::string text = TextOf(font, draw->str);
-  FontSpec spec = font.spec;
-  spec.Size = std::abs(draw->font_height);
+  FontSpec wanted = font.wanted;
+  wanted.Size = std::abs(draw->font_height);
   const QColor color = ColorOf(draw->dc->textcolor);
   painter.save();
   PrepareTextBox(painter, *draw);
   painter.translate(PointOf(draw->pt));
   painter.rotate(-font.degrees);
   painter.scale((draw->font_ratio > 0 ? draw->font_ratio : 1) * StageOf(api).stretch, 1);
-  PaintText(painter, 0, 0, text, spec, Rgb(color.red(), color.green(), color.blue()),
+  PaintText(painter, 0, 0, text, wanted, Rgb(color.red(), color.green(), color.blue()),
             kPointsPerInch);
-  DrawTextLines(painter, font, Fonts().Width(text, spec), spec.Size, color);
+  DrawTextLines(painter, font, Fonts().Width(text, wanted), wanted.Size, color);
   painter.restore();
 }
 
