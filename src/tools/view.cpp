@@ -58,8 +58,8 @@ bool TextIsSelected() {
 }
 
 // A selected text is shown by its hit area and not by the painter, so the hit area takes the new
-// size; its caption must be away while the board is painted under it. A size from a damaged file
-// may be refused by the hit area: the label is painted all the same.
+// size; its caption must be away while the board is painted under it. Whatever becomes of the hit
+// area, the board is painted and the mark of the object to skip does not outlive it.
 void RedrawWithSelectedText() {
   const int index = SelectedObject;
   CarryOn([&] { HoldAt(index).SetCaption(""); });

@@ -28,6 +28,9 @@ bool Sized(const tagwright::Picture& picture) {
 
 }  // namespace
 
+// The font configuration keeps what it has read until the process ends.
+extern "C" const char* __lsan_default_suppressions() { return "leak:libfontconfig"; }
+
 extern "C" int LLVMFuzzerInitialize(int*, char***) {
   StartToolkit();
   return 0;

@@ -67,6 +67,35 @@ TEST_F(ShutdownTest, BackingOutOfTheFileDialogCancelsTheExit) {
   EXPECT_EQ(DirtyFlag, kTrue);
 }
 
+TEST_F(ShutdownTest, BackingOutClosesTheOtherWindowsAndRewritesTheSettingsToo) {
+  OpenAbout();
+  frmMain.SetLeft(1234);
+  DirtyFlag = kTrue;
+  dialogs.answers = {Answer::kYes};
+  dialogs.files = {std::nullopt};
+  EXPECT_FALSE(Unload(frmMain));
+  EXPECT_FALSE(IsLoaded(frmAbout));
+  EXPECT_EQ(SettingsOnDisk().WindowLeft, 1234);
+}
+
+TEST_F(ShutdownTest, AnExitAfterACancelledOneAsksAgainAndEnds) {
+  DirtyFlag = kTrue;
+  dialogs.answers = {Answer::kCancel, Answer::kNo};
+  EXPECT_FALSE(Unload(frmMain));
+  EXPECT_TRUE(Unload(frmMain));
+  EXPECT_EQ(dialogs.messages.size(), 2U);
+  EXPECT_TRUE(Forms().empty());
+}
+
+// A window that wants to stay keeps neither the others nor the settings from their steps.
+TEST_F(ShutdownTest, AnotherWindowThatStaysDoesNotHoldTheExitUp) {
+  Load(frmAbout);
+  frmAbout.WindowEvents().Unload = [](bool& Cancel) { Cancel = true; };
+  EXPECT_TRUE(Unload(frmMain));
+  EXPECT_FALSE(IsLoaded(frmMain));
+  EXPECT_EQ(FileLength(SettingsFile()), 1190);
+}
+
 // The settings file is rewritten all the same, with the place that the window has now.
 TEST_F(ShutdownTest, CancelKeepsTheLabelAndRewritesTheSettings) {
   DirtyFlag = kTrue;

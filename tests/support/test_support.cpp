@@ -179,6 +179,9 @@ RecordingSurface& ProgramTest::Board() {
 
 }  // namespace tagwright
 
+// The font configuration keeps what it has read until the process ends: not a leak of ours.
+extern "C" const char* __lsan_default_suppressions() { return "leak:libfontconfig"; }
+
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
   return RUN_ALL_TESTS();

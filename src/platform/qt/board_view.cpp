@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
+#include <cmath>
 #include <memory>
 #include <string_view>
 #include <utility>
@@ -27,16 +28,26 @@ bool PaintsNothing(const Label& label) {
   return label.Caption().empty() && label.BackStyle() == 0 && label.BorderStyle() == 0;
 }
 
+// A file can put an object anywhere: what lies far off the board is painted at its edge of the
+// world, which no screen shows. A number that is none lies there too.
+double OnBoard(double pixels) {
+  constexpr double kFar = 100000;
+  return std::isnan(pixels) ? kFar : std::clamp(pixels, -kFar, kFar);
+}
+
 QRectF BoxOf(const Control& child) {
-  return {child.LeftTwips() / kTwipsPerPixel, child.TopTwips() / kTwipsPerPixel,
-          std::max(child.WidthTwips(), 0.0) / kTwipsPerPixel,
-          std::max(child.HeightTwips(), 0.0) / kTwipsPerPixel};
+  const double left = child.LeftTwips() / kTwipsPerPixel;
+  const double top = child.TopTwips() / kTwipsPerPixel;
+  const double right = left + std::max(child.WidthTwips(), 0.0) / kTwipsPerPixel;
+  const double bottom = top + std::max(child.HeightTwips(), 0.0) / kTwipsPerPixel;
+  return QRectF(QPointF(OnBoard(left), OnBoard(top)), QPointF(OnBoard(right), OnBoard(bottom)));
 }
 
 QLineF LineOf(const LineControl& line) {
   const double unit_x = line.Parent()->Scale().UnitX() / kTwipsPerPixel;
   const double unit_y = line.Parent()->Scale().UnitY() / kTwipsPerPixel;
-  return {line.X1() * unit_x, line.Y1() * unit_y, line.X2() * unit_x, line.Y2() * unit_y};
+  return {OnBoard(line.X1() * unit_x), OnBoard(line.Y1() * unit_y), OnBoard(line.X2() * unit_x),
+          OnBoard(line.Y2() * unit_y)};
 }
 
 // What has to be painted when the child comes, goes or moves; empty for one that paints nothing.

@@ -8,25 +8,32 @@
 #include <QMessageBox>
 
 #include "platform/qt/color_qt.h"
+#include "platform/qt/theme.h"
 #include "platform/qt/views.h"
 #include "platform/qt/windows_qt.h"
 
 namespace tagwright {
 namespace {
 
-QMessageBox::Icon ToIcon(MessageIcon icon) {
+QString IconName(MessageIcon icon) {
   switch (icon) {
     case MessageIcon::kCritical:
-      return QMessageBox::Critical;
+      return "message-critical";
     case MessageIcon::kQuestion:
-      return QMessageBox::Question;
+      return "message-question";
     case MessageIcon::kExclamation:
-      return QMessageBox::Warning;
+      return "message-exclamation";
     case MessageIcon::kInformation:
-      return QMessageBox::Information;
+      return "message-information";
     default:
-      return QMessageBox::NoIcon;
+      return {};
   }
+}
+
+void SetIcon(QMessageBox& box, MessageIcon icon) {
+  constexpr QSize kSize(40, 40);
+  if (icon == MessageIcon::kNone) return;
+  box.setIconPixmap(ThemedIcon(IconName(icon)).pixmap(kSize, box.devicePixelRatioF()));
 }
 
 void AddButtons(QMessageBox& box, MessageButtons buttons) {
@@ -63,9 +70,11 @@ class ToolkitDialogs : public DialogService {
   Answer MessageBox(const std::string& text, MessageButtons buttons, MessageIcon icon,
                     const std::string& title) override {
     const ModalRun run;
-    QMessageBox box(ToIcon(icon), TitleOf(title), ToQt(text), QMessageBox::NoButton,
-                    WindowForDialogs());
+    QMessageBox box(WindowForDialogs());
+    box.setWindowTitle(TitleOf(title));
     box.setTextFormat(Qt::PlainText);
+    box.setText(ToQt(text));
+    SetIcon(box, icon);
     AddButtons(box, buttons);
     return ToAnswer(box.exec());
   }

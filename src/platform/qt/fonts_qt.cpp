@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QRawFont>
 #include <QTextLayout>
+#include <algorithm>
 #include <string>
 #include <unordered_map>
 

@@ -74,8 +74,9 @@ constexpr auto kServiceOptions = QPrintEngine::PrintEnginePropertyKey(0xfe00);
 // A millimetre is a millimetre: the service must not fit the page to the printable area.
 void KeepSize(QPrinter& printer) {
   printer.setFullPage(true);
-  printer.printEngine()->setProperty(
-      kServiceOptions, QStringList{QStringLiteral("print-scaling"), QStringLiteral("none")});
+  QStringList options = printer.printEngine()->property(kServiceOptions).toStringList();
+  options << QStringLiteral("print-scaling") << QStringLiteral("none");
+  printer.printEngine()->setProperty(kServiceOptions, options);
 }
 
 class QueueSpool : public Spool {

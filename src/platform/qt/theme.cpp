@@ -155,6 +155,9 @@ QComboBox QAbstractItemView {
   selection-background-color: %soft%; selection-color: %text%;
 }
 QComboBox QAbstractItemView::item { min-height: 24px; padding: 0px 4px; border-radius: 4px; }
+QComboBox QAbstractItemView::item:selected, QComboBox QAbstractItemView::item:hover {
+  background: %soft%; color: %text%;
+}
 QListWidget { outline: none; padding: 2px; }
 QListWidget::item { padding: 2px 4px; border-radius: 4px; }
 QListWidget::item:selected { background: %soft%; color: %text%; }
@@ -200,6 +203,8 @@ QScrollBar::handle:hover { background: %muted%; }
 QScrollBar::add-line, QScrollBar::sub-line { width: 0px; height: 0px; }
 QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 QToolButton#cmdXC { background: %window%; border-radius: 0px; }
+QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
+QDialogButtonBox QPushButton { min-width: 72px; }
 QToolTip { background: %card%; color: %text%; border: 1px solid %field_rim%; padding: 3px 6px; }
 )";
 

@@ -22,6 +22,7 @@
 #include <QTimer>
 #include <QToolButton>
 #include <algorithm>
+#include <cmath>
 
 #include "platform/qt/board_view.h"
 #include "platform/qt/color_qt.h"
@@ -41,6 +42,12 @@ int modal_runs = 0;
 }  // namespace
 
 // --- units, texts and states --------------------------------------------------------------------
+
+int Pixels(double twips) {
+  constexpr double kLimit = QWIDGETSIZE_MAX;
+  if (std::isnan(twips)) return 0;
+  return qRound(std::clamp(twips / kTwipsPerPixel, -kLimit, kLimit));
+}
 
 int ButtonCode(Qt::MouseButton button) { return ButtonCodes(Qt::MouseButtons(button)); }
 

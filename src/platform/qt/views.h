@@ -21,7 +21,9 @@ namespace tagwright {
 
 // --- units, texts and states --------------------------------------------------------------------
 
-inline int Pixels(double twips) { return qRound(twips / kTwipsPerPixel); }
+// Whole pixels, within what the toolkit takes for a place or size; a number that is none counts as
+// 0.
+int Pixels(double twips);
 inline double Twips(int pixels) { return pixels * kTwipsPerPixel; }
 inline double Twips(double pixels) { return pixels * kTwipsPerPixel; }
 

@@ -86,7 +86,8 @@ class FormWindow : public QObject, public ControlView {
   void FitToHints();
   void TakeGeometry();
   void Report();
-  bool ClaimFrame(const QMargins& frame);
+  void ClaimFrame(const QMargins& frame);
+  void FitInFrame(const QMargins& frame);
   bool IsLaidOut() const { return client_.layout() != nullptr; }
   double Kept(double model_twips, int pixels) const;
   WindowState StateNow() const;
@@ -107,8 +108,9 @@ class FormWindow : public QObject, public ControlView {
   QWidget& client_;
   std::vector<std::unique_ptr<ControlView>> views_;
   QEventLoop* modal_loop_ = nullptr;
-  QMargins frame_;           // as last seen
   bool frame_owed_ = false;  // the model's size was applied before the frame was known
+  QSize unframed_size_;      // and made the window this large
+  bool placed_ = false;      // the model has said where, too
   bool applying_ = false;    // the model is moving the window
   bool told_ = false;        // the key under way has been reported
   bool swallowed_ = false;   // and a handler took it
@@ -137,12 +139,9 @@ WindowState FormWindow::StateNow() const {
 void FormWindow::TakeGeometry() {
   if (IsLaidOut()) return;  // a dialog is as large as its form file makes it
   applying_ = true;
-  const QMargins frame = window_->windowHandle()->frameMargins();
-  frame_owed_ = frame.isNull();
-  window_->resize(Pixels(form_.Width()) - frame.left() - frame.right(),
-                  Pixels(form_.Height()) - frame.top() - frame.bottom());
-  const bool placed = form_.Left() != 0 || form_.Top() != 0 || window_->isVisible();
-  if (placed) window_->move(Pixels(form_.Left()), Pixels(form_.Top()));
+  // A form without a place of its own gets one from the window manager when it comes up.
+  placed_ = form_.Left() != 0 || form_.Top() != 0 || window_->isVisible();
+  FitInFrame(window_->windowHandle()->frameMargins());
   if (form_.State() != StateNow()) {
     window_->setWindowState(form_.State() == WindowState::kMinimized   ? Qt::WindowMinimized
                             : form_.State() == WindowState::kMaximized ? Qt::WindowMaximized
@@ -152,14 +151,23 @@ void FormWindow::TakeGeometry() {
   if (window_->isVisible()) Report();
 }
 
+void FormWindow::FitInFrame(const QMargins& frame) {
+  frame_owed_ = frame.isNull();
+  window_->resize(Pixels(form_.Width()) - frame.left() - frame.right(),
+                  Pixels(form_.Height()) - frame.top() - frame.bottom());
+  unframed_size_ = window_->size();
+  if (placed_) window_->move(Pixels(form_.Left()), Pixels(form_.Top()));
+}
+
 // The window manager tells the frame's size some time after the window has come up. A window that
-// the model had sized by then is made smaller by it, or it would grow with every start.
-bool FormWindow::ClaimFrame(const QMargins& frame) {
-  if (frame == frame_) return false;
-  frame_ = frame;
-  if (!std::exchange(frame_owed_, false) || StateNow() != WindowState::kNormal) return false;
-  TakeGeometry();
-  return true;
+// the model had sized by then is made smaller by it, or it would grow with every start; one that
+// the user has taken in hand meanwhile stays.
+void FormWindow::ClaimFrame(const QMargins& frame) {
+  if (frame.isNull() || !std::exchange(frame_owed_, false)) return;
+  if (window_->size() != unframed_size_ || StateNow() != WindowState::kNormal) return;
+  applying_ = true;
+  FitInFrame(frame);
+  applying_ = false;
 }
 
 // The model keeps its own number as long as the pixel is the same: what a routine assigned is what
@@ -170,7 +178,7 @@ double FormWindow::Kept(double model_twips, int pixels) const {
 
 void FormWindow::Report() {
   if (applying_ || !window_->isVisible() || !window_->windowHandle()) return;
-  if (ClaimFrame(window_->windowHandle()->frameMargins())) return;
+  ClaimFrame(window_->windowHandle()->frameMargins());
   const QRect frame = window_->frameGeometry();
   form_.UserResize(Kept(form_.Left(), frame.x()), Kept(form_.Top(), frame.y()),
                    Kept(form_.Width(), frame.width()), Kept(form_.Height(), frame.height()),

@@ -1,6 +1,7 @@
 #include "platform/qt/board_view.h"
 
 #include <QPainter>
+#include <cmath>
 
 #include "platform/qt/views.h"
 #include "platform/qt_windows/window_fixture.h"
@@ -98,6 +99,15 @@ TEST_F(BoardViewTest, AFrameOfNegativeSizeIsPaintedAsNone) {
   frmMain.shpBox.SetBorderColor(kRed);
   frmMain.shpBox.SetVisible(true);
   EXPECT_EQ(Pixel(50, 50), QColor(Qt::white));
+}
+
+TEST_F(BoardViewTest, WhatLiesNowhereIsPaintedNowhere) {
+  Label& hold = ShowHold(0, 1e300, -1e300, 1e308, 40);
+  hold.SetCaption("far");
+  frmMain.lnMX.SetX1(std::nan(""));
+  frmMain.lnMX.SetX2(1e39);
+  frmMain.lnMX.SetVisible(true);
+  EXPECT_EQ(Pixel(60, 60), QColor(Qt::white));
 }
 
 TEST_F(BoardViewTest, APressReachesTheTopmostLabelInItsOwnCorner) {
