@@ -3,10 +3,12 @@
 // made where they are to lie, and are not kept in the tree.
 //
 //   generator FOLDER     FOLDER holds the data and the picture already
+#include <array>
 #include <filesystem>
 #include <iostream>
 #include <string>
 
+#include "barcode/formats.h"
 #include "document/objects.h"
 #include "document/project_file.h"
 #include "forms/frmMain.h"
@@ -178,6 +180,35 @@ void ShelfLabel(const std::string& folder) {
   Save(folder + "Shelf label.twp");
 }
 
+// Under its format's name, with its characters below the bars.
+void AddBarcode(std::int16_t format, const std::string& data, double left, double top, double width,
+                double height) {
+  AddText(kBarcodeFormatNames[static_cast<std::size_t>(format)], left, top, 52, 8, kTrue, kNavy);
+  ObjectRecord& barcode = Add(kBarcode, left, top + 4.5, width, height);
+  barcode.Text = data;
+  barcode.Param = format;
+  SetFont(barcode, 8, kTrue, kInk);  // bold: the characters are printed
+}
+
+// 199 by 143 mm: every barcode format.
+void BarcodeSampler(const std::string& folder) {
+  constexpr int kColumns = 3;
+  const std::array<const char*, 14> data = {
+      "03600029145", "01234565", "400638133393", "12345670", "012345", "123456", "PART-2026",
+      "Part no. 7",  "20261121", "SHELF 14",     "Shelf 14", "314159", "12345",  "SN34RD1A"};
+  StartProgram();
+  ChooseLayout("A4 2 per sheet");
+  for (std::int16_t format = 0; format < 14; ++format) {
+    const double left = 10 + format % kColumns * 65, top = 6 + format / kColumns * 27;
+    const auto row = static_cast<std::size_t>(format);
+    // The postal symbols have the sizes that their panel gives them.
+    const double width = format == 12 ? 36.73 : format == 13 ? 41.25 : 48;
+    const double height = format == 12 ? 3.175 : format == 13 ? 5 : 18;
+    AddBarcode(format, data[row], left, top, width, height);
+  }
+  Save(folder + "Barcode sampler.twp");
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -190,6 +221,7 @@ int main(int argc, char** argv) {
   AddressLabel(folder);
   ProductLabel(folder);
   ShelfLabel(folder);
+  BarcodeSampler(folder);
   std::filesystem::remove(folder + "label.dta");  // the generator's own, not the user's
   return 0;
 }

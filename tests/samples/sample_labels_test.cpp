@@ -26,6 +26,7 @@ const Sample kSamples[] = {
     {"Address label.twp", 10, 99, 38, "addresses.csv"},
     {"Product label.twp", 14, 99, 38, ""},
     {"Shelf label.twp", 9, 63, 38, "products.csv"},
+    {"Barcode sampler.twp", 28, 199, 143, ""},
 };
 
 class SampleLabels : public ProgramTest, public testing::WithParamInterface<Sample> {

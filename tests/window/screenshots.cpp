@@ -22,7 +22,32 @@ void ShowSample(const Program& program, const std::string& name, const std::stri
   ChooseRow(program, "Zoom", zoom);
 }
 
-void TakePictures(const std::string& folder) {
+// The panel of barcodes says what is wrong with the data, in a message over the board.
+void ShowRefusal(const Program& program, const std::string& format, const std::string& data,
+                 const std::string& file) {
+  Click(Find(program, "Barcode Data", "text").box);
+  Key("ctrl+a");
+  Key("BackSpace");  // the former data would be refused with the new format
+  ChooseRow(program, "Barcode Format", format);
+  Click(Find(program, "Barcode Data", "text").box);
+  Type(data);
+  WaitFor("the refusal", [&] { return Shows(program, "OK"); });
+  Screenshot(file, program.Frame());
+  Key("Return");
+  WaitFor("the end of the refusal", [&] { return !Shows(program, "OK"); });
+}
+
+// A program of its own: the typing leaves a label to be saved.
+void TakeRefusals(const std::string& folder) {
+  Program program(FreshFolder());
+  PlaceWindow(program, kWindow);
+  ShowSample(program, "Barcode sampler.twp", "100%");
+  Click(Find(program, "Generate Barcode").box);
+  ShowRefusal(program, "UPC-A", "A", folder + "/barcode-characters-refused.png");
+  ShowRefusal(program, "EAN-8", "123456789", folder + "/barcode-length-refused.png");
+}
+
+void TakeLabels(const std::string& folder) {
   Program program(FreshFolder());
   PlaceWindow(program, kWindow);
   Picture(program, folder, "empty-label");
@@ -30,6 +55,8 @@ void TakePictures(const std::string& folder) {
   Picture(program, folder, "address-label");
   ShowSample(program, "Product label.twp", "250%");
   Picture(program, folder, "product-label");
+  ShowSample(program, "Barcode sampler.twp", "100%");
+  Picture(program, folder, "barcode-formats");
   ChooseMenu(program, {"Options", "Units of Measure", "Inches"});
   ShowSample(program, "Shelf label.twp", "200%");
   Picture(program, folder, "shelf-label");
@@ -44,7 +71,8 @@ int main(int argc, char** argv) {
   }
   std::filesystem::create_directories(argv[1]);
   try {
-    TakePictures(argv[1]);
+    TakeLabels(argv[1]);
+    TakeRefusals(argv[1]);
   } catch (const std::exception& problem) {
     std::cerr << problem.what() << '\n';
     return 1;
