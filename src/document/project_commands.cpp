@@ -27,6 +27,7 @@ void HideHitAreas() {
 void EmptyDocument() {
   ObjectUB = -1;
   RedrawSkip = -1;
+  UndoUpper = -1;
   frmMain.mnuUndo.SetEnabled(false);
 }
 

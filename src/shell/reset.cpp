@@ -3,7 +3,10 @@
 #include "barcode/mod_bar_code.h"
 #include "common/prog_settings.h"
 #include "document/objects.h"
+#include "editing/drag.h"
 #include "editing/magnetic_rule.h"
+#include "editing/selection.h"
+#include "editing/undo.h"
 #include "layouts/label_layouts.h"
 #include "platform/desktop.h"
 #include "platform/event.h"
@@ -31,6 +34,9 @@ void ResetTools() {
   ResetBarcodePanel();
   ResetBarcodeState();
   ResetMagneticRules();
+  ResetSelectionKeys();
+  ResetDrag();
+  ResetUndo();
   ResetToolButtons();
   ResetView();
 }

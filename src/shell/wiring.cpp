@@ -4,8 +4,11 @@
 #include "barcode/mod_bar_code.h"
 #include "document/project_file.h"
 #include "document/redraw.h"
+#include "editing/drag.h"
+#include "editing/keys.h"
 #include "editing/magnetic_rule.h"
-#include "editing/track_status.h"
+#include "editing/property_pick.h"
+#include "editing/selection.h"
 #include "layouts/layout_list.h"
 #include "shell/about.h"
 #include "shell/shutdown.h"
@@ -14,6 +17,7 @@
 #include "tools/barcode_panel.h"
 #include "tools/board.h"
 #include "tools/font_box.h"
+#include "tools/hold_mouse.h"
 #include "tools/panels.h"
 #include "tools/tool_buttons.h"
 #include "tools/view.h"
@@ -26,6 +30,8 @@ void WireWindow(FrmMain& f) {
   f.WindowEvents().Activate = Form_Activate;
   f.WindowEvents().Resize = Form_Resize;
   f.WindowEvents().Unload = Form_Unload;
+  f.WindowEvents().KeyDown = Form_KeyDown;
+  f.WindowEvents().KeyUp = Form_KeyUp;
 
   f.Timer1.Events().Timer = Timer1_Timer;
   f.tmrButtons.Events().Timer = tmrButtons_Timer;
@@ -39,6 +45,9 @@ void WireMenus(FrmMain& f) {
   f.mnuFileImport.Events().Click = mnuFileImport_Click;
   f.mnuFileOld.Events().Click = mnuFileOld_Click;
   f.mnuFileExit.Events().Click = mnuFileExit_Click;
+
+  f.mnuEditSelectAll.Events().Click = mnuEditSelectAll_Click;
+  f.mnuTextCopy.Events().Click = mnuTextCopy_Click;
 
   f.mnuFileRulers.Events().Click = mnuFileRulers_Click;
   f.mnuOptXHair.Events().Click = mnuOptXHair_Click;
@@ -71,7 +80,12 @@ void WireTools(FrmMain& f) {
 
 void WireBoard(FrmMain& f) {
   f.picBoard.Events().MouseMove = picBoard_MouseMove;
+  f.lblHold.Events().MouseDown = lblHold_MouseDown;
   f.lblHold.Events().MouseMove = lblHold_MouseMove;
+  f.lblHold.Events().MouseUp = lblHold_MouseUp;
+  f.lblHandle.Events().MouseDown = lblHandle_MouseDown;
+  f.lblHandle.Events().MouseMove = lblHandle_MouseMove;
+  f.lblHandle.Events().MouseUp = lblHandle_MouseUp;
   f.hS1.Events().Change = hS1_Change;
   f.hS1.Events().GotFocus = hS1_GotFocus;
   f.vS1.Events().Change = vS1_Change;
@@ -116,19 +130,11 @@ void WireHover(FrmMain& f) {
 // builds a group moves its lines up and gives them their handlers.
 constexpr auto NotThereYet = [](auto&&...) {};
 
-// Selecting, moving and resizing objects with the mouse, and placing new ones. With it come the end
-// of the selection that FitZoom and cmdTools_Click call for, arming the tools 1 to 7 and zooming to
-// a box.
+// Placing new objects. With it come the end of the selection that cmdTools_Click calls for, arming
+// the tools 1 to 7 and zooming to a box.
 void WireObjectsLater(FrmMain& f) {
   f.picBoard.Events().MouseDown = NotThereYet;
   f.picBoard.Events().MouseUp = NotThereYet;
-  f.lblHold.Events().MouseDown = NotThereYet;
-  f.lblHold.Events().MouseUp = NotThereYet;
-  f.lblHandle.Events().MouseDown = NotThereYet;
-  f.lblHandle.Events().MouseMove = NotThereYet;
-  f.lblHandle.Events().MouseUp = NotThereYet;
-  f.WindowEvents().KeyDown = NotThereYet;
-  f.WindowEvents().KeyUp = NotThereYet;
   f.cmdLine.Events().Click = NotThereYet;
   f.cmdRect.Events().Click = NotThereYet;
   f.cmdRoundRect.Events().Click = NotThereYet;
@@ -161,7 +167,6 @@ void WirePanelsLater(FrmMain& f) {
   f.mnuShpAspect.Events().Click = NotThereYet;
   f.mnuGraphicWidth.Events().Click = NotThereYet;
   f.mnuGraphicHeight.Events().Click = NotThereYet;
-  f.mnuTextCopy.Events().Click = NotThereYet;
 }
 
 // Undo, the clipboard, aligning, spacing and stacking.
@@ -170,7 +175,6 @@ void WireArrangingLater(FrmMain& f) {
   f.mnuEditCut.Events().Click = NotThereYet;
   f.mnuEditCopy.Events().Click = NotThereYet;
   f.mnuEditPaste.Events().Click = NotThereYet;
-  f.mnuEditSelectAll.Events().Click = NotThereYet;
   f.mnuAAlign.Events().Click = NotThereYet;
   f.mnuASize.Events().Click = NotThereYet;
   f.mnuAHoriz.Events().Click = NotThereYet;
