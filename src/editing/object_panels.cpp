@@ -69,12 +69,6 @@ void FillBarcodePanel() {
   ShowFontBoxes(kFontLeftOfBarcodes, kFontTop);
 }
 
-void ShowPictureSize(const std::string& path) {
-  const PicturePtr picture = LoadPicture(path);
-  frmMain.lblGraphicX.SetCaption(FormatFixed(picture->Width, 0));
-  frmMain.lblGraphicY.SetCaption(FormatFixed(picture->Height, 0));
-}
-
 void FillPicturePanel() {
   ShowPanel(frmMain.picPicture);
   const std::string path = PathOf(SelectedRecord());
@@ -175,6 +169,12 @@ void FillPanelFromObject() {
   SizeBoxFollowsFontBox();
   ShowSizeFields();
   PanelLoading = loading_before;
+}
+
+void ShowPictureSize(const std::string& path) {
+  const PicturePtr picture = LoadPicture(path);
+  frmMain.lblGraphicX.SetCaption(FormatFixed(picture->Width, 0));
+  frmMain.lblGraphicY.SetCaption(FormatFixed(picture->Height, 0));
 }
 
 void ResetObjectPanels() { TextEditOpen = kFalse; }

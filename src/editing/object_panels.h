@@ -6,6 +6,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 #include "document/objects.h"
 
@@ -21,6 +22,10 @@ inline Flag TextEditOpen = kFalse;
 // area shows it and not the painter, and txtTool has the keyboard. txtDSize shows place and size.
 // Nothing at all while a tool is armed.
 void FillPanelFromObject();
+
+// Natural width and height of the picture file on its panel, in the picture's own units. Faults as
+// LoadPicture; the panel keeps its numbers then.
+void ShowPictureSize(const std::string& path);
 
 // --- fonts --------------------------------------------------------------------------------------
 

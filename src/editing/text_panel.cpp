@@ -79,15 +79,10 @@ void GiveMemberTheFont(int index) {
   hold.SetCaption("");
 }
 
-int MemberAt(int place) {
-  if (static_cast<std::size_t>(place) >= SelectedList.size()) RaiseFault(kOutOfBounds);
-  return SelectedList[static_cast<std::size_t>(place)];
-}
-
 void ApplyToGroup() {
   DirtyFlag = kTrue;
   for (int place = 0; place <= SelectedUpper; ++place) {
-    CarryOn([&] { GiveMemberTheFont(MemberAt(place)); });
+    CarryOn([&] { GiveMemberTheFont(SelectedMember(place)); });
   }
   RedrawBoard();
   CarryOn(ShowGroupBox);

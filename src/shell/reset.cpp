@@ -5,6 +5,7 @@
 #include "document/objects.h"
 #include "editing/drag.h"
 #include "editing/magnetic_rule.h"
+#include "editing/object_panels.h"
 #include "editing/selection.h"
 #include "editing/undo.h"
 #include "layouts/label_layouts.h"
@@ -15,6 +16,8 @@
 #include "shell/window.h"
 #include "tools/barcode_panel.h"
 #include "tools/font_box.h"
+#include "tools/placement.h"
+#include "tools/rule_drag.h"
 #include "tools/tool_buttons.h"
 #include "tools/view.h"
 
@@ -37,6 +40,9 @@ void ResetTools() {
   ResetSelectionKeys();
   ResetDrag();
   ResetUndo();
+  ResetObjectPanels();
+  ResetPlacement();
+  ResetRuleDrag();
   ResetToolButtons();
   ResetView();
 }
