@@ -127,10 +127,12 @@ void Form::UserDeactivate() {
   KeyboardLeaves();
 }
 
+// Keys without a code of their own (commas, umlauts) have nothing that a handler could take away.
 bool Form::UserKeyDown(int key_code, int shift) {
   if (Waits()) return false;
-  form_events_->KeyDown.Raise(-1, key_code, shift);
-  return key_code != 0;
+  int left = key_code;
+  form_events_->KeyDown.Raise(-1, left, shift);
+  return left != 0 || key_code == 0;
 }
 
 void Form::UserKeyUp(int key_code, int shift) {

@@ -31,6 +31,12 @@ TEST_F(FormTest, AKeyThatTheFormSwallowsGoesNoFurther) {
   EXPECT_FALSE(form.UserKeyDown(46, 0));
 }
 
+// Commas and umlauts have no code of their own, and are typed all the same.
+TEST_F(FormTest, AKeyWithoutACodeGoesOn) {
+  EXPECT_TRUE(form.UserKeyDown(0, 0));
+  EXPECT_EQ(log, (Lines{"down 0/0"}));
+}
+
 TEST_F(FormTest, AKeyIsTheFormsBeforeItIsTheControls) {
   form.txtFirst.Events().KeyPress = [&](int& key) { Log("press " + std::to_string(key)); };
   if (form.UserKeyDown(65, 0)) form.txtFirst.UserKey(U'a');
