@@ -9,6 +9,7 @@
 #include "document/redraw.h"
 #include "editing/geometry.h"
 #include "editing/magnetic_rule.h"
+#include "editing/selected_object.h"
 #include "editing/track_status.h"
 #include "editing/undo.h"
 #include "forms/frmMain.h"
@@ -85,8 +86,8 @@ void ShowFrame(int shape) {
 }
 
 void TakePlaceOfFrame(ObjectRecord& object) {
-  object.Left = static_cast<float>(frmMain.shpBox.Left() - BoardOriginX);
-  object.Top = static_cast<float>(frmMain.shpBox.Top() - BoardOriginY);
+  CarryOn([&] { object.Left = ToSingle(frmMain.shpBox.Left() - BoardOriginX); });
+  CarryOn([&] { object.Top = ToSingle(frmMain.shpBox.Top() - BoardOriginY); });
 }
 
 BoardPoint AnchorOf(int corner) {
@@ -133,8 +134,8 @@ bool HasMoved(const Label& hold) {
 }
 
 void MoveBy(ObjectRecord& object, double dx, double dy) {
-  object.Left = static_cast<float>(object.Left + dx);
-  object.Top = static_cast<float>(object.Top + dy);
+  CarryOn([&] { object.Left = ToSingle(object.Left + dx); });
+  CarryOn([&] { object.Top = ToSingle(object.Top + dy); });
 }
 
 // An object that is in the list twice moves twice.

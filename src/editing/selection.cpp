@@ -7,6 +7,7 @@
 #include "document/redraw.h"
 #include "editing/object_panels.h"
 #include "editing/panel_stack.h"
+#include "editing/selected_object.h"
 #include "forms/frmMain.h"
 #include "platform/fault.h"
 
@@ -37,8 +38,8 @@ void LeaveFields() {
 // --- the end of a text's selection --------------------------------------------------------------
 
 void TakePlaceOfHold(ObjectRecord& text, const Label& hold) {
-  text.Left = static_cast<float>(hold.Left() - BoardOriginX);
-  text.Top = static_cast<float>(hold.Top() - BoardOriginY);
+  CarryOn([&] { text.Left = ToSingle(hold.Left() - BoardOriginX); });
+  CarryOn([&] { text.Top = ToSingle(hold.Top() - BoardOriginY); });
 }
 
 // From here on the painter shows it again. Nothing may be selected when txtTool is emptied, or the
@@ -188,11 +189,11 @@ void DropSelection() {
 // reach the one that takes it.
 void RemoveObject() {
   LeaveFields();
-  const int index = SelectedObject;
   const int upper = ObjectUB;
-  MoveRecordsDown(index);
+  MoveRecordsDown(SelectedObject);
+  const bool ends_empty = IsEmptyText(upper);
   DeselectObject();
-  const bool gone = index == upper && ObjectUB < upper;  // an empty text at the end goes by itself
+  const bool gone = ends_empty && ObjectUB < upper;  // an empty text at the end goes by itself
   if (ObjectUB < 0 || gone) return;
   HoldAt(ObjectUB).SetVisible(false);
   --ObjectUB;
