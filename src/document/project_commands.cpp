@@ -39,6 +39,14 @@ void EmptyPanels() {
   frmMain.txtTool.SetText("");
 }
 
+// The press of the first tool has ended the selection, but for a modifier that is held, as that of
+// this command's own shortcut is.
+void ForgetSelection() {
+  SelectedObject = -1;
+  SelectedUpper = -1;
+  HideHandles();
+}
+
 void ForgetSource() {
   frmMain.lblFileName.SetCaption("");
   ProjectPath.clear();
@@ -70,6 +78,7 @@ void mnuFileNew_Click() {
   DirtyFlag = kFalse;
   ForgetSource();
   frmMain.cmdTools(0).Press();
+  ForgetSelection();
   frmMain.mnuFileSaveAs.SetEnabled(false);
   frmMain.SetCaption(ProductTitle + " [untitled]");
 }
