@@ -40,11 +40,13 @@ double PanelFontSize() { return ToNumber(frmMain.cboSize.Text()); }
 ObjectRecord& NewRecord() { return ObjectAt(ObjectUB); }
 Label& NewHold() { return HoldAt(ObjectUB); }
 
-// Appends a fresh record. Without room for one more nothing has happened.
+// Appends a fresh record and selects it alone: a command may have selected a group while the button
+// was down. Without room for one more nothing has happened.
 void AppendRecord() {
   GrowObjects();
   ClearObject(ObjectUB);
   SelectedObject = ObjectUB;
+  SelectedUpper = -1;
 }
 
 Extent BoxExtent() { return {frmMain.shpBox.Width(), frmMain.shpBox.Height()}; }

@@ -812,6 +812,19 @@ TEST_F(HoldMouseTest, ALineBeginsOverAnObjectToo) {
   EXPECT_EQ(ObjectAt(1).ObjType, kLine);
 }
 
+TEST_F(HoldMouseTest, ANewObjectIsSelectedAloneAlsoWhenAGroupCameDuringItsGesture) {
+  PutBox(10, 10);
+  PutBox(40, 10);
+  CurrentTool = kRectangle;
+  Press(115, 90);
+  MoveTo(128, 110);
+  mnuEditSelectAll_Click();
+  ASSERT_EQ(SelectedUpper, 1);
+  Release(128, 110);
+  EXPECT_EQ(SelectedObject, 2);
+  EXPECT_EQ(SelectedUpper, -1);
+}
+
 TEST_F(HoldMouseTest, WithAToolArmedTheRightButtonOpensTheMenuAndBeginsNothing) {
   PutBox(10, 10);
   CurrentTool = kRectangle;
