@@ -10,6 +10,7 @@
 #include "editing/object_panels.h"
 #include "editing/property_pick.h"
 #include "editing/selection.h"
+#include "editing/spoken_selection.h"
 #include "layouts/layout_list.h"
 #include "shell/about.h"
 #include "shell/shutdown.h"
@@ -128,6 +129,8 @@ void WireBoard(FrmMain& f) {
   f.vS1.Events().GotFocus = vS1_GotFocus;
   f.cmdXC.Events().Click = cmdXC_Click;
 }
+
+void WireSpeech(FrmMain& f) { f.picBoard.InWords = SelectionInWords; }
 
 void WireContextMenus(FrmMain& f) {
   f.mnuDrawChange.Events().Click = mnuDrawChange_Click;
@@ -249,6 +252,7 @@ void WireMainWindow(FrmMain& f) {
   WireTextPanel(f);
   WireDrawingPanel(f);
   WireBoard(f);
+  WireSpeech(f);
   WireContextMenus(f);
   WireBarcodes(f);
   WireHover(f);
