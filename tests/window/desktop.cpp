@@ -222,11 +222,29 @@ Box BoxOf(AtspiAccessible* node, double scale) {
   return box;
 }
 
+std::string LabelOf(AtspiAccessible* node) {
+  GArray* relations = atspi_accessible_get_relation_set(node, nullptr);
+  std::string label;
+  for (guint i = 0; relations && i < relations->len; ++i) {
+    AtspiRelation* relation = g_array_index(relations, AtspiRelation*, i);
+    if (atspi_relation_get_relation_type(relation) == ATSPI_RELATION_LABELLED_BY) {
+      AtspiAccessible* target = atspi_relation_get_target(relation, 0);
+      label = Taken(atspi_accessible_get_name(target, nullptr));
+      g_object_unref(target);
+    }
+    g_object_unref(relation);
+  }
+  if (relations) g_array_free(relations, TRUE);
+  return label;
+}
+
 Spoken Described(AtspiAccessible* node, double scale) {
   Spoken spoken;
   spoken.name = Taken(atspi_accessible_get_name(node, nullptr));
   spoken.role = Taken(atspi_accessible_get_role_name(node, nullptr));
   spoken.text = TextOf(node);
+  spoken.description = Taken(atspi_accessible_get_description(node, nullptr));
+  spoken.label = LabelOf(node);
   spoken.box = BoxOf(node, scale);
   spoken.enabled = Has(node, ATSPI_STATE_ENABLED);
   spoken.checked = Has(node, ATSPI_STATE_CHECKED);
@@ -271,6 +289,17 @@ bool Matches(AtspiAccessible* node, const std::string& name, const std::string& 
   if (Taken(atspi_accessible_get_name(node, nullptr)) != name) return false;
   if (!role.empty() && Taken(atspi_accessible_get_role_name(node, nullptr)) != role) return false;
   return Has(node, ATSPI_STATE_SHOWING);
+}
+
+// The first action of a button is to press or to turn it; the last one of all to give it the
+// keyboard.
+bool PressNode(AtspiAccessible* node) {
+  AtspiAction* action = atspi_accessible_get_action_iface(node);
+  if (!action) return false;
+  const std::string first = Taken(atspi_action_get_action_name(action, 0, nullptr));
+  const bool done = first != "SetFocus" && atspi_action_do_action(action, 0, nullptr);
+  g_object_unref(action);
+  return done;
 }
 
 // A menu entry is found in the menu that was opened last: the innermost match.
@@ -419,6 +448,26 @@ Spoken Find(const Program& program, const std::string& name, const std::string& 
 bool Shows(const Program& program, const std::string& name, const std::string& role) {
   Spoken found;
   return FindInto(program, name, role, found);
+}
+
+Spoken Focused(const Program& program) {
+  Spoken found;
+  WalkProgram(program, [&](AtspiAccessible* node) {
+    if (!Has(node, ATSPI_STATE_FOCUSED)) return false;
+    found = Described(node, program.Scale());
+    return true;
+  });
+  return found;
+}
+
+void PressBySpeech(const Program& program, const std::string& name, const std::string& role) {
+  bool pressed = false;
+  WalkProgram(program, [&](AtspiAccessible* node) {
+    if (!Matches(node, name, role)) return false;
+    pressed = PressNode(node);
+    return true;
+  });
+  if (!pressed) Fail("\"" + name + "\" cannot be pressed");
 }
 
 std::vector<std::string> WindowTitles() {

@@ -86,8 +86,10 @@ void Type(const std::string& text);
 struct Spoken {
   std::string name;
   std::string role;
-  std::string text;  // of fields and combos
-  Box box;           // on the screen
+  std::string text;         // of fields and combos
+  std::string description;  // of labels: what they show
+  std::string label;        // the caption beside it, for what is named by its own text
+  Box box;                  // on the screen
   bool enabled = false;
   bool checked = false;
   bool showing = false;
@@ -99,6 +101,11 @@ std::vector<Spoken> Everything(const Program& program);
 Spoken Find(const Program& program, const std::string& name, const std::string& role = "");
 // Whether one is shown now.
 bool Shows(const Program& program, const std::string& name, const std::string& role = "");
+
+// The one that has the keyboard; without a name when none has.
+Spoken Focused(const Program& program);
+// Presses it as an assistive tool does, without a mouse. Throws when it cannot be pressed so.
+void PressBySpeech(const Program& program, const std::string& name, const std::string& role);
 
 // Titles of all shown windows of the screen.
 std::vector<std::string> WindowTitles();

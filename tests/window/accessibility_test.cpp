@@ -1,0 +1,210 @@
+// Who does not see the window hears it: every control has a name, every button can be pressed by
+// that name, the board says what is selected, and Tab goes the way one reads.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <set>
+
+#include "window/hand_steps.h"
+
+namespace tagwright::window_test {
+namespace {
+
+using Names = std::vector<std::string>;
+
+// What is always there, beside and below the panels.
+const Names kEverywhere = {"Select Tool",
+                           "Generate Barcode",
+                           "Insert Picture",
+                           "Text Tool",
+                           "Drawing Options",
+                           "Import Data",
+                           "Zoom In",
+                           "Zoom Out",
+                           "Send to Back",
+                           "Bring to Front",
+                           "Align to Centre of Label",
+                           "Left",
+                           "Top",
+                           "Width",
+                           "Height",
+                           "Zoom",
+                           "Cross Hairs",
+                           "Label",
+                           "Scroll up and down",
+                           "Scroll left and right",
+                           "Centre the label on the board",
+                           "Pointer",
+                           "Size",
+                           "Selection",
+                           "Notes"};
+
+struct Panel {
+  const char* tool;
+  Names names;
+};
+
+const Panel kPanels[] = {
+    {"Select Tool",
+     {"Layout", "Design new Label", "Label Width", "Label Height", "Left Margin", "Top Margin",
+      "No. Across", "No. Down", "Horiz. Gutter", "Vert. Gutter"}},
+    {"Text Tool",
+     {"Text", "Font", "Size", "Text Color", "Colour of the text", "Bold", "Italic",
+      "Align text left", "Align text centre", "Align text right"}},
+    {"Generate Barcode",
+     {"Barcode Format", "Barcode Data", "Generate Checksum", "Print Characters on Barcode",
+      "Place Barcode", "Font", "Size"}},
+    {"Drawing Options",
+     {"Line", "Rectangle", "Rounded Rectangle", "Ellipse", "Line Weight", "Fill Colour",
+      "Outline Colour", "Fill colour in force", "Outline colour in force", "Fill grey 1",
+      "Fill grey 6", "Outline grey 1", "Outline grey 6", "Make Transparent"}},
+};
+
+// A list with rows that unfold is named by its row; what it is, its caption says.
+std::string NameOf(const Spoken& control) {
+  return control.role == "combo box" ? control.label : control.name;
+}
+
+bool IsForUse(const Spoken& control) {
+  const std::set<std::string> roles = {"push button", "toggle button", "check box", "text",
+                                       "combo box",   "list",          "scroll bar"};
+  return control.showing && roles.contains(control.role);
+}
+
+class SpokenWindow : public testing::Test {
+ protected:
+  std::vector<Spoken> Shown() const {
+    std::vector<Spoken> shown = Everything(program);
+    std::erase_if(shown, [](const Spoken& control) { return !control.showing; });
+    return shown;
+  }
+
+  void ExpectNames(const Names& names) const {
+    std::set<std::string> heard;
+    std::set<std::pair<std::string, std::string>> for_use;
+    for (const Spoken& control : Shown()) {
+      heard.insert(NameOf(control));
+      if (!IsForUse(control)) continue;
+      EXPECT_NE(NameOf(control), "") << control.role << " " << control.name;
+      EXPECT_TRUE(for_use.insert({control.role, NameOf(control)}).second)
+          << "two times " << control.role << " " << NameOf(control);
+    }
+    for (const std::string& name : names) EXPECT_TRUE(heard.contains(name)) << name;
+  }
+
+  // Closes whatever a button has opened.
+  void CloseWhatOpened() const {
+    const auto main_is_active = [&] {
+      return Shell("xdotool getactivewindow", false) == program.Window();
+    };
+    for (int i = 0; i < 5 && !main_is_active(); ++i) {
+      Key("Escape");
+      Shell("sleep 0.2");
+    }
+    WaitFor("the main window", main_is_active);
+  }
+
+  std::string folder = FreshFolder();
+  Program program{folder};
+};
+
+TEST_F(SpokenWindow, EveryControlOfEveryPanelHasANameOfItsOwn) {
+  for (const Panel& panel : kPanels) {
+    SCOPED_TRACE(panel.tool);
+    PressOn(program, panel.tool);
+    Names names = kEverywhere;
+    names.insert(names.end(), panel.names.begin(), panel.names.end());
+    ExpectNames(names);
+  }
+}
+
+TEST_F(SpokenWindow, EveryButtonIsPressedByItsName) {
+  const std::set<std::string> buttons = {"push button", "toggle button", "check box"};
+  for (const Panel& panel : kPanels) {
+    PressBySpeech(program, panel.tool, "push button");
+    Find(program, panel.names.front());
+    for (const Spoken& control : Shown()) {
+      if (!buttons.contains(control.role) || !control.enabled) continue;
+      if (std::ranges::count(panel.names, control.name) == 0) continue;
+      SCOPED_TRACE(control.name);
+      EXPECT_NO_THROW(PressBySpeech(program, control.name, control.role));
+      CloseWhatOpened();
+    }
+    ASSERT_TRUE(program.Running());
+  }
+}
+
+// A rectangle, a barcode and a text, armed without a mouse.
+TEST_F(SpokenWindow, WhatIsPressedByItsNameWorks) {
+  const Paper paper(program);
+  PressBySpeech(program, "Drawing Options", "push button");
+  PressBySpeech(program, "Make Transparent", "check box");
+  WaitFor("the tick", [&] { return Find(program, "Make Transparent").checked; });
+  PressBySpeech(program, "Ellipse", "push button");
+  paper.Drag(10, 5, 30, 15);
+  WaitToHear(program, "Label", "Ellipse at ");
+  const auto objects = SavedAs(program, folder + "/label.twp");
+  ASSERT_EQ(objects.size(), 1U);
+  EXPECT_EQ(objects[0].fill_color, -1);
+}
+
+TEST_F(SpokenWindow, TheBoardSaysWhatIsSelected) {
+  const Paper paper(program);
+  WaitToHear(program, "Label", "Nothing selected");
+  PressOn(program, "Text Tool");
+  paper.Click(20, 12);
+  Type("Fig jam");
+  WaitToHear(program, "Label", "Text \"Fig jam\" at ");
+  paper.Click(95, 34);
+  WaitToHear(program, "Label", "Nothing selected");
+}
+
+TEST_F(SpokenWindow, TabFollowsTheReadingOrderAndComesRound) {
+  const Names round = {"Layout",
+                       "Design new Label",
+                       "Label Width",
+                       "Left Margin",
+                       "No. Across",
+                       "Horiz. Gutter",
+                       "Label Height",
+                       "Top Margin",
+                       "No. Down",
+                       "Vert. Gutter",
+                       "Zoom",
+                       "Cross Hairs",
+                       "Select Tool",
+                       "Generate Barcode",
+                       "Insert Picture",
+                       "Text Tool",
+                       "Drawing Options",
+                       "Import Data",
+                       "Zoom In",
+                       "Zoom Out",
+                       "Send to Back",
+                       "Bring to Front",
+                       "Align to Centre of Label",
+                       "Label",
+                       "Centre the label on the board"};
+  for (int lap = 0; lap < 2; ++lap) {
+    for (const std::string& name : round) {
+      Key("Tab");
+      EXPECT_EQ(NameOf(Focused(program)), name);
+    }
+  }
+  Key("shift+Tab");
+  EXPECT_EQ(NameOf(Focused(program)), "Label");
+}
+
+// With an object selected its numbers are on the way, too.
+TEST_F(SpokenWindow, TabGoesThroughTheNumbersOfAnObject) {
+  const Paper paper(program);
+  DrawShape(program, paper, "Rectangle", 20, 8, 40, 18);
+  Click(Find(program, "Left", "text").box);
+  for (const char* name : {"Width", "Top", "Height", "Zoom"}) {
+    Key("Tab");
+    EXPECT_EQ(NameOf(Focused(program)), name);
+  }
+}
+
+}  // namespace
+}  // namespace tagwright::window_test
