@@ -351,8 +351,32 @@ void WidgetView::MouseReleased(QWidget& part, const QMouseEvent& event) {
   }
 }
 
+namespace {
+
+bool IsTab(Qt::FocusReason reason) {
+  return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason;
+}
+
+// Where the tab key goes from `widget`; null when nothing else takes it.
+QWidget* NextByTab(QWidget& widget, Qt::FocusReason reason) {
+  QWidget* next = &widget;
+  do {
+    next =
+        reason == Qt::BacktabFocusReason ? next->previousInFocusChain() : next->nextInFocusChain();
+    if (next == &widget) return nullptr;
+  } while (!(next->focusPolicy() & Qt::TabFocus) || !next->isVisible() || !next->isEnabled());
+  return next;
+}
+
+}  // namespace
+
+// The tab key passes over a control that hands the keyboard on at once, or it would be led back to
+// the same place each time and reach nothing beyond.
 void WidgetView::FocusCame(Qt::FocusReason reason) {
+  const bool by_tab = UserMovesFocus::UnderWay() && IsTab(reason) && !control_.Waits();
   if (UserMovesFocus::UnderWay() || reason == Qt::ShortcutFocusReason) control_.UserFocus();
+  QWidget* next = by_tab && !control_.HasFocus() ? NextByTab(widget_, reason) : nullptr;
+  if (next) return next->setFocus(reason);
   if (reason != Qt::PopupFocusReason) FollowFocus(*control_.ParentForm());
 }
 

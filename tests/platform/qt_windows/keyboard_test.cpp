@@ -265,6 +265,30 @@ TEST_F(KeyboardTest, TheTabKeyMovesTheKeyboard) {
   EXPECT_TRUE(frmMain.txtNoCopies.HasFocus());
 }
 
+// As the fields of place and size do while nothing is selected, and the board's scroll bars always.
+TEST_F(KeyboardTest, TheTabKeyPassesOverWhatHandsTheKeyboardOn) {
+  frmMain.txtDSize.Events().GotFocus = [] { frmMain.txtSetFocus(0).SetFocus(); };
+  frmMain.cmdSerNo.SetFocus();
+  Key(Qt::Key_Tab);
+  EXPECT_TRUE(frmMain.cboZoom.HasFocus());
+  EXPECT_TRUE(Find("cboZoom").hasFocus());
+  Key(Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_TRUE(frmMain.cmdSerNo.HasFocus());
+  EXPECT_TRUE(Find("cmdSerNo").hasFocus());
+}
+
+TEST_F(KeyboardTest, TheTabKeyLeavesTheBoardAgain) {
+  for (ScrollBar* bar : {&frmMain.hS1, &frmMain.vS1}) {
+    bar->Events().GotFocus = [] { frmMain.txtSetFocus(0).SetFocus(); };
+  }
+  frmMain.txtSetFocus(0).SetFocus();
+  Key(Qt::Key_Tab);
+  EXPECT_TRUE(frmMain.cmdXC.HasFocus());
+  Key(Qt::Key_Tab);
+  EXPECT_FALSE(frmMain.cmdXC.HasFocus());
+  EXPECT_FALSE(frmMain.txtSetFocus(0).HasFocus());
+}
+
 TEST_F(KeyboardTest, TheModelMovesTheToolkitsFocus) {
   frmMain.cmdPreview.SetFocus();
   EXPECT_TRUE(Find("cmdPreview").hasFocus());
