@@ -244,11 +244,11 @@ Spoken Described(AtspiAccessible* node, double scale) {
   spoken.role = Taken(atspi_accessible_get_role_name(node, nullptr));
   spoken.text = TextOf(node);
   spoken.description = Taken(atspi_accessible_get_description(node, nullptr));
-  spoken.label = LabelOf(node);
   spoken.box = BoxOf(node, scale);
   spoken.enabled = Has(node, ATSPI_STATE_ENABLED);
   spoken.checked = Has(node, ATSPI_STATE_CHECKED);
   spoken.showing = Has(node, ATSPI_STATE_SHOWING);
+  spoken.label = LabelOf(node);
   return spoken;
 }
 

@@ -88,11 +88,11 @@ struct Spoken {
   std::string role;
   std::string text;         // of fields and combos
   std::string description;  // of labels: what they show
-  std::string label;        // the caption beside it, for what is named by its own text
   Box box;                  // on the screen
   bool enabled = false;
   bool checked = false;
   bool showing = false;
+  std::string label;  // the caption beside it, for what is named by its own text
 };
 
 // Every control of the program, windows and menus included, in the order of the tree.
