@@ -194,6 +194,10 @@ class Control {
   Control(std::string name, Form* form, int index, std::shared_ptr<ControlEvents> events);
   int WaitLevel() const;
   virtual void SizeChanged() { Notify(Aspect::kGeometry); }
+  // A place was assigned; `changed` unless it is the one that it had.
+  virtual void Placed(bool changed) {
+    if (changed) Notify(Aspect::kGeometry);
+  }
   virtual double MouseUnitX() const { return 1; }  // twips of one unit of its mouse events
   virtual double MouseUnitY() const { return 1; }
   virtual bool TakesMouse() const { return false; }  // on a board: labels do
@@ -716,6 +720,9 @@ class Form : public Container {
   // SetWidth, SetHeight and Move raise Resize once when the size really changes; the client area
   // follows by the same difference.
   Color BackColor() const { return back_color_; }
+  // Whether anybody has said where it stands. One that nobody has placed is at 0, 0 in its numbers
+  // and comes up where the window manager likes.
+  bool IsPlaced() const { return placed_; }
 
   // Everything with a name: controls and menus, in creation order.
   const std::vector<Control*>& AllControls() const { return all_; }
@@ -756,6 +763,7 @@ class Form : public Container {
 
  protected:
   void SizeChanged() override;
+  void Placed(bool changed) override;
 
  private:
   friend class Control;
@@ -779,6 +787,7 @@ class Form : public Container {
   double framed_width_ = 0;    // the outer size that the client area belongs to
   double framed_height_ = 0;
   int event_level_ = 0;
+  bool placed_ = false;
   std::vector<std::pair<int, int>> key_ups_;  // waiting, as key code and shift
   // Their addresses are the keys of what waits for the end of handlers.
   struct {

@@ -56,6 +56,12 @@ void Form::SetState(WindowState value) {
   form_events_->Resize.Raise(-1);
 }
 
+// The first place is news even where its numbers are those that it has: 0, 0 is a place too.
+void Form::Placed(bool changed) {
+  const bool first = !std::exchange(placed_, true);
+  if (changed || first) Notify(Aspect::kGeometry);
+}
+
 void Form::SizeChanged() {
   const double client_width = Scale().WidthTwips() + Width() - framed_width_;
   const double client_height = Scale().HeightTwips() + Height() - framed_height_;

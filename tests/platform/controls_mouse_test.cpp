@@ -1,4 +1,6 @@
 // The mouse: hits, presses, captures, and releases that come late.
+#include <cmath>
+
 #include "control_fixture.h"
 
 namespace tagwright {
@@ -72,6 +74,21 @@ TEST_F(MouseTest, HitsFollowTheContainersScale) {
   form.lblHold(2).Move(10, 5, 1, 1);
   EXPECT_EQ(form.board.ChildAt(1050, 550), &form.lblHold(2));
   EXPECT_EQ(form.board.ChildAt(1150, 550), nullptr);
+}
+
+TEST_F(MouseTest, ALabelWhosePlaceIsNoNumberIsHitNowhere) {
+  const double no_number = std::nan("");
+  form.lblHold(2).Move(no_number, 0, 450, 450);
+  form.lblHold(1).Move(0, no_number, 3000, 1500);
+  form.lblHold(0).SetVisible(false);
+  EXPECT_EQ(form.board.ChildAt(10, 10), nullptr);
+  form.lblHold(0).SetVisible(true);
+  EXPECT_EQ(form.board.ChildAt(10, 10), &form.lblHold(0));
+}
+
+TEST_F(MouseTest, ALabelThatReachesFurtherThanAnyBoardIsHitOnTheBoard) {
+  form.lblHold(2).Move(-1e300, -1e300, 1e308, 1e308);
+  EXPECT_EQ(form.board.ChildAt(2000, 1000), &form.lblHold(2));
 }
 
 // --- coordinates --------------------------------------------------------------------------------

@@ -13,6 +13,7 @@
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QPointer>
+#include <QScreen>
 #include <QTimer>
 #include <QWindow>
 #include <cmath>
@@ -44,6 +45,10 @@ bool IsEditingKey(const QKeyEvent& event) {
   return event.matches(QKeySequence::Copy) || event.matches(QKeySequence::Cut) ||
          event.matches(QKeySequence::Paste) || event.matches(QKeySequence::SelectAll);
 }
+
+// Twice what all screens show: room for every window of use, wherever it lies. A damaged file can
+// ask for far more, and the toolkit would take memory for each pixel of it.
+QSize LargestWindow() { return QGuiApplication::primaryScreen()->virtualSize() * 2; }
 
 bool MenuIsOpen() { return qobject_cast<QMenu*>(QApplication::activePopupWidget()) != nullptr; }
 
@@ -140,7 +145,7 @@ void FormWindow::TakeGeometry() {
   if (IsLaidOut()) return;  // a dialog is as large as its form file makes it
   applying_ = true;
   // A form without a place of its own gets one from the window manager when it comes up.
-  placed_ = form_.Left() != 0 || form_.Top() != 0 || window_->isVisible();
+  placed_ = form_.IsPlaced() || window_->isVisible();
   FitInFrame(window_->windowHandle()->frameMargins());
   if (form_.State() != StateNow()) {
     window_->setWindowState(form_.State() == WindowState::kMinimized   ? Qt::WindowMinimized
@@ -153,8 +158,8 @@ void FormWindow::TakeGeometry() {
 
 void FormWindow::FitInFrame(const QMargins& frame) {
   frame_owed_ = frame.isNull();
-  window_->resize(Pixels(form_.Width()) - frame.left() - frame.right(),
-                  Pixels(form_.Height()) - frame.top() - frame.bottom());
+  const QSize size(Pixels(form_.Width()), Pixels(form_.Height()));
+  window_->resize(size.boundedTo(LargestWindow()).shrunkBy(frame));
   unframed_size_ = window_->size();
   if (placed_) window_->move(Pixels(form_.Left()), Pixels(form_.Top()));
 }

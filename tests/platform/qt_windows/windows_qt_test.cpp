@@ -2,6 +2,7 @@
 
 #include <QPointer>
 #include <QPushButton>
+#include <QScreen>
 #include <QTimer>
 
 #include "platform/qt/views.h"
@@ -73,6 +74,25 @@ TEST_F(WindowsQtTest, AWindowGoesWhereTheModelPutsItEvenOffTheScreen) {
   Settle();
   EXPECT_NEAR(Window().frameGeometry().x(), -4000, 2);
   EXPECT_NEAR(Window().frameGeometry().y(), 260, 2);
+}
+
+TEST_F(WindowsQtTest, AWindowIsNeverMuchLargerThanAllScreens) {
+  const QSize screens = QGuiApplication::primaryScreen()->virtualSize();
+  frmMain.SetWidth(300000);
+  frmMain.SetHeight(300000);
+  Settle();
+  EXPECT_EQ(Window().frameGeometry().size(), screens * 2);
+  EXPECT_EQ(frmMain.Width(), Twips(screens.width() * 2)) << "the model hears what came of it";
+  EXPECT_EQ(frmMain.Height(), Twips(screens.height() * 2));
+}
+
+// A place of 0, 0 that somebody has given is none to be left to the window manager.
+TEST_F(WindowsQtTest, AWindowThatIsSentToTheVeryCornerIsPlacedThere) {
+  Unload(frmMain);
+  Load(frmMain);
+  EXPECT_FALSE(WindowOf(frmMain)->testAttribute(Qt::WA_Moved));
+  frmMain.Move(0, 0);
+  EXPECT_TRUE(WindowOf(frmMain)->testAttribute(Qt::WA_Moved));
 }
 
 TEST_F(WindowsQtTest, StatesAreReported) {
