@@ -721,7 +721,7 @@ class Form : public Container {
   // follows by the same difference.
   Color BackColor() const { return back_color_; }
   // Whether anybody has said where it stands. One that nobody has placed is at 0, 0 in its numbers
-  // and comes up where the window manager likes.
+  // and comes up where the window manager likes, cut to its screen.
   bool IsPlaced() const { return placed_; }
 
   // Everything with a name: controls and menus, in creation order.

@@ -16,6 +16,7 @@
 #include <QScreen>
 #include <QTimer>
 #include <QWindow>
+#include <algorithm>
 #include <cmath>
 #include <map>
 #include <utility>
@@ -89,6 +90,7 @@ class FormWindow : public QObject, public ControlView {
  private:
   // --- size and state ---
   void FitToHints();
+  void FitOnScreen();
   void TakeGeometry();
   void Report();
   void ClaimFrame(const QMargins& frame);
@@ -133,6 +135,14 @@ void FormWindow::FitToHints() {
     const double needed = Twips(widget->layout()->minimumSize().height());
     if (needed > child->Height()) child->SetHeight(needed);
   }
+}
+
+// A window that nobody has placed comes up whole, also on a screen that is smaller than its design.
+void FormWindow::FitOnScreen() {
+  if (IsLaidOut() || form_.IsPlaced() || window_->isVisible()) return;
+  const QSize room = window_->screen()->availableSize();
+  form_.SetWidth(std::min(form_.Width(), Twips(room.width())));
+  form_.SetHeight(std::min(form_.Height(), Twips(room.height())));
 }
 
 WindowState FormWindow::StateNow() const {
@@ -223,6 +233,7 @@ void FormWindow::Changed(const Control& control, Aspect aspect) {
 // The model's window is active as soon as it is shown, whatever the window manager thinks of it
 // later.
 void FormWindow::Show() {
+  FitOnScreen();
   window_->show();
   window_->raise();
   window_->activateWindow();
@@ -304,8 +315,9 @@ bool FormWindow::eventFilter(QObject* object, QEvent* event) {
       break;
     case QEvent::Close:
       if (object != window_.get()) break;
-      event->ignore();  // the form decides, and takes the window along
+      // The form decides, and takes the window along. The session's end asks who has stayed.
       UserClose(form_);
+      event->setAccepted(!IsLoaded(form_));
       return true;
     default:
       break;

@@ -76,6 +76,17 @@ TEST_F(WindowsQtTest, AWindowGoesWhereTheModelPutsItEvenOffTheScreen) {
   EXPECT_NEAR(Window().frameGeometry().y(), 260, 2);
 }
 
+TEST_F(WindowsQtTest, AWindowThatNobodyHasPlacedComesUpWithinItsScreen) {
+  const QSize screen = QGuiApplication::primaryScreen()->availableSize();
+  Unload(frmMain);
+  Load(frmMain);
+  ASSERT_GT(frmMain.Width(), Twips(screen.width())) << "or there is nothing to see here";
+  Show(frmMain);
+  EXPECT_EQ(frmMain.Width(), Twips(screen.width()));
+  EXPECT_LE(frmMain.Height(), Twips(screen.height()));
+  EXPECT_EQ(WindowOf(frmMain)->frameGeometry().width(), screen.width());
+}
+
 TEST_F(WindowsQtTest, AWindowIsNeverMuchLargerThanAllScreens) {
   const QSize screens = QGuiApplication::primaryScreen()->virtualSize();
   frmMain.SetWidth(300000);
@@ -120,6 +131,15 @@ TEST_F(WindowsQtTest, ClosingAsksTheForm) {
   EXPECT_FALSE(IsLoaded(frmMain));
   EXPECT_FALSE(window && window->isVisible());
   EXPECT_EQ(log.size(), 2U);
+}
+
+TEST_F(WindowsQtTest, TheSessionsEndHearsWhetherTheWindowStays) {
+  bool stays = true;
+  frmMain.WindowEvents().Unload = [&](bool& stay) { stay = stays; };
+  QWidget* window = &Window();
+  EXPECT_FALSE(window->close());
+  stays = false;
+  EXPECT_TRUE(window->close());
 }
 
 TEST_F(WindowsQtTest, AClosedWindowComesBackFresh) {
