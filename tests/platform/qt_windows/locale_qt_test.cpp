@@ -93,6 +93,11 @@ TEST(NameFiltersTest, DescriptionsAndPatternsComeInPairs) {
   EXPECT_EQ(filters, QStringList({"All Picture Formats (*.jpg *.jpeg *.gif)", "Labels (*.twp)"}));
 }
 
+TEST(NameFiltersTest, ADescriptionThatNamesItsPatternDoesNotNameItTwice) {
+  EXPECT_EQ(NameFilters("Tagwright Project (*.twp)|*.twp"),
+            QStringList("Tagwright Project (*.twp)"));
+}
+
 TEST(NameFiltersTest, ADescriptionAloneShowsEverything) {
   EXPECT_EQ(NameFilters("All files"), QStringList("All files (*)"));
   EXPECT_TRUE(NameFilters("").isEmpty());

@@ -52,6 +52,14 @@ TEST_F(ThemeTest, IconsTakeTheColoursOfTheTheme) {
   EXPECT_TRUE(Holds(Drawn("order-front"), DarkTheme().accent));
 }
 
+// It stands on a ground of its own, where the light ink of the dark look would not be seen.
+TEST_F(ThemeTest, TheProgramsOwnIconIsTheSameInBothLooks) {
+  UseTheme(Toolkit(), LightTheme());
+  const QImage light = Drawn("application");
+  UseTheme(Toolkit(), DarkTheme());
+  EXPECT_EQ(Drawn("application"), light);
+}
+
 TEST_F(ThemeTest, AnUnknownIconIsNull) { EXPECT_TRUE(ThemedIcon("no-such-icon").isNull()); }
 
 TEST_F(ThemeTest, TextIsReadableInBothLooks) {
