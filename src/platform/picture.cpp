@@ -9,7 +9,7 @@ namespace tagwright {
 namespace {
 
 // No picture for a label is larger; without a limit a wrong name could fill the memory.
-constexpr std::int64_t kLargestFile = 256 * 1024 * 1024;
+constexpr std::int64_t kLargestFile = std::int64_t{256} * 1024 * 1024;
 
 PictureReader reader_in_force = nullptr;
 
