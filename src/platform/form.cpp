@@ -135,8 +135,9 @@ void Form::UserDeactivate() {
 
 bool Form::UserKeyDown(int key_code, int shift) {
   if (Waits()) return false;
+  const bool has_code = key_code != 0;
   form_events_->KeyDown.Raise(-1, key_code, shift);
-  return key_code != 0;
+  return key_code != 0 || !has_code;
 }
 
 void Form::UserKeyUp(int key_code, int shift) {

@@ -31,6 +31,11 @@ TEST_F(FormTest, AKeyThatTheFormSwallowsGoesNoFurther) {
   EXPECT_FALSE(form.UserKeyDown(46, 0));
 }
 
+TEST_F(FormTest, AKeyWithoutACodeGoesOn) {
+  EXPECT_TRUE(form.UserKeyDown(0, kShift));
+  EXPECT_EQ(log, Lines{"down 0/1"});
+}
+
 TEST_F(FormTest, AKeyIsTheFormsBeforeItIsTheControls) {
   form.txtFirst.Events().KeyPress = [&](int& key) { Log("press " + std::to_string(key)); };
   if (form.UserKeyDown(65, 0)) form.txtFirst.UserKey(U'a');

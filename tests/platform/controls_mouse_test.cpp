@@ -150,6 +150,14 @@ TEST_F(MouseTest, AReleaseWithoutAPressRaisesNothing) {
   EXPECT_EQ(log, Lines{"hold(0) down 1/0 at 10,10"});
 }
 
+TEST_F(MouseTest, AButtonThatNobodyKnowsIsNoPressAndCapturesNothing) {
+  form.board.UserMouseDown(0, 0, 10, 10);
+  form.board.UserMouseUp(0, 0, 10, 10);
+  EXPECT_EQ(form.board.Captured(), nullptr);
+  form.board.UserMouseDown(kLeftButton, 0, 700, 100);
+  EXPECT_EQ(log, Lines{"hold(2) down 1/0 at 100,100"});
+}
+
 TEST_F(MouseTest, AQuickSecondPressIsAPress) {
   form.lblHold.Events().DblClick = [&] { Log("double"); };
   for (int i = 0; i < 2; ++i) {
