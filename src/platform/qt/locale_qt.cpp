@@ -85,7 +85,7 @@ UserLocale LocaleOf(const LocaleNames& names) {
   if (!IsBuiltIn(names.numeric)) TakeNumbers(ToolkitLocale(names.numeric), locale);
   if (!IsBuiltIn(names.monetary)) TakeCurrency(ToolkitLocale(names.monetary), locale);
   if (!IsBuiltIn(names.time)) locale.short_date = ShortDate(ToolkitLocale(names.time));
-  if (!IsBuiltIn(names.language)) locale.code_page = CodePageOfLanguage(Plain(names.language));
+  if (!IsBuiltIn(names.language)) locale.code_page = CodePageOfLanguage(names.language);
   return locale;
 }
 

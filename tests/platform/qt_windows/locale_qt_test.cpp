@@ -59,6 +59,14 @@ TEST(LocaleQtTest, EachCategoryCountsForItself) {
   EXPECT_EQ(mixed.code_page, 1250);
 }
 
+// The script stands behind the territory, where numbers and dates have no use for it.
+TEST(LocaleQtTest, TheScriptOfALanguageDecidesItsCodePage) {
+  EXPECT_EQ(LocaleOf({"", "", "", "sr_RS.UTF-8"}).code_page, 1251);
+  EXPECT_EQ(LocaleOf({"", "", "", "sr_RS.UTF-8@latin"}).code_page, 1250);
+  EXPECT_EQ(LocaleOf({"", "", "", "uz_UZ.UTF-8@cyrillic"}).code_page, 1251);
+  EXPECT_EQ(LocaleOf({"", "", "", "de_DE@euro"}).code_page, 1252);
+}
+
 class Environment : public testing::Test {
  protected:
   ~Environment() override {
