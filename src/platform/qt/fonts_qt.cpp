@@ -30,9 +30,37 @@ constexpr qsizetype kLongestPart = 4096;
 
 // One family in one style, at the reference size.
 struct Face {
+  std::string name;
+  bool bold = false;
+  bool italic = false;
   QFont font;
   double ascent = 0;
   double descent = 0;
+};
+
+struct ShapeKey {
+  const Face* face;
+  std::string text;
+};
+
+struct ShapeKeyView {
+  const Face* face;
+  std::string_view text;
+  ShapeKeyView(const Face* of, std::string_view said) : face(of), text(said) {}
+  ShapeKeyView(const ShapeKey& key) : face(key.face), text(key.text) {}
+  bool operator==(const ShapeKeyView&) const = default;
+};
+
+// Found without a copy of the text.
+struct ShapeKeyHash {
+  using is_transparent = void;
+  std::size_t operator()(const ShapeKeyView& key) const {
+    return std::hash<std::string_view>()(key.text) ^ std::hash<const Face*>()(key.face);
+  }
+};
+struct ShapeKeyEqual {
+  using is_transparent = void;
+  bool operator()(const ShapeKeyView& a, const ShapeKeyView& b) const { return a == b; }
 };
 
 // A shaped text and its glyphs at the size that a raster last wanted.
@@ -41,6 +69,25 @@ struct CachedShape {
   double sized_pixels = 0;
   QList<QGlyphRun> sized;
 };
+
+// What is known of fonts so far. A shape goes by the address of its face, and with it.
+struct KnownFonts {
+  std::unordered_map<std::string, Face> faces;
+  const Face* latest = nullptr;
+  std::unordered_map<ShapeKey, CachedShape, ShapeKeyHash, ShapeKeyEqual> shapes;
+};
+
+// Made with the first text, so that it goes before what the toolkit's fonts stand on.
+KnownFonts& Known() {
+  static KnownFonts known;
+  return known;
+}
+
+void ForgetFaces(KnownFonts& known) {
+  known.shapes.clear();
+  known.latest = nullptr;
+  known.faces.clear();
+}
 
 std::string FaceKey(const FontSpec& font) {
   return font.Name + (font.Bold ? "\x01" : "\x02") + (font.Italic ? "\x01" : "\x02");
@@ -67,15 +114,25 @@ QFont ReferenceFont(const FontSpec& wanted) {
 Face LoadFace(const FontSpec& wanted) {
   const QFont font = ReferenceFont(wanted);
   const QFontMetricsF metrics(font);
-  return {font, metrics.ascent(), metrics.descent()};
+  return {wanted.Name, wanted.Bold, wanted.Italic, font, metrics.ascent(), metrics.descent()};
 }
 
+bool IsOf(const FontSpec& wanted, const Face& face) {
+  return wanted.Name == face.name && wanted.Bold == face.bold && wanted.Italic == face.italic;
+}
+
+// Texts in the same face come one after the other.
 const Face& FaceOf(const FontSpec& wanted) {
-  static std::unordered_map<std::string, Face> faces;
+  KnownFonts& known = Known();
+  if (known.latest && IsOf(wanted, *known.latest)) return *known.latest;
   const std::string key = FaceKey(wanted);
-  if (const auto known = faces.find(key); known != faces.end()) return known->second;
-  Limit(faces, kFacesKept);
-  return faces.emplace(key, LoadFace(wanted)).first->second;
+  auto face = known.faces.find(key);
+  if (face == known.faces.end()) {
+    if (known.faces.size() >= kFacesKept) ForgetFaces(known);
+    face = known.faces.emplace(key, LoadFace(wanted)).first;
+  }
+  known.latest = &face->second;
+  return *known.latest;
 }
 
 // A tab or a stray line break would move the layout to places of its own.
@@ -151,12 +208,13 @@ ShapedText Shape(const QString& text, const QFont& font) {
 }
 
 CachedShape& ShapeOf(std::string_view text, const FontSpec& font) {
-  static std::unordered_map<std::string, CachedShape> shapes;
-  std::string key = FaceKey(font).append(text);
-  if (const auto known = shapes.find(key); known != shapes.end()) return known->second;
+  const Face& face = FaceOf(font);
+  auto& shapes = Known().shapes;
+  const auto known = shapes.find(ShapeKeyView(&face, text));
+  if (known != shapes.end()) return known->second;
   Limit(shapes, kShapesKept);
-  CachedShape shape{Shape(PlainLine(text), FaceOf(font).font), 0, {}};
-  return shapes.emplace(std::move(key), std::move(shape)).first->second;
+  CachedShape shape{Shape(PlainLine(text), face.font), 0, {}};
+  return shapes.emplace(ShapeKey{&face, std::string(text)}, std::move(shape)).first->second;
 }
 
 // --- glyphs of a raster -------------------------------------------------------------------------
