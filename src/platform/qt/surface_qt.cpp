@@ -232,7 +232,12 @@ void PageSurface::DeviceText(double x, double y, double ascent, std::string_view
 }
 
 void PageSurface::DeviceBox(double x1, double y1, double x2, double y2, Color color) {
-  open_().fillRect(BoxOf(x1, y1, x2, y2), ToQColor(color));
+  QPainter& painter = open_();
+  // Not as fillRect, which puts the former pen and brush back: boxes come in hundreds of one
+  // colour.
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(ToQColor(color));
+  painter.drawRect(BoxOf(x1, y1, x2, y2));
 }
 
 void PageSurface::DeviceShape(ShapeKind kind, double x1, double y1, double x2, double y2,
