@@ -19,7 +19,6 @@ constexpr std::string_view kSerialToken = "[#SRNO]";
 constexpr std::string_view kDateToken = "[#DT";
 constexpr std::string_view kLineEnd = "\r\n";
 constexpr Color kMarkerColor = Rgb(0, 0, 255);
-constexpr int kFirstBarcodeFormat = 100;
 constexpr int kLastBarcodeFormat = 150;
 constexpr int kLastMarkedFormat = 125;
 constexpr double kBarcodeFontSize = 6;

@@ -51,6 +51,7 @@ void ResetSelection() {
   SelectedObject = -1;
   SelectedList.assign(kSelectionSlots, 0);
   SelectedUpper = -1;
+  UndoUpper = -1;
   TextEntryActive = false;
   PanelLoading = false;
   CurrentTool = 0;
@@ -100,6 +101,11 @@ ObjectRecord& ObjectAt(int index) {
   return Objects[static_cast<std::size_t>(index)];
 }
 
+std::int16_t& SelectedMember(int place) {
+  if (place < 0 || static_cast<std::size_t>(place) >= SelectedList.size()) RaiseFault(kOutOfBounds);
+  return SelectedList[static_cast<std::size_t>(place)];
+}
+
 void GrowObjects() {
   if (ObjectUB == std::numeric_limits<std::int16_t>::max()) RaiseFault(kOverflow);
   ++ObjectUB;
@@ -108,12 +114,16 @@ void GrowObjects() {
   if (Objects.size() < count) Objects.resize(count);
 }
 
-void RemoveRecord(int index) {
-  if (ObjectUB < 0) return;
+void MoveRecordsDown(int index) {
   for (int i = index; i < ObjectUB; ++i) {
     ObjectAt(i) = ObjectAt(i + 1);
     TakePlaceOf(HoldAt(i), HoldAt(i + 1));
   }
+}
+
+void RemoveRecord(int index) {
+  if (ObjectUB < 0) return;
+  MoveRecordsDown(index);
   HoldAt(ObjectUB).SetVisible(false);
   --ObjectUB;
 }

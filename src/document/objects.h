@@ -34,6 +34,9 @@ enum Kind : std::int16_t {
   kDeleteMark = -100,   // for the length of one delete operation
 };
 
+// A data field whose FillColor is this much or more is shown as a barcode.
+constexpr std::int32_t kFirstBarcodeFormat = 100;
+
 // Whether `kind` is one of the shapes, lines included: above 9 and below 20.
 inline bool IsShape(std::int16_t kind) { return kind > 9 && kind < 20; }
 
@@ -118,9 +121,10 @@ inline Flag SerialPrintText = kTrue;
 constexpr std::size_t kSelectionSlots = 257;
 inline std::vector<std::int16_t> SelectedList = std::vector<std::int16_t>(kSelectionSlots);
 inline std::int16_t SelectedUpper = -1;  // upper bound in use, -1 no group
-inline bool TextEntryActive = false;     // a text field of a panel has the keyboard
-inline bool PanelLoading = false;        // a panel is being filled: its events write nothing back
-inline bool LoadingProject = false;      // a project is being loaded: no dialogs open
+inline std::int16_t UndoUpper = -1;   // upper place in use of the undo record, -1 nothing pending
+inline bool TextEntryActive = false;  // a text field of a panel has the keyboard
+inline bool PanelLoading = false;     // a panel is being filled: its events write nothing back
+inline bool LoadingProject = false;   // a project is being loaded: no dialogs open
 
 // --- operations ---------------------------------------------------------------------------------
 
@@ -133,13 +137,19 @@ std::string PathOf(const ObjectRecord& record);
 // The record at `index`. Faults 9 outside the allocated array (which may exceed ObjectUB).
 ObjectRecord& ObjectAt(int index);
 
+// The object that place `place` of SelectedList names. Faults 9 outside the list.
+std::int16_t& SelectedMember(int place);
+
 // Raises ObjectUB by 1 and grows Objects, keeping its contents. Faults 6 past 32,767.
 void GrowObjects();
 
-// The array's elements `index` + 1 to ObjectUB move down one place, each hit area takes the place
-// of its successor and an empty caption, the last is hidden and ObjectUB falls by one. The array
-// keeps its allocation. Nothing for an empty document. Faults 9 for a negative `index` before
-// anything is changed.
+// The array's elements `index` + 1 to ObjectUB move down one place; each hit area takes the place
+// of its successor and an empty caption. The last element stands twice then. Faults 9 for a
+// negative `index` before anything is changed.
+void MoveRecordsDown(int index);
+
+// MoveRecordsDown; then the last hit area is hidden and ObjectUB falls by one. The array keeps its
+// allocation. Nothing for an empty document.
 void RemoveRecord(int index);
 
 // `lblHold(index)`; an element that does not exist yet is created visible, transparent, without a

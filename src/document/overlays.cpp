@@ -1,6 +1,5 @@
-#include <algorithm>
-
 #include "document/objects.h"
+#include "document/overlay_geometry.h"
 #include "document/redraw.h"
 #include "forms/frmMain.h"
 #include "platform/fault.h"
@@ -11,26 +10,19 @@ namespace {
 constexpr int kHandleCount = 4;
 constexpr int kDots = 3;  // border style
 
-// A rectangle on the board, in its units.
-struct BoardBox {
-  double left, top, right, bottom;
-};
-
-void MoveHandle(int index, double left, double top) { frmMain.lblHandle(index).Move(left, top); }
+void PlaceHandles(const BoardBox& box, double gap_x, double gap_y) {
+  const Label& handle = frmMain.lblHandle(0);
+  const auto places = HandlePlaces(box, handle.Width(), handle.Height(), gap_x, gap_y);
+  for (int i = 0; i < kHandleCount; ++i) {
+    const HandlePlace& place = places[static_cast<std::size_t>(i)];
+    frmMain.lblHandle(i).Move(place.left, place.top);
+  }
+}
 
 // The handles keep a millimetre of screen between themselves and the box, at every zoom.
 void PlaceHandles(const BoardBox& box) {
-  const double gap_x = frmMain.picBoard.ScaleX(1, kMillimetres, kUserScale);
-  const double gap_y = frmMain.picBoard.ScaleY(1, kMillimetres, kUserScale);
-  const Label& handle = frmMain.lblHandle(0);
-  const double left = box.left - handle.Width() - gap_x;
-  const double top = box.top - handle.Height() - gap_y;
-  const double right = box.right + gap_x;
-  const double bottom = box.bottom + gap_y;
-  MoveHandle(0, left, top);
-  MoveHandle(1, right, top);
-  MoveHandle(2, left, bottom);
-  MoveHandle(3, right, bottom);
+  PlaceHandles(box, frmMain.picBoard.ScaleX(1, kMillimetres, kUserScale),
+               frmMain.picBoard.ScaleY(1, kMillimetres, kUserScale));
 }
 
 void ShowHandle(int index) {
@@ -49,26 +41,12 @@ void PlaceFrame(double left, double top, double width, double height) {
   frame.SetBorderStyle(kDots);
 }
 
-BoardBox BoxOf(const ObjectRecord& object) {
-  return {object.Left, object.Top, object.Left + object.Width, object.Top + object.Height};
-}
-
-void Extend(BoardBox& box, const BoardBox& other) {
-  box.left = std::min(box.left, other.left);
-  box.top = std::min(box.top, other.top);
-  box.right = std::max(box.right, other.right);
-  box.bottom = std::max(box.bottom, other.bottom);
-}
-
-const ObjectRecord& Member(int place) {
-  if (static_cast<std::size_t>(place) >= SelectedList.size()) RaiseFault(kOutOfBounds);
-  return ObjectAt(SelectedList[static_cast<std::size_t>(place)]);
-}
+const ObjectRecord& Member(int place) { return ObjectAt(SelectedMember(place)); }
 
 // Around the group's records, on the board. Texts are taken with the size that they have stored.
 BoardBox GroupBox() {
   BoardBox box = BoxOf(Member(0));
-  for (int i = 1; i <= SelectedUpper; ++i) Extend(box, BoxOf(Member(i)));
+  for (int i = 1; i <= SelectedUpper; ++i) box = Around(box, BoxOf(Member(i)));
   return {box.left + BoardOriginX, box.top + BoardOriginY, box.right + BoardOriginX,
           box.bottom + BoardOriginY};
 }
@@ -88,6 +66,13 @@ void ShowGroupBox() {
   PlaceFrame(box.left, box.top, box.right - box.left, box.bottom - box.top);
   frmMain.shpBox.SetShape(0);
   HideFourHandles();
+}
+
+void PlaceHandlesAroundFrame(double gap) {
+  const Shape& frame = frmMain.shpBox;
+  PlaceHandles(
+      {frame.Left(), frame.Top(), frame.Left() + frame.Width(), frame.Top() + frame.Height()}, gap,
+      gap);
 }
 
 void HideHandles() {

@@ -27,6 +27,7 @@ void HideHitAreas() {
 void EmptyDocument() {
   ObjectUB = -1;
   RedrawSkip = -1;
+  UndoUpper = -1;
   frmMain.mnuUndo.SetEnabled(false);
 }
 
@@ -36,6 +37,14 @@ void EmptyPanels() {
   frmMain.lblGraphicY.SetCaption("");
   frmMain.txtBCodeData.SetText("");
   frmMain.txtTool.SetText("");
+}
+
+// The press of the first tool has ended the selection, but for a modifier that is held, as that of
+// this command's own shortcut is.
+void ForgetSelection() {
+  SelectedObject = -1;
+  SelectedUpper = -1;
+  HideHandles();
 }
 
 void ForgetSource() {
@@ -69,6 +78,7 @@ void mnuFileNew_Click() {
   DirtyFlag = kFalse;
   ForgetSource();
   frmMain.cmdTools(0).Press();
+  ForgetSelection();
   frmMain.mnuFileSaveAs.SetEnabled(false);
   frmMain.SetCaption(ProductTitle + " [untitled]");
 }

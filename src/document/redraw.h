@@ -47,6 +47,8 @@ void ShowHandles(const Label& hold);
 // Puts shpBox around the group in SelectedList; the handles are placed and hidden. Nothing without
 // a group. Faults 9 for a group that is larger than its list or names no record.
 void ShowGroupBox();
+// Puts the handles around shpBox, this many board units away. Whether they show stays as it is.
+void PlaceHandlesAroundFrame(double gap);
 // Hides shpBox and the handles.
 void HideHandles();
 

@@ -56,9 +56,8 @@ void TrackStatus(const Control& control, double X, double Y) {
   ShowSelectionPlace();
 }
 
-void lblHold_MouseMove(int Index, int /*Button*/, int /*Shift*/, double X, double Y) {
+void RestorePointer() {
   if (frmMain.MousePointer() != kCustomPointer) frmMain.SetMousePointer(CursorShape);
-  TrackStatus(frmMain.lblHold(Index), X, Y);
 }
 
 }  // namespace tagwright

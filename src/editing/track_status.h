@@ -16,8 +16,8 @@ void TrackStatus(const Control& control, double X, double Y);
 // HairPositionY. Whether they show stays as it is.
 void MoveCrossHairs(double x, double y, double width, double height);
 
-// Puts the board's pointer back and follows the pointer.
-void lblHold_MouseMove(int Index, int Button, int Shift, double X, double Y);
+// Gives the window the pointer of CursorShape, unless it shows a custom one (99).
+void RestorePointer();
 
 // "mm" or "in", as lengths are shown.
 const char* UnitName();

@@ -42,6 +42,7 @@ void DesignStrip(FrmMain& f) {
   f.cboSize.SetVisible(false);
   f.chkXHair.SetValue(1);
   f.txtTool.SetMultiLine(true);
+  f.lblTextColor.SetBackColor(Rgb(0, 0, 0));
   f.txtNoCopies.SetText("1");
   f.txtBookland.SetVisible(false);
   for (const auto& [index, field] : f.txtDSize) field->SetText("0.00");

@@ -3,7 +3,11 @@
 #include "barcode/mod_bar_code.h"
 #include "common/prog_settings.h"
 #include "document/objects.h"
+#include "editing/drag.h"
 #include "editing/magnetic_rule.h"
+#include "editing/object_panels.h"
+#include "editing/selection.h"
+#include "editing/undo.h"
 #include "layouts/label_layouts.h"
 #include "platform/desktop.h"
 #include "platform/event.h"
@@ -12,6 +16,8 @@
 #include "shell/window.h"
 #include "tools/barcode_panel.h"
 #include "tools/font_box.h"
+#include "tools/placement.h"
+#include "tools/rule_drag.h"
 #include "tools/tool_buttons.h"
 #include "tools/view.h"
 
@@ -31,6 +37,12 @@ void ResetTools() {
   ResetBarcodePanel();
   ResetBarcodeState();
   ResetMagneticRules();
+  ResetSelectionKeys();
+  ResetDrag();
+  ResetUndo();
+  ResetObjectPanels();
+  ResetPlacement();
+  ResetRuleDrag();
   ResetToolButtons();
   ResetView();
 }

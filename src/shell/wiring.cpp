@@ -4,8 +4,12 @@
 #include "barcode/mod_bar_code.h"
 #include "document/project_file.h"
 #include "document/redraw.h"
+#include "editing/drag.h"
+#include "editing/keys.h"
 #include "editing/magnetic_rule.h"
-#include "editing/track_status.h"
+#include "editing/object_panels.h"
+#include "editing/property_pick.h"
+#include "editing/selection.h"
 #include "layouts/layout_list.h"
 #include "shell/about.h"
 #include "shell/shutdown.h"
@@ -13,7 +17,9 @@
 #include "shell/window.h"
 #include "tools/barcode_panel.h"
 #include "tools/board.h"
+#include "tools/context_menus.h"
 #include "tools/font_box.h"
+#include "tools/hold_mouse.h"
 #include "tools/panels.h"
 #include "tools/tool_buttons.h"
 #include "tools/view.h"
@@ -26,6 +32,8 @@ void WireWindow(FrmMain& f) {
   f.WindowEvents().Activate = Form_Activate;
   f.WindowEvents().Resize = Form_Resize;
   f.WindowEvents().Unload = Form_Unload;
+  f.WindowEvents().KeyDown = Form_KeyDown;
+  f.WindowEvents().KeyUp = Form_KeyUp;
 
   f.Timer1.Events().Timer = Timer1_Timer;
   f.tmrButtons.Events().Timer = tmrButtons_Timer;
@@ -39,6 +47,9 @@ void WireMenus(FrmMain& f) {
   f.mnuFileImport.Events().Click = mnuFileImport_Click;
   f.mnuFileOld.Events().Click = mnuFileOld_Click;
   f.mnuFileExit.Events().Click = mnuFileExit_Click;
+
+  f.mnuEditSelectAll.Events().Click = mnuEditSelectAll_Click;
+  f.mnuTextCopy.Events().Click = mnuTextCopy_Click;
 
   f.mnuFileRulers.Events().Click = mnuFileRulers_Click;
   f.mnuOptXHair.Events().Click = mnuOptXHair_Click;
@@ -57,7 +68,39 @@ void WireStrip(FrmMain& f) {
   f.cboFont.Events().GotFocus = cboFont_GotFocus;
   f.cboFont.Events().KeyPress = cboFont_KeyPress;
   f.cboFont.Events().LostFocus = cboFont_LostFocus;
+  f.cboFont.Events().Click = ApplyFontProperties;
+  f.cboSize.Events().Click = ApplyFontProperties;
   f.cboLabelLayout.Events().Click = cboLabelLayout_Click;
+  f.txtDSize.Events().GotFocus = txtDSize_GotFocus;
+  f.txtDSize.Events().LostFocus = txtDSize_LostFocus;
+  f.txtDSize.Events().KeyPress = txtDSize_KeyPress;
+  f.txtDSize.Events().MouseMove = [](int Index, int, int, double, double) {
+    txtDSize_MouseMove(Index);
+  };
+}
+
+void WireTextPanel(FrmMain& f) {
+  f.txtTool.Events().GotFocus = txtTool_GotFocus;
+  f.txtTool.Events().LostFocus = txtTool_LostFocus;
+  f.txtTool.Events().KeyPress = txtTool_KeyPress;
+  f.txtTool.Events().Change = txtTool_Change;
+  f.chkBold.Events().Click = ApplyFontProperties;
+  f.chkItalic.Events().Click = ApplyFontProperties;
+  f.cmdAlign.Events().Click = cmdAlign_Click;
+  f.cmdTextColor.Events().Click = cmdTextColor_Click;
+}
+
+void WireDrawingPanel(FrmMain& f) {
+  f.cmdLine.Events().Click = cmdLine_Click;
+  f.cmdRect.Events().Click = cmdRect_Click;
+  f.cmdRoundRect.Events().Click = cmdRoundRect_Click;
+  f.cmdEllipse.Events().Click = cmdEllipse_Click;
+  f.cboWeight.Events().Click = cboWeight_Click;
+  f.cmdColor.Events().Click = cmdColor_Click;
+  f.lblBCol.Events().Click = lblBCol_Click;
+  f.cmdFColor.Events().Click = cmdFColor_Click;
+  f.lblFCol.Events().Click = lblFCol_Click;
+  f.chkTransparent.Events().Click = chkTransparent_Click;
 }
 
 void WireTools(FrmMain& f) {
@@ -70,13 +113,30 @@ void WireTools(FrmMain& f) {
 }
 
 void WireBoard(FrmMain& f) {
+  f.picBoard.Events().MouseDown = picBoard_MouseDown;
   f.picBoard.Events().MouseMove = picBoard_MouseMove;
+  f.picBoard.Events().MouseUp = picBoard_MouseUp;
+  f.lblHold.Events().MouseDown = lblHold_MouseDown;
   f.lblHold.Events().MouseMove = lblHold_MouseMove;
+  f.lblHold.Events().MouseUp = lblHold_MouseUp;
+  f.lblHandle.Events().MouseDown = lblHandle_MouseDown;
+  f.lblHandle.Events().MouseMove = lblHandle_MouseMove;
+  f.lblHandle.Events().MouseUp = lblHandle_MouseUp;
   f.hS1.Events().Change = hS1_Change;
   f.hS1.Events().GotFocus = hS1_GotFocus;
   f.vS1.Events().Change = vS1_Change;
   f.vS1.Events().GotFocus = vS1_GotFocus;
   f.cmdXC.Events().Click = cmdXC_Click;
+}
+
+void WireContextMenus(FrmMain& f) {
+  f.mnuDrawChange.Events().Click = mnuDrawChange_Click;
+  f.mnuShpAspect.Events().Click = mnuShpAspect_Click;
+  f.mnuGraphicWidth.Events().Click = mnuGraphicWidth_Click;
+  f.mnuGraphicHeight.Events().Click = mnuGraphicHeight_Click;
+  f.mnuBCSetWid.Events().Click = mnuBCSetWid_Click;
+  f.mnuBCSetHgt.Events().Click = mnuBCSetHgt_Click;
+  f.mnuBCSetChars.Events().Click = mnuBCSetChars_Click;
 }
 
 // chkChkSum is bound to nothing: whether a check digit is made depends on format and data alone.
@@ -116,61 +176,12 @@ void WireHover(FrmMain& f) {
 // builds a group moves its lines up and gives them their handlers.
 constexpr auto NotThereYet = [](auto&&...) {};
 
-// Selecting, moving and resizing objects with the mouse, and placing new ones. With it come the end
-// of the selection that FitZoom and cmdTools_Click call for, arming the tools 1 to 7 and zooming to
-// a box.
-void WireObjectsLater(FrmMain& f) {
-  f.picBoard.Events().MouseDown = NotThereYet;
-  f.picBoard.Events().MouseUp = NotThereYet;
-  f.lblHold.Events().MouseDown = NotThereYet;
-  f.lblHold.Events().MouseUp = NotThereYet;
-  f.lblHandle.Events().MouseDown = NotThereYet;
-  f.lblHandle.Events().MouseMove = NotThereYet;
-  f.lblHandle.Events().MouseUp = NotThereYet;
-  f.WindowEvents().KeyDown = NotThereYet;
-  f.WindowEvents().KeyUp = NotThereYet;
-  f.cmdLine.Events().Click = NotThereYet;
-  f.cmdRect.Events().Click = NotThereYet;
-  f.cmdRoundRect.Events().Click = NotThereYet;
-  f.cmdEllipse.Events().Click = NotThereYet;
-}
-
-// Changing what is selected: the fields and boxes of the panels and of the strip.
-void WirePanelsLater(FrmMain& f) {
-  f.txtDSize.Events().GotFocus = NotThereYet;
-  f.txtDSize.Events().LostFocus = NotThereYet;
-  f.txtDSize.Events().KeyPress = NotThereYet;
-  f.txtDSize.Events().MouseMove = NotThereYet;
-  f.cboFont.Events().Click = NotThereYet;
-  f.cboSize.Events().Click = NotThereYet;
-  f.chkBold.Events().Click = NotThereYet;
-  f.chkItalic.Events().Click = NotThereYet;
-  f.cmdAlign.Events().Click = NotThereYet;
-  f.cmdTextColor.Events().Click = NotThereYet;
-  f.txtTool.Events().GotFocus = NotThereYet;
-  f.txtTool.Events().LostFocus = NotThereYet;
-  f.txtTool.Events().KeyPress = NotThereYet;
-  f.txtTool.Events().Change = NotThereYet;
-  f.cboWeight.Events().Click = NotThereYet;
-  f.cmdColor.Events().Click = NotThereYet;
-  f.cmdFColor.Events().Click = NotThereYet;
-  f.lblBCol.Events().Click = NotThereYet;
-  f.lblFCol.Events().Click = NotThereYet;
-  f.chkTransparent.Events().Click = NotThereYet;
-  f.mnuDrawChange.Events().Click = NotThereYet;
-  f.mnuShpAspect.Events().Click = NotThereYet;
-  f.mnuGraphicWidth.Events().Click = NotThereYet;
-  f.mnuGraphicHeight.Events().Click = NotThereYet;
-  f.mnuTextCopy.Events().Click = NotThereYet;
-}
-
 // Undo, the clipboard, aligning, spacing and stacking.
 void WireArrangingLater(FrmMain& f) {
   f.mnuUndo.Events().Click = NotThereYet;
   f.mnuEditCut.Events().Click = NotThereYet;
   f.mnuEditCopy.Events().Click = NotThereYet;
   f.mnuEditPaste.Events().Click = NotThereYet;
-  f.mnuEditSelectAll.Events().Click = NotThereYet;
   f.mnuAAlign.Events().Click = NotThereYet;
   f.mnuASize.Events().Click = NotThereYet;
   f.mnuAHoriz.Events().Click = NotThereYet;
@@ -189,9 +200,6 @@ void WireArrangingLater(FrmMain& f) {
 void WireFieldBarcodesLater(FrmMain& f) {
   f.mnuField.Events().Click = NotThereYet;
   f.mnuFBC.Events().Click = NotThereYet;
-  f.mnuBCSetWid.Events().Click = NotThereYet;
-  f.mnuBCSetHgt.Events().Click = NotThereYet;
-  f.mnuBCSetChars.Events().Click = NotThereYet;
 }
 
 // Data sources: no file is read, no column is listed and no data field is placed.
@@ -224,8 +232,6 @@ void WireDialogsLater(FrmMain& f) {
 }
 
 void WireLater(FrmMain& f) {
-  WireObjectsLater(f);
-  WirePanelsLater(f);
   WireArrangingLater(f);
   WireFieldBarcodesLater(f);
   WireDataSourcesLater(f);
@@ -240,7 +246,10 @@ void WireMainWindow(FrmMain& f) {
   WireMenus(f);
   WireStrip(f);
   WireTools(f);
+  WireTextPanel(f);
+  WireDrawingPanel(f);
   WireBoard(f);
+  WireContextMenus(f);
   WireBarcodes(f);
   WireHover(f);
   WireLater(f);

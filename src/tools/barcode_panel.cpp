@@ -7,8 +7,8 @@
 #include "forms/frmMain.h"
 #include "platform/dialogs.h"
 #include "platform/fault.h"
-#include "platform/scale.h"
 #include "platform/text.h"
+#include "tools/placement_arithmetic.h"
 
 namespace tagwright {
 namespace {
@@ -17,14 +17,7 @@ enum Format : std::int16_t { kPostNet = 12, kRoyalMail = 13 };
 
 constexpr std::int16_t kBarcodePointer = 99;
 
-// PostNet in inches. Single-precision constants, as the sizes in saved labels came from.
-constexpr float kPostNetHeight = 0.125F;
-constexpr float kPostNetBar = 0.02F;
-constexpr float kPostNetGap = 0.026F;
-
 constexpr double kRoyalMailHeight = 5;
-
-double Inches(float inches) { return inches * kMillimetresPerInch; }
 
 void Refuse(const std::string& message) {
   MessageBox(message, MessageButtons::kOk, MessageIcon::kNone);
@@ -67,7 +60,9 @@ bool BarcodeIsSelected() {
   return is_barcode;
 }
 
+// While the panel is being filled from a record there is nothing to take from it.
 void TakeFormat() {
+  if (PanelLoading) return;
   ObjectAt(SelectedObject).Param = static_cast<std::int16_t>(frmMain.cboBCode.ListIndex());
   RedrawBoard();
 }
@@ -81,11 +76,11 @@ void TakeSize(double width, double height) {
 }
 
 void FitPostNet(double length) {
-  const double bars = (length + 1) * 5 + 2;
-  const double gaps = bars - 1;
-  TakeSize(bars * Inches(kPostNetBar) + gaps * Inches(kPostNetGap), Inches(kPostNetHeight));
+  const Extent symbol = PostNetExtent(length);
+  TakeSize(symbol.width, symbol.height);
 }
 
+// Larger than a new symbol of that format.
 void FitRoyalMail(double length) { TakeSize(((length + 1) * 4 + 1.5) * 1.1, kRoyalMailHeight); }
 
 // The symbol has been redrawn before; that its new outline shows at once is all there is to do.
@@ -135,7 +130,7 @@ void txtBCodeData_LostFocus() {
 }
 
 void chkPriCharacter_Click() {
-  if (!BarcodeIsSelected()) return;
+  if (PanelLoading || !BarcodeIsSelected()) return;
   ObjectAt(SelectedObject).Bold = frmMain.chkPriCharacter.Value() ? kTrue : kFalse;
   RedrawBoard();
   DirtyFlag = kTrue;

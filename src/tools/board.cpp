@@ -2,10 +2,16 @@
 
 #include <string>
 
+#include "common/public_functions.h"
 #include "document/objects.h"
+#include "document/redraw.h"
+#include "editing/drag.h"
+#include "editing/selection.h"
 #include "editing/track_status.h"
 #include "forms/frmMain.h"
 #include "platform/locale.h"
+#include "tools/placement.h"
+#include "tools/rule_drag.h"
 
 namespace tagwright {
 namespace {
@@ -20,18 +26,69 @@ void ShowInFront(LineControl& line) {
 
 std::string ShownPlace(double board_units) { return FormatFixed(board_units / UnitScale, 2); }
 
-}  // namespace
-
-void picBoard_MouseMove(int /*Button*/, int /*Shift*/, double X, double Y) {
-  const PictureBox& board = frmMain.picBoard;
-  if (frmMain.MousePointer() != kCustomPointer) frmMain.SetMousePointer(CursorShape);
-  if (frmMain.mnuOptXHair.Checked()) {
-    MoveCrossHairs(X, Y, kHairLengths * board.ScaleWidth(), kHairLengths * board.ScaleHeight());
-    ShowInFront(frmMain.HairX);
-    ShowInFront(frmMain.HairY);
-  }
+void ShowPlace(double X, double Y) {
   frmMain.sB1.SetPanelText(1, "X: " + ShownPlace(X - BoardOriginX) +
                                   " - Y:" + ShownPlace(Y - BoardOriginY) + UnitName());
+}
+
+void ShowCrossHairs(double X, double Y) {
+  const PictureBox& board = frmMain.picBoard;
+  MoveCrossHairs(X, Y, kHairLengths * board.ScaleWidth(), kHairLengths * board.ScaleHeight());
+  ShowInFront(frmMain.HairX);
+  ShowInFront(frmMain.HairY);
+}
+
+void EndSelection() {
+  if (SelectedObject > -1) DeselectObject();
+  if (SelectedUpper < 0) return;
+  SelectedUpper = -1;
+  HideHandles();
+}
+
+void EndEntry() {
+  TextEntryActive = false;
+  RedrawSkip = -1;
+  frmMain.picMag.SetVisible(false);
+}
+
+void PlaceFieldAt(double X, double Y) {
+  AnchorX = SnapX(X);
+  AnchorY = SnapY(Y) - PanelTextHeight();
+  PlaceObject();
+}
+
+void ShowDefaultPointer() {
+  CursorShape = 0;
+  frmMain.SetMousePointer(0);
+}
+
+}  // namespace
+
+void picBoard_MouseDown(int Button, int /*Shift*/, double X, double Y) {
+  EndEntry();
+  if (Button == kLeftButton && GrabRules(X, Y)) return;
+  if (Button == kLeftButton && !ModifierHeld) {
+    EndSelection();
+    StartTool(X, Y);
+  }
+  AnchorRubber(X, Y);
+}
+
+void picBoard_MouseMove(int /*Button*/, int /*Shift*/, double X, double Y) {
+  if (frmMain.MousePointer() != kCustomPointer) frmMain.SetMousePointer(CursorShape);
+  if (frmMain.mnuOptXHair.Checked()) ShowCrossHairs(X, Y);
+  ShowPlace(X, Y);
+  if (RubberBox) TrackRubberBox(X, Y, 0);
+  if (RubberLine) TrackRubberLine(X, Y);
+  DragRules(X, Y);
+}
+
+void picBoard_MouseUp(int /*Button*/, int /*Shift*/, double X, double Y) {
+  ReleaseRules(X, Y);
+  if (RubberBox) PlaceObject();
+  if (RubberLine) PlaceObject();
+  if (CurrentTool == kDataField) PlaceFieldAt(X, Y);
+  if (CurrentTool == kText) ShowDefaultPointer();
 }
 
 }  // namespace tagwright

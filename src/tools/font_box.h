@@ -1,7 +1,8 @@
-// Typing in cboFont: completed against the list of fonts.
+// cboFont and cboSize: rows chosen by their text, and typing completed against the list of fonts.
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 
 #include "document/objects.h"
 
@@ -9,6 +10,14 @@ namespace tagwright {
 
 // The user typed in cboFont since it got the keyboard.
 inline Flag FontComboTyped = kFalse;
+
+// Chooses the row of cboFont that equals `name` exactly, which raises its Click; without one the
+// combo stays as it is.
+void SelectFontRow(std::string_view name);
+
+// Chooses the row of cboSize that equals `text` exactly, which raises its Click; without one the
+// combo's text becomes `text`, which raises nothing.
+void SelectSizeRow(std::string_view text);
 
 void cboFont_GotFocus();               // clears FontComboTyped
 void cboFont_KeyPress(int& KeyAscii);  // sets it and completes what is typed

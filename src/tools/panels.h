@@ -1,23 +1,9 @@
-// The stack of panels above the board: the one in front is the active one. cboFont and cboSize
-// belong to no panel and move to the one that needs them.
+// The panel of data sources coming forward; the stack itself is in editing/panel_stack.h.
 #pragma once
 
-#include "platform/controls.h"
+#include "editing/panel_stack.h"
 
 namespace tagwright {
-
-// Left 50, top 0, to the front.
-void ShowPanel(PictureBox& panel);
-
-// cboFont to this place (twips), visible and in front; cboSize follows it.
-void ShowFontBoxes(double left, double top);
-
-// Hides both.
-void HideFontBoxes();
-
-// cboSize under cboFont: same left, 360 twips below its top, same visibility, and if visible in
-// front.
-void SizeBoxFollowsFontBox();
 
 // Disarms the tool, puts the pointer back and brings the panel of data sources forward with the
 // font boxes.

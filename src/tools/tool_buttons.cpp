@@ -1,35 +1,89 @@
 #include "tools/tool_buttons.h"
 
+#include <cmath>
+
+#include "common/prog_settings.h"
 #include "document/objects.h"
+#include "editing/panel_stack.h"
+#include "editing/selection.h"
 #include "forms/frmMain.h"
-#include "tools/panels.h"
+#include "platform/fault.h"
+#include "platform/locale.h"
+#include "tools/font_box.h"
+#include "tools/placement.h"
 
 namespace tagwright {
 namespace {
 
 constexpr int kHoldIsOver = 100;
 constexpr double kFontTop = 290;
+constexpr double kFontLeftOfBarcodes = 7250;
+constexpr double kFontLeftOfTexts = 8950;
+constexpr std::int16_t kCross = 2;  // pointers
+constexpr std::int16_t kIBeam = 3;
+constexpr std::int16_t kCustomPointer = 99;
+
+void Arm(std::int16_t tool, std::int16_t pointer) {
+  CurrentTool = tool;
+  CursorShape = pointer;
+}
+
+// The last record of this kind, null for none.
+const ObjectRecord* LastOf(std::int16_t kind) {
+  for (int i = ObjectUB; i >= 0; --i) {
+    if (ObjectAt(i).ObjType == kind) return &ObjectAt(i);
+  }
+  return nullptr;
+}
+
+void SelectDefaultFont(double size) {
+  SelectFontRow(ProgSettings.DefaultFontName.Trimmed());
+  SelectSizeRow(FormatNumber(size));
+}
+
+// --- one tool after the other ---
 
 void SelectTool() {
-  CurrentTool = 0;
-  CursorShape = 0;
+  Arm(kNoTool, 0);
   ShowPanel(frmMain.picProperties);
   frmMain.cboFont.SetVisible(false);
 }
 
+void TakeStyleOfBarcode(const ObjectRecord& last) {
+  SelectFontRow(last.FontName.Trimmed());
+  SelectSizeRow(FormatNumber(last.FontSize));
+  CarryOn([&] { frmMain.cboBCode.SetListIndex(last.Param); });
+}
+
+void TakeDefaultBarcode() {
+  SelectDefaultFont(ProgSettings.BarcodeFontSize);
+  CarryOn([] { frmMain.cboBCode.SetListIndex(ProgSettings.AlphaBarcodeType); });
+}
+
+// Its panel alone arms nothing: cmdBCode does, once there is data to place.
 void BarcodeTool() {
   ShowPanel(frmMain.picBCode);
-  ShowFontBoxes(7250, kFontTop);
+  const ObjectRecord* last = LastOf(kBarcode);
+  last ? TakeStyleOfBarcode(*last) : TakeDefaultBarcode();
+  ShowFontBoxes(kFontLeftOfBarcodes, kFontTop);
 }
 
 void PictureTool() {
-  ShowPanel(frmMain.picPicture);
-  HideFontBoxes();
+  CurrentTool = kPicture;
+  InsertPicture();
+}
+
+void TakeStyleOfText(const ObjectRecord& last) {
+  SelectFontRow(last.FontName.Trimmed());
+  SelectSizeRow(FormatNumber(std::trunc(last.FontSize)));
 }
 
 void TextTool() {
   ShowPanel(frmMain.picText);
-  ShowFontBoxes(8950, kFontTop);
+  ShowFontBoxes(kFontLeftOfTexts, kFontTop);
+  const ObjectRecord* last = LastOf(kText);
+  last ? TakeStyleOfText(*last) : SelectDefaultFont(ProgSettings.DefaultFontSize);
+  Arm(kText, kIBeam);
 }
 
 void DrawingTools() {
@@ -37,42 +91,58 @@ void DrawingTools() {
   frmMain.cboFont.SetVisible(false);
 }
 
+void ZoomTool(std::int16_t tool, const Image& pointer) {
+  Arm(tool, kCustomPointer);
+  frmMain.SetMouseIcon(pointer.Icon());
+  frmMain.SetMousePointer(kCustomPointer);
+}
+
+void ZoomInTool() {
+  ZoomTool(kZoomIn, frmMain.Image3);
+  frmMain.cboFont.SetVisible(false);
+}
+
 // The release that ends a hold raises the button's click as any release does. It must not arm the
 // tool that the flyout has just replaced.
 bool HoldHasEnded(int index) { return (index == 5 || index == 6) && HoldTicks > kHoldIsOver; }
 
+void RunTool(int index) {
+  switch (index) {
+    case 0:
+      return SelectTool();
+    case 1:
+      return BarcodeTool();
+    case 2:
+      return PictureTool();
+    case 3:
+      return TextTool();
+    case 4:
+      return DrawingTools();
+    case 5:
+      return ZoomInTool();
+    case 6:
+      return ZoomTool(kZoomOut, frmMain.Image4);
+    case 7:
+      return frmMain.mnuFileImport.Press();
+    default:
+      return;
+  }
+}
+
 }  // namespace
 
 void cmdTools_Click(int Index) {
+  DeselectObject();
   if (HoldHasEnded(Index)) return;
-  switch (Index) {
-    case 0:
-      SelectTool();
-      break;
-    case 1:
-      BarcodeTool();
-      break;
-    case 2:
-      PictureTool();
-      break;
-    case 3:
-      TextTool();
-      break;
-    case 4:
-      DrawingTools();
-      break;
-    case 5:
-      frmMain.cboFont.SetVisible(false);
-      break;
-    case 7:
-      frmMain.mnuFileImport.Press();
-      break;
-    default:
-      break;
-  }
+  CarryOn([&] { RunTool(Index); });
   SizeBoxFollowsFontBox();
   frmMain.picMag.SetVisible(false);
 }
+
+void cmdLine_Click() { Arm(kLine, kCross); }
+void cmdRect_Click() { Arm(kRectangle, kCross); }
+void cmdRoundRect_Click() { Arm(kRoundedRectangle, kCross); }
+void cmdEllipse_Click() { Arm(kEllipse, kCross); }
 
 void ResetToolButtons() {
   HoldTicks = 0;

@@ -11,9 +11,17 @@ inline std::int16_t HoldTicks = 0;
 inline std::int16_t HoldKind = 0;
 
 // By index: 0 select, 1 barcode, 2 picture, 3 text, 4 drawing, 5 zoom in, 6 zoom out, 7 import.
-// Brings the tool's panel to the front, places cboFont and cboSize, and hides picMag; 0 disarms the
-// tool. After a hold (HoldTicks above 100) 5 and 6 do nothing at all.
+// Ends the selection, brings the tool's panel to the front, places cboFont and cboSize, and hides
+// picMag; 0 disarms the tool, 2, 3, 5 and 6 arm theirs. A barcode or a text begins with the font of
+// the last such object on the label, and with the settings' only where there is none. After a hold
+// (HoldTicks above 100) 5 and 6 only end the selection.
 void cmdTools_Click(int Index);
+
+// Arm the tools of the drawing panel, which draw with a cross.
+void cmdLine_Click();
+void cmdRect_Click();
+void cmdRoundRect_Click();
+void cmdEllipse_Click();
 
 // HoldTicks and HoldKind as at program start.
 void ResetToolButtons();

@@ -5,6 +5,7 @@
 #include "common/prog_settings.h"
 #include "common/public_functions.h"
 #include "document/redraw.h"
+#include "editing/selection.h"
 #include "forms/frmMain.h"
 #include "layouts/layout_list.h"
 #include "platform/locale.h"
@@ -20,25 +21,12 @@ constexpr double kFits = 0.9;            // from this share of the board on a la
 constexpr double kAir = 0.95;            // of the board is used
 constexpr double kAirUnderRuler = 0.85;  // where the ruler takes its part of the height
 
-double BoardWidth() {  // millimetres on screen
-  return frmMain.picBoard.ScaleX(frmMain.picBoard.Width(), kTwips, kMillimetres);
-}
-
-double BoardHeight() {
-  return frmMain.picBoard.ScaleY(frmMain.picBoard.Height(), kTwips, kMillimetres);
-}
-
 double Quotient(double value, double divisor) {
   if (divisor == 0) RaiseFault(kDivisionByZero);
   return value / divisor;
 }
 
 int Middle(const ScrollBar& bar) { return ToInt16(bar.Max() / 2.0); }
-
-void CentreLabel() {
-  frmMain.hS1.SetValue(Middle(frmMain.hS1));
-  frmMain.vS1.SetValue(Middle(frmMain.vS1));
-}
 
 void KeyboardToBoard() {
   CarryOn([] { frmMain.txtSetFocus(0).SetFocus(); });
@@ -94,17 +82,6 @@ double FittingZoom(int mode) {
   return ToNumber(FormatFixed(zoom * kAir, 2));
 }
 
-// The last row only ever ends a pair: exactly its factor is already above the list.
-bool SelectZoomRow(double zoom) {
-  ComboBox& list = frmMain.cboZoom;
-  for (int i = 0; i < list.ListCount() - 1; ++i) {
-    if (ParsePercent(list.List(i)) > zoom || zoom >= ParsePercent(list.List(i + 1))) continue;
-    list.SetListIndex(i);
-    return true;
-  }
-  return false;
-}
-
 void ViewSameSize() {
   SuspendRedraw = kTrue;
   CentreLabel();
@@ -138,6 +115,29 @@ void ShowUnit(bool metric, double ruler_scale, double unit_scale) {
 }
 
 }  // namespace
+
+double BoardWidth() {
+  return frmMain.picBoard.ScaleX(frmMain.picBoard.Width(), kTwips, kMillimetres);
+}
+
+double BoardHeight() {
+  return frmMain.picBoard.ScaleY(frmMain.picBoard.Height(), kTwips, kMillimetres);
+}
+
+void CentreLabel() {
+  frmMain.hS1.SetValue(Middle(frmMain.hS1));
+  frmMain.vS1.SetValue(Middle(frmMain.vS1));
+}
+
+bool SelectZoomRow(double zoom) {
+  ComboBox& list = frmMain.cboZoom;
+  for (int i = 0; i < list.ListCount() - 1; ++i) {
+    if (ParsePercent(list.List(i)) > zoom || zoom >= ParsePercent(list.List(i + 1))) continue;
+    list.SetListIndex(i);
+    return true;
+  }
+  return false;
+}
 
 double ParsePercent(std::string_view text) {
   if (!text.ends_with('%')) return 0;
@@ -182,6 +182,7 @@ void FitZoom(int mode) {
   SuspendRedraw = kFalse;
   RedrawBoard();
   if (!found) ZoomFactor = old_zoom;
+  DeselectObject();
 }
 
 void cmdXC_Click() {

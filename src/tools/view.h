@@ -30,13 +30,25 @@ void cboZoom_Click();
 // text is empty.
 double ZoomOfCombo();
 
+// The board's own size, millimetres on screen.
+double BoardWidth();
+double BoardHeight();
+
+// Chooses the row of cboZoom that is not above this factor while the next one is above it, which
+// zooms. False, and nothing done, when there is none: the last row only ever ends a pair.
+bool SelectZoomRow(double zoom);
+
+// Both scroll bars to their middle, where the label stands centred on the board.
+void CentreLabel();
+
 // The flyout's buttons: 0 to 2 FitZoom(Index), 3 back to 100 % in the middle, 4 leaves the zoom.
 // Hides picMag.
 void cmdMagnify_Click(int Index);
 
 // Zooms to the row of cboZoom under which the label fits: `mode` 0 its longer side, 1 its height,
 // 2 its width. A label whose width (or height) already takes 90 to 100 % of the board is left
-// alone, and so is the zoom when no row brackets the factor.
+// alone, and so is the zoom when no row brackets the factor. Unless it is left alone for its size
+// the selection ends.
 void FitZoom(int mode);
 
 // --- scrolling ----------------------------------------------------------------------------------

@@ -23,6 +23,8 @@ TEST_F(ProjectCommandsTest, NewEmptiesTheLabelAndItsPanels) {
   HoldAt(0).SetVisible(true);
   ShowHandles(HoldAt(0));
   SelectedObject = 0;
+  SelectedUpper = 1;
+  UndoUpper = 2;
   frmMain.lblGraphicFName.SetCaption("f");
   frmMain.lblGraphicX.SetCaption("1");
   frmMain.lblGraphicY.SetCaption("2");
@@ -44,6 +46,9 @@ TEST_F(ProjectCommandsTest, NewEmptiesTheLabelAndItsPanels) {
   EXPECT_FALSE(HoldAt(0).Visible());
   EXPECT_FALSE(frmMain.shpBox.Visible());
   EXPECT_FALSE(frmMain.lblHandle(0).Visible());
+  EXPECT_EQ(SelectedObject, -1);
+  EXPECT_EQ(SelectedUpper, -1);
+  EXPECT_EQ(UndoUpper, -1);
   EXPECT_FALSE(frmMain.mnuUndo.Enabled());
   EXPECT_FALSE(frmMain.mnuFileSaveAs.Enabled());
   EXPECT_EQ(frmMain.lblGraphicFName.Caption(), "");

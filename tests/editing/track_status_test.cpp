@@ -72,12 +72,12 @@ TEST_F(TrackStatusTest, PositionFieldsFollowTheSelectedObject) {
   EXPECT_EQ(frmMain.txtDSize(0).Text(), "0.39");  // 10 / 25.4 = 0.3937
 }
 
-TEST_F(TrackStatusTest, OverAnObjectTheBoardsPointerReturnsUnlessItIsACustomOne) {
+TEST_F(TrackStatusTest, TheBoardsPointerReturnsUnlessItIsACustomOne) {
   CursorShape = 2;
-  lblHold_MouseMove(0, 0, 0, 0, 0);
+  RestorePointer();
   EXPECT_EQ(frmMain.MousePointer(), 2);
   frmMain.SetMousePointer(99);
-  lblHold_MouseMove(0, 0, 0, 0, 0);
+  RestorePointer();
   EXPECT_EQ(frmMain.MousePointer(), 99);
 }
 

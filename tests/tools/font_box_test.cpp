@@ -57,5 +57,29 @@ TEST_F(FontBoxTest, TheSizeBoxSwallowsEveryKey) {
   EXPECT_EQ(frmMain.cboSize.Text(), "12");
 }
 
+TEST_F(FontBoxTest, AFontRowIsChosenByItsExactName) {
+  SelectFontRow("Courier New");
+  EXPECT_EQ(frmMain.cboFont.ListIndex(), 1);
+  EXPECT_EQ(clicks, 1);
+  SelectFontRow("courier new");
+  SelectFontRow("Courier");
+  EXPECT_EQ(frmMain.cboFont.Text(), "Courier New");
+  EXPECT_EQ(clicks, 1);
+  SelectFontRow("Courier New");
+  EXPECT_EQ(clicks, 2) << "the row chosen again is a choice";
+}
+
+TEST_F(FontBoxTest, ASizeWithoutARowBecomesTheText) {
+  for (const char* size : {"12", "14"}) frmMain.cboSize.AddItem(size);
+  int picks = 0;
+  frmMain.cboSize.Events().Click = [&picks] { ++picks; };
+  SelectSizeRow("14");
+  EXPECT_EQ(frmMain.cboSize.ListIndex(), 1);
+  EXPECT_EQ(picks, 1);
+  SelectSizeRow("15");
+  EXPECT_EQ(frmMain.cboSize.Text(), "15");
+  EXPECT_EQ(picks, 1);
+}
+
 }  // namespace
 }  // namespace tagwright

@@ -315,6 +315,25 @@ TEST_F(ViewTest, TheFirstRowsFactorIsFound) {
   EXPECT_EQ(frmMain.cboZoom.Text(), "20%");
 }
 
+TEST_F(ViewTest, FittingEndsTheSelectionAlsoWhereNoZoomIsFound) {
+  for (const double height : {38.0, 10.0}) {
+    SetLabel(99, height);
+    AddObject(kRectangle);
+    SelectedObject = 0;
+    FitZoom(1);
+    EXPECT_EQ(SelectedObject, -1) << height;
+    EXPECT_FALSE(frmMain.shpBox.Visible()) << height;
+  }
+}
+
+TEST_F(ViewTest, ALabelThatFitsWellEnoughKeepsItsSelection) {
+  SetLabel(280, 100);
+  AddObject(kRectangle);
+  SelectedObject = 0;
+  FitZoom(2);
+  EXPECT_EQ(SelectedObject, 0);
+}
+
 TEST_F(ViewTest, ALabelWithoutASizeKeepsTheZoom) {
   SetLabel(0, 0);
   for (int mode : {0, 1, 2}) FitZoom(mode);

@@ -123,12 +123,20 @@ void PaintCaption(QPainter& painter, const Label& label, const QRectF& box) {
   }
 }
 
+// Border and ground on the same pixels, wherever between two of them the label lies.
+void PaintBordered(QPainter& painter, const Label& label, const QRectF& box) {
+  painter.setPen(QPen(ToQColor(label.ForeColor()), 1.0));
+  if (label.BackStyle() != 0) painter.setBrush(ToQColor(label.BackColor()));
+  painter.drawRect(QRectF(OnPixel(box.topLeft()), OnPixel(box.bottomRight()) - QPointF(1, 1)));
+  painter.setBrush(Qt::NoBrush);
+}
+
 void PaintLabel(QPainter& painter, const Label& label) {
   const QRectF box = BoxOf(label);
-  if (label.BackStyle() != 0) painter.fillRect(box, ToQColor(label.BackColor()));
   if (label.BorderStyle() != 0) {
-    painter.setPen(QPen(ToQColor(label.ForeColor()), 1.0));
-    painter.drawRect(QRectF(OnPixel(box.topLeft()), OnPixel(box.bottomRight()) - QPointF(1, 1)));
+    PaintBordered(painter, label, box);
+  } else if (label.BackStyle() != 0) {
+    painter.fillRect(box, ToQColor(label.BackColor()));
   }
   if (label.Caption().empty()) return;
   painter.save();

@@ -1,7 +1,10 @@
 // What the form file promises: captions, order, alignment, sizes.
 #include <QAbstractButton>
+#include <QApplication>
+#include <QCheckBox>
 #include <QLabel>
 #include <QLayout>
+#include <QPushButton>
 #include <QStackedWidget>
 #include <algorithm>
 #include <set>
@@ -189,6 +192,42 @@ TEST_F(LayoutTest, EveryPanelFitsTheStripOfTheDesign) {
     EXPECT_LE(needed.height(), panels.height()) << panels.widget(i)->objectName().toStdString();
   }
   EXPECT_EQ(frmMain.picFunctions.Height(), Twips(Find("picFunctions").height()));
+}
+
+// A desktop with large print, from before the window is made.
+class LargePrint {
+ public:
+  LargePrint() : before_((Toolkit(), QApplication::font())) {
+    QFont font = before_;
+    font.setPointSize(13);
+    QApplication::setFont(font);
+  }
+  ~LargePrint() { QApplication::setFont(before_); }
+
+ private:
+  QFont before_;
+};
+
+class LargePrintTest : private LargePrint, public LayoutTest {};
+
+TEST_F(LargePrintTest, NoCaptionIsCut) {
+  frmMain.cboFont.SetVisible(true);
+  frmMain.cboSize.SetVisible(true);
+  for (PictureBox* panel :
+       {&frmMain.picProperties, &frmMain.picText, &frmMain.picBCode, &frmMain.picDrawing,
+        &frmMain.picPicture, &frmMain.picFields, &frmMain.picPrint, &frmMain.picSellAll}) {
+    Front(*panel);
+    QWidget& page = Find(ObjectName(*panel));
+    for (const QWidget* widget : page.findChildren<QWidget*>()) {
+      const bool caption = widget->property("tone") == "caption" ||
+                           qobject_cast<const QCheckBox*>(widget) ||
+                           qobject_cast<const QPushButton*>(widget);
+      if (!caption || !widget->isVisible()) continue;
+      EXPECT_GE(widget->width(), widget->sizeHint().width()) << widget->objectName().toStdString();
+      EXPECT_LE(widget->mapTo(&page, widget->rect().topRight()).x(), page.width())
+          << widget->objectName().toStdString();
+    }
+  }
 }
 
 // Routines read these numbers, which the form file decides on the screen.

@@ -1,0 +1,394 @@
+#include "editing/drag.h"
+
+#include <cmath>
+#include <string>
+
+#include "common/prog_settings.h"
+#include "common/public_functions.h"
+#include "document/objects.h"
+#include "document/redraw.h"
+#include "editing/geometry.h"
+#include "editing/magnetic_rule.h"
+#include "editing/selected_object.h"
+#include "editing/track_status.h"
+#include "editing/undo.h"
+#include "forms/frmMain.h"
+#include "platform/fault.h"
+#include "platform/locale.h"
+
+namespace tagwright {
+namespace {
+
+enum BorderStyle : int { kSolid = 1, kDots = 3 };
+enum FrameShape : int { kRectangleFrame = 0, kOvalFrame = 2, kRoundedFrame = 4 };
+
+constexpr int kCustomPointer = 99;
+constexpr int kMovePointer = 5;
+constexpr int kFallingPointer = 8;  // sizing, top left to bottom right
+constexpr int kRisingPointer = 6;
+constexpr std::int16_t kPostNet = 12;
+constexpr double kMoveThreshold = 0.5;  // millimetres on screen below which a drag is a click
+constexpr double kLineThickness = 0.5;  // likewise, of a line's box
+constexpr double kHandleGap = 1.0;
+
+bool group_drag = false;  // what the press has taken hold of
+
+// --- units --------------------------------------------------------------------------------------
+
+double UnitsX(double twips) { return frmMain.picBoard.ScaleX(twips, kTwips, kUserScale); }
+double UnitsY(double twips) { return frmMain.picBoard.ScaleY(twips, kTwips, kUserScale); }
+
+// Of a length on screen.
+double ScreenX(double millimetres) {
+  return frmMain.picBoard.ScaleX(millimetres, kMillimetres, kUserScale);
+}
+
+double ScreenY(double millimetres) {
+  return frmMain.picBoard.ScaleY(millimetres, kMillimetres, kUserScale);
+}
+
+std::string Shown(double units) { return FormatFixed(units / UnitScale, 2); }
+
+BoardFrame FrameOf(const Control& control) {
+  return {control.Left(), control.Top(), control.Width(), control.Height()};
+}
+
+// --- snapping -----------------------------------------------------------------------------------
+
+Rule VerticalRule() {
+  return {frmMain.lnMX.Visible(), MagRuleX + BoardOriginX, ProgSettings.MagneticZone};
+}
+
+Rule HorizontalRule() {
+  return {frmMain.lnMY.Visible(), MagRuleY + BoardOriginY, ProgSettings.MagneticZone};
+}
+
+double Take(const Snapped& snapped) {
+  if (snapped.hit) SnapHit = true;
+  return snapped.at;
+}
+
+// Moves the box and never stretches it; each axis by itself.
+void SnapFrame() {
+  Shape& frame = frmMain.shpBox;
+  SnapHit = false;
+  frame.SetLeft(Take(SnapBox(frame.Left(), frame.Width(), VerticalRule())));
+  SnapHit = false;
+  frame.SetTop(Take(SnapBox(frame.Top(), frame.Height(), HorizontalRule())));
+}
+
+// --- the frame ----------------------------------------------------------------------------------
+
+void ShowFrame(int shape) {
+  frmMain.shpBox.SetShape(shape);
+  frmMain.shpBox.SetVisible(true);
+  frmMain.shpBox.SetBorderStyle(kDots);
+}
+
+void TakePlaceOfFrame(ObjectRecord& object) {
+  CarryOn([&] { object.Left = ToSingle(frmMain.shpBox.Left() - BoardOriginX); });
+  CarryOn([&] { object.Top = ToSingle(frmMain.shpBox.Top() - BoardOriginY); });
+}
+
+BoardPoint AnchorOf(int corner) {
+  switch (corner) {
+    case kAnchorBottomRight:
+      return {AnchorRight, AnchorBottom};
+    case kAnchorBottomLeft:
+      return {AnchorX, AnchorBottom};
+    case kAnchorTopRight:
+      return {AnchorRight, AnchorY};
+    default:
+      return {AnchorX, AnchorY};
+  }
+}
+
+bool LineIsSelected() {
+  bool is_line = false;
+  CarryOn([&] { is_line = SelectedObject != -1 && ObjectAt(SelectedObject).ObjType == kLine; });
+  return is_line;
+}
+
+BoardFrame KeptThin(const BoardFrame& box) {
+  const ObjectRecord& line = ObjectAt(SelectedObject);
+  const bool stands = LineStands(line.Width, line.Height);
+  return ThinBox(box, stands, stands ? ScreenX(kLineThickness) : ScreenY(kLineThickness));
+}
+
+void ShowFrameSize() {
+  const std::string width = Shown(frmMain.shpBox.Width());
+  const std::string height = Shown(frmMain.shpBox.Height());
+  frmMain.txtDSize(2).SetText(width);
+  frmMain.txtDSize(3).SetText(height);
+  frmMain.sB1.SetPanelText(2, "Width: " + width + " Height: " + height);
+}
+
+// --- the end of a move --------------------------------------------------------------------------
+
+bool StaysPut(double now, double before) {
+  return std::abs(now - before) < kMoveThreshold / ZoomFactor;
+}
+
+bool HasMoved(const Label& hold) {
+  return !StaysPut(hold.Left(), HoldStartLeft) || !StaysPut(hold.Top(), HoldStartTop);
+}
+
+void MoveBy(ObjectRecord& object, double dx, double dy) {
+  CarryOn([&] { object.Left = ToSingle(object.Left + dx); });
+  CarryOn([&] { object.Top = ToSingle(object.Top + dy); });
+}
+
+// An object that is in the list twice moves twice.
+void DropGroup() {
+  const double dx = frmMain.shpBox.Left() - BoxStartLeft;
+  const double dy = frmMain.shpBox.Top() - BoxStartTop;
+  for (int i = 0; i <= SelectedUpper; ++i) {
+    CarryOn([&] { MoveBy(ObjectAt(SelectedMember(i)), dx, dy); });
+  }
+  PlaceHandlesAroundFrame(kHandleGap);
+  RedrawBoard();
+  RedrawSkip = -1;
+}
+
+void PutBack(Label& hold) {
+  const ObjectRecord& object = ObjectAt(SelectedObject);
+  Shape& frame = frmMain.shpBox;
+  frame.Move(object.Left + BoardOriginX, object.Top + BoardOriginY);
+  hold.SetAutoSize(false);
+  hold.Move(frame.Left(), frame.Top());
+}
+
+void TakeSizeOfRecord(Control& control, const ObjectRecord& object) {
+  CarryOn([&] { control.SetWidth(object.Width); });
+  CarryOn([&] { control.SetHeight(object.Height); });
+}
+
+// A text is not painted anew: its hit area shows it.
+void DropObject(Label& hold) {
+  SnapFrame();
+  ObjectRecord& object = ObjectAt(SelectedObject);
+  const bool is_text = object.ObjType == kText;
+  TakePlaceOfFrame(object);
+  TakeSizeOfRecord(frmMain.shpBox, object);
+  TakeSizeOfRecord(hold, object);
+  hold.Move(frmMain.shpBox.Left(), frmMain.shpBox.Top());
+  if (!is_text) RedrawBoard();
+  ShowHandles(hold);
+}
+
+// --- the end of a resize ------------------------------------------------------------------------
+
+bool SizedByFont(const ObjectRecord& object) {
+  return object.ObjType == kText || object.ObjType == kDataField;
+}
+
+void ScaleFont(ObjectRecord& object) {
+  double ratio = 0;
+  CarryOn([&] { ratio = WidthRatio(frmMain.shpBox.Width(), StartWidth); });
+  object.FontSize = ScaledFontSize(ratio, object.FontSize);
+}
+
+void MeasureText(Label& hold, const ObjectRecord& object) {
+  CarryOn([&] { hold.SetAutoSize(true); });
+  CarryOn([&] { hold.SetCaption(object.Text.Trimmed()); });
+  CarryOn([&] { hold.SetFontSize(object.FontSize * ZoomFactor); });
+  CarryOn([&] { hold.SetFontName(object.FontName.Trimmed()); });
+  hold.SetAutoSize(false);
+}
+
+// Only how much wider the box has become counts. The caption stays on the hit area, since nothing
+// is painted anew.
+void ResizeText(ObjectRecord& object) {
+  Label& hold = HoldAt(SelectedObject);
+  ScaleFont(object);
+  MeasureText(hold, object);
+  frmMain.shpBox.SetHeight(hold.Height());
+  frmMain.shpBox.SetWidth(hold.Width());
+  if (object.ObjType == kDataField && object.FillColor < kFirstBarcodeFormat) {
+    object.Height = frmMain.shpBox.Height();
+    object.Width = frmMain.shpBox.Width();
+  }
+  frmMain.cboSize.SetText(FormatNumber(object.FontSize));
+  ShowHandles(hold);
+}
+
+void DropHandle() {
+  SnapFrame();
+  ObjectRecord& object = ObjectAt(SelectedObject);
+  TakePlaceOfFrame(object);
+  object.Width = frmMain.shpBox.Width();
+  if (!SizedByFont(object)) object.Height = frmMain.shpBox.Height();
+  frmMain.shpBox.SetBorderStyle(kDots);
+  if (SizedByFont(object)) {
+    ResizeText(object);
+  } else {
+    RedrawBoard();
+  }
+}
+
+// --- handles ------------------------------------------------------------------------------------
+
+bool KeepsItsSize(const ObjectRecord& object) {
+  return object.ObjType == kBarcode && object.Param == kPostNet;
+}
+
+void BeginResize(double X, double Y) {
+  const Shape& frame = frmMain.shpBox;
+  const Label& hold = HoldAt(SelectedObject);
+  Dragging = true;
+  group_drag = false;
+  AnchorX = frame.Left();
+  AnchorY = frame.Top();
+  AnchorRight = frame.Left() + frame.Width();
+  AnchorBottom = frame.Top() + frame.Height();
+  HandleDownX = UnitsX(X);
+  HandleDownY = UnitsY(Y);
+  CarryOn([&] { StartWidth = ToInt32(hold.Width()); });
+  StartHeight = hold.Height();
+}
+
+void HideHandlesOnce() {
+  if (!frmMain.lblHandle(0).Visible()) return;
+  for (const auto& [i, handle] : frmMain.lblHandle) handle->SetVisible(false);
+}
+
+// A line's handle stays on the line's axis.
+void MoveHandle(Label& handle, double x, double y) {
+  const bool is_line = LineIsSelected();
+  const bool stands =
+      is_line && LineStands(ObjectAt(SelectedObject).Width, ObjectAt(SelectedObject).Height);
+  const double dx = is_line && stands ? 0 : x - HandleDownX;
+  const double dy = is_line && !stands ? 0 : y - HandleDownY;
+  handle.Move(handle.Left() + dx, handle.Top() + dy);
+}
+
+}  // namespace
+
+// --- snapping -----------------------------------------------------------------------------------
+
+double SnapX(double x) { return Take(SnapPoint(x, VerticalRule())); }
+double SnapY(double y) { return Take(SnapPoint(y, HorizontalRule())); }
+
+// --- rubber -------------------------------------------------------------------------------------
+
+void TrackRubberBox(double x, double y, int corner) {
+  BoardFrame box = BoxBetween({x, y}, AnchorOf(corner));
+  if (LineIsSelected()) box = KeptThin(box);
+  frmMain.shpBox.Move(box.left, box.top, box.width, box.height);
+  ShowFrameSize();
+}
+
+void TrackRubberLine(double x, double y) {
+  const BoardPoint end = LineEnd({AnchorX, AnchorY}, {x, y});
+  frmMain.shpLine.SetX2(end.x);
+  frmMain.shpLine.SetY2(end.y);
+}
+
+int FrameShapeOf(std::int16_t kind) {
+  if (kind == kRoundedRectangle) return kRoundedFrame;
+  return kind == kEllipse ? kOvalFrame : kRectangleFrame;
+}
+
+// --- hit areas ----------------------------------------------------------------------------------
+
+void BeginObjectDrag(int Index, double X, double Y) {
+  const Label& hold = HoldAt(Index);
+  AnchorX = UnitsX(X);
+  AnchorY = UnitsY(Y);
+  HoldStartLeft = hold.Left();
+  HoldStartTop = hold.Top();
+  ShowFrame(FrameShapeOf(ObjectAt(Index).ObjType));
+  Dragging = true;
+  group_drag = false;
+  ShowHandles(hold);
+}
+
+void BeginGroupDrag(int Index, double X, double Y) {
+  const Label& hold = HoldAt(Index);
+  HoldStartLeft = hold.Left();
+  HoldStartTop = hold.Top();
+  BoxStartLeft = frmMain.shpBox.Left();
+  BoxStartTop = frmMain.shpBox.Top();
+  Dragging = true;
+  group_drag = true;
+  AnchorX = X / kTwipsPerMillimetre / ZoomFactor;
+  AnchorY = Y / kTwipsPerMillimetre / ZoomFactor;
+  ShowFrame(kRectangleFrame);
+  frmMain.SetMousePointer(kMovePointer);
+}
+
+// X and Y count from a hit area that follows the pointer, so what they exceed the grip by is what
+// the pointer has moved since. The stored picture of the board stays as it is.
+void DragHold(int Index, double X, double Y) {
+  Label& hold = HoldAt(Index);
+  const double dx = UnitsX(X) - AnchorX;
+  const double dy = UnitsY(Y) - AnchorY;
+  frmMain.picBoard.Canvas().AutoRedraw = false;
+  hold.Move(hold.Left() + dx, hold.Top() + dy);
+  if (group_drag) {
+    frmMain.shpBox.Move(frmMain.shpBox.Left() + dx, frmMain.shpBox.Top() + dy);
+  } else if (SelectedObject > -1) {
+    ShowHandles(hold);
+  }
+}
+
+// What a key has deleted or a command has regrouped during the drag is left alone.
+void EndDrag(int Index) {
+  Label& hold = HoldAt(Index);
+  DirtyFlag = kTrue;
+  ForgetUndo();
+  Dragging = false;
+  CarryOn([] { frmMain.SetMousePointer(CursorShape); });
+  DragMoved = HasMoved(hold);
+  if (group_drag) {
+    CarryOn(DropGroup);
+  } else if (SelectedObject > -1) {
+    CarryOn([&] { DragMoved ? DropObject(hold) : PutBack(hold); });
+  }
+}
+
+// --- handles ------------------------------------------------------------------------------------
+
+void lblHandle_MouseDown(int /*Index*/, int Button, int /*Shift*/, double X, double Y) {
+  if (Button != kLeftButton || SelectedUpper > -1 || SelectedObject < 0) return;
+  if (KeepsItsSize(ObjectAt(SelectedObject))) return;
+  BeginResize(X, Y);
+}
+
+void lblHandle_MouseMove(int Index, int /*Button*/, int /*Shift*/, double X, double Y) {
+  Label& handle = frmMain.lblHandle(Index);
+  TrackStatus(handle, X, Y);
+  if (frmMain.MousePointer() != kCustomPointer) {
+    frmMain.SetMousePointer(Index == 0 || Index == 3 ? kFallingPointer : kRisingPointer);
+  }
+  if (!Dragging) return;
+  HideHandlesOnce();
+  frmMain.shpBox.SetBorderStyle(kSolid);
+  MoveHandle(handle, UnitsX(X), UnitsY(Y));
+  const BoardPoint corner =
+      CornerOfHandle(Index, FrameOf(handle), ScreenX(kHandleGap), ScreenY(kHandleGap));
+  TrackRubberBox(corner.x, corner.y, AnchorOfHandle(Index));
+}
+
+void lblHandle_MouseUp(int /*Index*/, int /*Button*/, int /*Shift*/, double /*X*/, double /*Y*/) {
+  if (!Dragging) return;
+  Dragging = false;
+  DirtyFlag = kTrue;
+  if (SelectedObject > -1) CarryOn(DropHandle);
+  RedrawSkip = -1;
+}
+
+void ResetDrag() {
+  Dragging = false;
+  DragMoved = false;
+  group_drag = false;
+  AnchorX = AnchorY = AnchorRight = AnchorBottom = 0;
+  HoldStartLeft = HoldStartTop = BoxStartLeft = BoxStartTop = 0;
+  HandleDownX = HandleDownY = 0;
+  StartWidth = 0;
+  StartHeight = 0;
+  SnapHit = false;
+  RubberBox = RubberLine = 0;
+}
+
+}  // namespace tagwright

@@ -1,0 +1,62 @@
+#include "editing/geometry.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "platform/fault.h"
+
+namespace tagwright {
+
+Snapped SnapPoint(double value, const Rule& rule) {
+  const bool caught = rule.in_force && rule.at - rule.zone < value && value < rule.at + rule.zone;
+  return {caught ? rule.at : value, caught};
+}
+
+Snapped SnapBox(double start, double extent, const Rule& rule) {
+  for (const double inside : {0.0, extent, extent / 2}) {
+    const Snapped edge = SnapPoint(start + inside, rule);
+    if (edge.hit) return {edge.at - inside, true};
+  }
+  return {start, false};
+}
+
+BoardFrame BoxBetween(const BoardPoint& a, const BoardPoint& b) {
+  return {std::min(a.x, b.x), std::min(a.y, b.y), std::abs(a.x - b.x), std::abs(a.y - b.y)};
+}
+
+bool LineStands(double width, double height) { return width <= height; }
+
+BoardFrame ThinBox(const BoardFrame& box, bool stands, double thickness) {
+  if (stands) return {box.left, box.top, thickness, box.height};
+  return {box.left, box.top, box.width, thickness};
+}
+
+BoardPoint LineEnd(const BoardPoint& anchor, const BoardPoint& pointer) {
+  const bool level = std::abs(pointer.y - anchor.y) <= std::abs(pointer.x - anchor.x);
+  return level ? BoardPoint{pointer.x, anchor.y} : BoardPoint{anchor.x, pointer.y};
+}
+
+BoardPoint CornerOfHandle(int index, const BoardFrame& handle, double gap_x, double gap_y) {
+  const bool at_left = index == 0 || index == 2;
+  const bool at_top = index == 0 || index == 1;
+  return {at_left ? handle.left + handle.width + gap_x : handle.left - gap_x,
+          at_top ? handle.top + handle.height + gap_y : handle.top - gap_y};
+}
+
+AnchorCorner AnchorOfHandle(int index) {
+  constexpr AnchorCorner kOpposite[] = {kAnchorBottomRight, kAnchorBottomLeft, kAnchorTopRight,
+                                        kAnchorTopLeft};
+  return kOpposite[index];
+}
+
+double WidthRatio(double width, double start_width) {
+  if (start_width == 0) RaiseFault(kDivisionByZero);
+  return (width - start_width) / start_width + 1;
+}
+
+double ScaledFontSize(double ratio, double points) {
+  const double size = std::trunc(ratio * points);
+  return size == 0 ? 1 : size;
+}
+
+}  // namespace tagwright

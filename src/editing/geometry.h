@@ -1,0 +1,79 @@
+// The arithmetic of selecting and dragging, without windows and state: snapping, the rubber box and
+// line, the size of a text that is dragged larger. Lengths are in one unit throughout, on the board
+// that is board units.
+#pragma once
+
+namespace tagwright {
+
+struct BoardPoint {
+  double x, y;
+};
+
+struct BoardFrame {
+  double left, top, width, height;
+};
+
+// --- magnetic rules -----------------------------------------------------------------------------
+
+// One rule: whether it is in force, where it stands, and how far its pull reaches to either side.
+struct Rule {
+  bool in_force;
+  double at;
+  double zone;
+};
+
+// A coordinate and whether the rule has caught it.
+struct Snapped {
+  double at;
+  bool hit;
+};
+
+// The rule's place for a coordinate that is nearer to it than the zone, which itself is out; any
+// other coordinate unchanged.
+Snapped SnapPoint(double value, const Rule& rule);
+
+// Where a box of `extent` from `start` comes to lie: its near edge is tried first, then the far
+// one, then the middle. One that snaps ends the search, however close the others may be.
+Snapped SnapBox(double start, double extent, const Rule& rule);
+
+// --- rubber -------------------------------------------------------------------------------------
+
+// The corner of a box that stays while the opposite one is dragged.
+enum AnchorCorner : int {
+  kAnchorTopLeft = 0,
+  kAnchorBottomRight = 1,
+  kAnchorBottomLeft = 2,
+  kAnchorTopRight = 3,
+};
+
+// The box between two opposite corners, whichever lies where.
+BoardFrame BoxBetween(const BoardPoint& a, const BoardPoint& b);
+
+// Whether the line in a box of this size stands; otherwise it lies. Equal sides stand.
+bool LineStands(double width, double height);
+
+// The box of a line that is dragged: as long as `box`, and `thickness` across it.
+BoardFrame ThinBox(const BoardFrame& box, bool stands, double thickness);
+
+// Where a line from `anchor` towards `pointer` ends: level unless the pointer is farther away down
+// or up than across.
+BoardPoint LineEnd(const BoardPoint& anchor, const BoardPoint& pointer);
+
+// --- handles ------------------------------------------------------------------------------------
+
+// The corner of the box that handle `index` (0 top left, 1 top right, 2 bottom left, 3 bottom
+// right) of this frame stands for: a gap away from it.
+BoardPoint CornerOfHandle(int index, const BoardFrame& handle, double gap_x, double gap_y);
+
+// The corner that stays while handle `index` is dragged: the opposite one.
+AnchorCorner AnchorOfHandle(int index);
+
+// --- text ---------------------------------------------------------------------------------------
+
+// How much wider a box has become. Faults 11 for a start of 0.
+double WidthRatio(double width, double start_width);
+
+// The whole part of `ratio` times `points`, at least 1 where that gives 0.
+double ScaledFontSize(double ratio, double points);
+
+}  // namespace tagwright

@@ -1,0 +1,36 @@
+#include "editing/keys.h"
+
+#include "document/objects.h"
+#include "editing/clipboard.h"
+#include "editing/selection.h"
+#include "forms/frmMain.h"
+#include "platform/controls.h"
+
+namespace tagwright {
+namespace {
+
+constexpr int kDeleteKey = 46;
+
+// All but the one at the bottom right.
+void ShowThreeHandles(bool shown) {
+  for (int i = 0; i < 3; ++i) frmMain.lblHandle(i).SetVisible(shown);
+}
+
+}  // namespace
+
+void Form_KeyDown(int& KeyCode, int Shift) {
+  if (Shift & kCtrl) ControlHeld = true;
+  ModifierHeld = Shift != 0;
+  if (ControlHeld && frmMain.lblHandle(0).Visible()) ShowThreeHandles(false);
+  if (TextEntryActive || KeyCode != kDeleteKey) return;
+  if (SelectedObject != -1) DeleteSelection();
+  if (SelectedUpper != -1) DeleteSelection();
+}
+
+void Form_KeyUp(int /*KeyCode*/, int /*Shift*/) {
+  ControlHeld = false;
+  ModifierHeld = false;
+  if (frmMain.lblHandle(3).Visible()) ShowThreeHandles(true);
+}
+
+}  // namespace tagwright

@@ -1,0 +1,22 @@
+// The stack of panels above the board: the one in front is the active one. cboFont and cboSize
+// belong to no panel and move to the one that needs them.
+#pragma once
+
+#include "platform/controls.h"
+
+namespace tagwright {
+
+// Left 50, top 0, to the front.
+void ShowPanel(PictureBox& panel);
+
+// cboFont to this place (twips), visible and in front; cboSize follows it.
+void ShowFontBoxes(double left, double top);
+
+// Hides both.
+void HideFontBoxes();
+
+// cboSize under cboFont: same left, 360 twips below its top, same visibility, and if visible in
+// front.
+void SizeBoxFollowsFontBox();
+
+}  // namespace tagwright

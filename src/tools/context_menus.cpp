@@ -1,0 +1,107 @@
+#include "tools/context_menus.h"
+
+#include <optional>
+#include <string>
+
+#include "common/public_functions.h"
+#include "document/redraw.h"
+#include "editing/selected_object.h"
+#include "forms/frmMain.h"
+#include "platform/dialogs.h"
+#include "platform/fault.h"
+#include "platform/locale.h"
+
+namespace tagwright {
+namespace {
+
+constexpr int kWidthField = 2;
+constexpr int kHeightField = 3;
+
+std::int16_t KindOfEntry(int index) {
+  switch (index) {
+    case 0:
+      return kEllipse;
+    case 1:
+      return kRectangle;
+    case 2:
+      return kRoundedRectangle;
+    default:
+      RaiseFault(kOutOfBounds);
+  }
+}
+
+void CopyHeightToWidth() {
+  SelectedRecord().Width = SelectedRecord().Height;
+  SelectedHold().SetWidth(SelectedRecord().Width);
+}
+
+void CopyWidthToHeight() {
+  SelectedRecord().Height = SelectedRecord().Width;
+  SelectedHold().SetHeight(SelectedRecord().Height);
+}
+
+void ShowSize() {
+  const ObjectRecord& record = SelectedRecord();
+  frmMain.txtDSize(kWidthField).SetText(FormatFixed(record.Width / UnitScale, 2));
+  frmMain.txtDSize(kHeightField).SetText(FormatFixed(record.Height / UnitScale, 2));
+}
+
+double PictureX() { return ToNumber(frmMain.lblGraphicX.Caption()); }
+double PictureY() { return ToNumber(frmMain.lblGraphicY.Caption()); }
+
+double Quotient(double value, double divisor) {
+  if (divisor == 0) RaiseFault(kDivisionByZero);
+  return value / divisor;
+}
+
+// A length in millimetres; nothing for an answer that is no number.
+std::optional<double> AskForLength(const std::string& side) {
+  const std::string unit = RulerScale == 1.0 ? "mm" : "in";
+  const std::string answer =
+      InputBox("Please enter the " + side + " (" + unit + ") of the barcode");
+  if (!IsNumeric(answer)) return {};
+  return ToNumber(answer) * UnitScale;
+}
+
+}  // namespace
+
+void mnuDrawChange_Click(int Index) {
+  CarryOn([&] { SelectedRecord().ObjType = KindOfEntry(Index); });
+  RedrawBoard();
+}
+
+void mnuShpAspect_Click(int Index) {
+  CarryOn(Index == 0 ? CopyHeightToWidth : CopyWidthToHeight);
+  CarryOn(ShowSize);
+  RedrawBoard();
+}
+
+void mnuGraphicHeight_Click() {
+  CarryOn(
+      [] { SelectedRecord().Height = Quotient(SelectedRecord().Width, PictureX()) * PictureY(); });
+  RedrawBoard();
+}
+
+void mnuGraphicWidth_Click() {
+  CarryOn(
+      [] { SelectedRecord().Width = Quotient(SelectedRecord().Height, PictureY()) * PictureX(); });
+  RedrawBoard();
+}
+
+void mnuBCSetWid_Click() {
+  const std::optional<double> width = AskForLength("width");
+  if (width) CarryOn([&] { SelectedRecord().Width = *width; });
+}
+
+void mnuBCSetHgt_Click() {
+  const std::optional<double> height = AskForLength("height");
+  if (height) CarryOn([&] { SelectedRecord().Height = *height; });
+}
+
+void mnuBCSetChars_Click() {
+  Menu& entry = frmMain.mnuBCSetChars;
+  entry.SetChecked(!entry.Checked());
+  CarryOn([&] { SelectedRecord().Italic = entry.Checked() ? kTrue : kFalse; });
+}
+
+}  // namespace tagwright

@@ -1,0 +1,192 @@
+#include "tools/hold_mouse.h"
+
+#include <string>
+
+#include "document/objects.h"
+#include "document/redraw.h"
+#include "editing/drag.h"
+#include "editing/geometry.h"
+#include "editing/object_panels.h"
+#include "editing/panel_stack.h"
+#include "editing/property_pick.h"
+#include "editing/selection.h"
+#include "editing/track_status.h"
+#include "forms/frmMain.h"
+#include "platform/fault.h"
+#include "platform/locale.h"
+#include "platform/windows.h"
+#include "tools/placement.h"
+
+namespace tagwright {
+namespace {
+
+constexpr double kGroupFontLeft = 7000;      // twips, of the font boxes over the group's panel
+constexpr double kDefaultBarcodeWidth = 20;  // millimetres, of a field whose size is 0
+constexpr double kDefaultBarcodeHeight = 12;
+
+bool IsText(int index) {
+  bool is_text = false;
+  CarryOn([&] { is_text = ObjectAt(index).ObjType == kText; });
+  return is_text;
+}
+
+// The object has gone and left its hit area behind.
+void HideStaleHold(int index) {
+  HoldAt(index).SetVisible(false);
+  HideHandles();
+}
+
+// --- the group ----------------------------------------------------------------------------------
+
+void ShowOverGroupPanel(ComboBox& box) {
+  box.SetLeft(kGroupFontLeft);
+  box.SetVisible(true);
+  box.ZOrder();
+}
+
+void ShowGroup() {
+  ShowPanel(frmMain.picSellAll);
+  ShowOverGroupPanel(frmMain.cboFont);
+  ShowOverGroupPanel(frmMain.cboSize);
+  EnableSelectionCommands(true);
+  CarryOn(ShowGroupBox);
+}
+
+void EditGroup(int index) {
+  if (SelectedObject >= 0) HoldAt(SelectedObject).SetAutoSize(false);
+  ToggleInSelection(index);
+  SelectedObject = -1;
+  SelectedUpper < 0 ? HideHandles() : ShowGroup();
+}
+
+// --- the menus of objects -----------------------------------------------------------------------
+
+void CheckFormat(std::int32_t format) {
+  for (const auto& [i, entry] : frmMain.mnuField) entry->SetChecked(false);
+  for (const auto& [i, entry] : frmMain.mnuFBC) entry->SetChecked(false);
+  const bool barcode = format >= kFirstBarcodeFormat;
+  CarryOn([&] {
+    Menu& entry = barcode ? frmMain.mnuFBC(format - kFirstBarcodeFormat) : frmMain.mnuField(format);
+    entry.SetChecked(true);
+  });
+  frmMain.mnuBCSettings.SetEnabled(barcode);
+}
+
+std::string ShownSize(double millimetres, double default_size) {
+  return FormatFixed((millimetres == 0 ? default_size : millimetres) / UnitScale, 2);
+}
+
+void SetFieldMenu(const ObjectRecord& field) {
+  CheckFormat(field.FillColor);
+  frmMain.mnuBCSetWid.SetCaption("Barcode width " + ShownSize(field.Width, kDefaultBarcodeWidth));
+  frmMain.mnuBCSetHgt.SetCaption("Barcode height " +
+                                 ShownSize(field.Height, kDefaultBarcodeHeight));
+  frmMain.mnuBCSetChars.SetChecked(field.Italic != kFalse);
+}
+
+void OpenMenuOf(int index) {
+  switch (ObjectAt(index).ObjType) {
+    case kPicture:
+      return PopupMenu(frmMain, frmMain.mnuGraphic);
+    case kRectangle:
+    case kRoundedRectangle:
+    case kEllipse:
+      PopupMenu(frmMain, frmMain.mnuDrawing);
+      return frmMain.cboFont.SetVisible(false);
+    case kDataField:
+      SetFieldMenu(ObjectAt(index));
+      return PopupMenu(frmMain, frmMain.mnuFields);
+    default:
+      return;
+  }
+}
+
+// --- one object ---------------------------------------------------------------------------------
+
+bool HasFont(const ObjectRecord& object) {
+  return object.ObjType == kBarcode || object.ObjType == kText || object.ObjType == kDataField;
+}
+
+// As text, so that a size without a row of its own is not lost to the nearest one.
+void ShowFont(const ObjectRecord& object) {
+  if (!HasFont(object)) return;
+  SuspendRedraw = kTrue;
+  frmMain.cboFont.SetText(object.FontName.Trimmed());
+  frmMain.cboSize.SetText(FormatNumber(object.FontSize));
+  SuspendRedraw = kFalse;
+}
+
+void ShowHoldSize(const Label& hold) {
+  frmMain.sB1.SetPanelText(2, "Width: " + FormatFixed(hold.Width() / UnitScale, 1) +
+                                  " Height: " + FormatFixed(hold.Height() / UnitScale, 1));
+}
+
+void ShowObject(int index) {
+  CarryOn([&] { ShowFont(ObjectAt(index)); });
+  ShowHoldSize(HoldAt(index));
+}
+
+void TakeHold(int index, double x, double y) {
+  RedrawSkip = -1;
+  CarryOn([&] { FitHoldToText(index); });
+  BeginObjectDrag(index, x, y);
+}
+
+double BoardX(int index, double x) {
+  return HoldAt(index).Left() + frmMain.picBoard.ScaleX(x, kTwips, kUserScale);
+}
+
+double BoardY(int index, double y) {
+  return HoldAt(index).Top() + frmMain.picBoard.ScaleY(y, kTwips, kUserScale);
+}
+
+void BeginToolOver(int index, double x, double y) { BeginTool(BoardX(index, x), BoardY(index, y)); }
+
+// The former selection may have been an empty text, with which this object has gone, or which has
+// left everything selected.
+void SelectOne(int index, int button, double x, double y) {
+  DeselectObject();
+  if (index > ObjectUB) return HideStaleHold(index);
+  EnableSelectionCommands(false);
+  SelectedUpper = -1;
+  SelectedObject = static_cast<std::int16_t>(index);
+  if (button == kRightButton) CarryOn([&] { OpenMenuOf(index); });
+  const bool left = button == kLeftButton;
+  if (CurrentTool > kNoTool) {
+    if (left) BeginToolOver(index, x, y);
+  } else {
+    if (left) CarryOn([&] { TakeHold(index, x, y); });
+    FillPanelFromObject();
+  }
+  ShowObject(index);
+}
+
+}  // namespace
+
+void lblHold_MouseDown(int Index, int Button, int /*Shift*/, double X, double Y) {
+  if (CopyPropsPending && IsText(Index)) return PickProperties(Index);
+  EndPropertyPick();
+  if (Index > ObjectUB) return HideStaleHold(Index);
+  TextEntryActive = false;
+  frmMain.sB1.SetPanelText(3, "");
+  if (ModifierHeld) return EditGroup(Index);
+  if (!InGroup(Index)) SelectedUpper = -1;
+  if (SelectedUpper < 0) return SelectOne(Index, Button, X, Y);
+  if (Button == kLeftButton) BeginGroupDrag(Index, X, Y);
+}
+
+void lblHold_MouseMove(int Index, int /*Button*/, int /*Shift*/, double X, double Y) {
+  RestorePointer();
+  TrackStatus(HoldAt(Index), X, Y);
+  if (Dragging) DragHold(Index, X, Y);
+  if (RubberBox) TrackRubberBox(BoardX(Index, X), BoardY(Index, Y), kAnchorTopLeft);
+  if (RubberLine) TrackRubberLine(BoardX(Index, X), BoardY(Index, Y));
+}
+
+void lblHold_MouseUp(int Index, int /*Button*/, int /*Shift*/, double /*X*/, double /*Y*/) {
+  if (Dragging) EndDrag(Index);
+  DragMoved = false;
+  if (RubberBox || RubberLine) PlaceObject();
+}
+
+}  // namespace tagwright

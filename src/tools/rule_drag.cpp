@@ -1,0 +1,88 @@
+#include "tools/rule_drag.h"
+
+#include <string>
+
+#include "common/prog_settings.h"
+#include "document/objects.h"
+#include "editing/magnetic_rule.h"
+#include "forms/frmMain.h"
+#include "platform/locale.h"
+
+namespace tagwright {
+namespace {
+
+constexpr double kStrip = 125;     // twips from the edge: a press takes a new rule
+constexpr double kWayBack = 200;   // twips from the edge: a release removes it
+constexpr double kNear = 0.5;      // board units to either side of a rule that stands
+constexpr double kRemoved = -1.0;  // a rule's place
+
+double AcrossUnits(double twips) { return frmMain.picBoard.ScaleX(twips, kTwips, kUserScale); }
+double DownUnits(double twips) { return frmMain.picBoard.ScaleY(twips, kTwips, kUserScale); }
+
+bool StandsAt(const LineControl& line, double rule, double place) {
+  return CurrentTool == 0 && line.Visible() && rule - kNear < place && place < rule + kNear;
+}
+
+// The figure in inches is the program's own, not the length of the zone.
+std::string ZoneText() {
+  const double zone = ProgSettings.MagneticZone;
+  const bool metric = UnitScale == 1.0;
+  return metric ? FormatFixed(zone, 1) + " mm" : FormatFixed(zone * 25.4, 3) + "in";
+}
+
+void ShowInFront(LineControl& line) {
+  line.ZOrder();
+  line.SetVisible(true);
+}
+
+void DragRuleX(double X) {
+  LineControl& rule = frmMain.lnMX;
+  rule.SetX1(X);
+  rule.SetX2(X);
+  rule.SetY1(0);
+  rule.SetY2(frmMain.picBoard.ScaleHeight());
+  ShowInFront(rule);
+}
+
+void DragRuleY(double Y) {
+  LineControl& rule = frmMain.lnMY;
+  rule.SetX1(0);
+  rule.SetX2(frmMain.picBoard.ScaleWidth());
+  rule.SetY1(Y);
+  rule.SetY2(Y);
+  ShowInFront(rule);
+}
+
+void PutRule(LineControl& line, double& place, double at, bool removed) {
+  place = removed ? kRemoved : at;
+  line.SetVisible(!removed);
+  if (removed) frmMain.sB1.SetPanelText(3, "");
+}
+
+}  // namespace
+
+bool GrabRules(double X, double Y) {
+  DraggingRuleX = X < AcrossUnits(kStrip) || StandsAt(frmMain.lnMX, MagRuleX + BoardOriginX, X);
+  DraggingRuleY = Y < DownUnits(kStrip) || StandsAt(frmMain.lnMY, MagRuleY + BoardOriginY, Y);
+  if (!DraggingRuleX && !DraggingRuleY) return false;
+  frmMain.sB1.SetPanelText(3, "Magnetic Rule - Zone: " + ZoneText());
+  return true;
+}
+
+void DragRules(double X, double Y) {
+  if (DraggingRuleX) DragRuleX(X);
+  if (DraggingRuleY) DragRuleY(Y);
+}
+
+void ReleaseRules(double X, double Y) {
+  if (DraggingRuleX) PutRule(frmMain.lnMX, MagRuleX, X - BoardOriginX, X < AcrossUnits(kWayBack));
+  if (DraggingRuleY) PutRule(frmMain.lnMY, MagRuleY, Y - BoardOriginY, Y < DownUnits(kWayBack));
+  ResetRuleDrag();
+}
+
+void ResetRuleDrag() {
+  DraggingRuleX = false;
+  DraggingRuleY = false;
+}
+
+}  // namespace tagwright
