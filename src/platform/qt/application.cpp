@@ -13,6 +13,7 @@
 #include "platform/locale.h"
 #include "platform/qt/dialogs_qt.h"
 #include "platform/qt/locale_qt.h"
+#include "platform/qt/progress_qt.h"
 #include "platform/qt/surface_qt.h"
 #include "platform/qt/theme.h"
 #include "platform/qt/windows_qt.h"
@@ -76,6 +77,7 @@ struct Application::Toolkit {
   std::unique_ptr<QApplication> application;
   std::unique_ptr<WindowService> windows = MakeWindowService();
   std::unique_ptr<DialogService> dialogs = MakeDialogService();
+  std::unique_ptr<ProgressService> progress = MakeProgressService();
 };
 
 Application::Application(int& argc, char** argv) : toolkit_(std::make_unique<Toolkit>()) {
@@ -85,6 +87,7 @@ Application::Application(int& argc, char** argv) : toolkit_(std::make_unique<Too
   InstallPaintServices();
   InstallDesktop();
   SetDialogs(toolkit_->dialogs.get());
+  SetProgressService(toolkit_->progress.get());
   SetWindowService(toolkit_->windows.get());
 }
 
@@ -92,6 +95,7 @@ Application::~Application() {
   UnloadAll();
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   SetWindowService(nullptr);
+  SetProgressService(nullptr);
   SetDialogs(nullptr);
   ScreenMousePointerView() = nullptr;
 }
