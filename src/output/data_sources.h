@@ -9,11 +9,13 @@
 // value, and the next step runs. Where it says so below it ends there instead.
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "platform/database.h"
+#include "platform/line_reader.h"
 
 namespace tagwright {
 
@@ -29,6 +31,7 @@ struct TableDef {
 inline std::string FieldSeparator;                  // "," or a tab
 inline TableDef SourceTable;                        // the chosen table
 inline std::unique_ptr<Recordset> SourceRecordset;  // the open rows, null none
+inline std::unique_ptr<LineReader> SourceFile;      // the open text source of a print, null none
 
 // --- choosing a source --------------------------------------------------------------------------
 
@@ -47,8 +50,14 @@ void OpenTextSource(bool Comma);
 // cboRSet. An empty answer ends the routine. Faults 3031 for a wrong one, after saying so.
 void OpenDatabaseSource();
 
+// FieldValues(slot). Faults 9 past the last slot.
+std::string& FieldValueAt(std::size_t slot);
+
 // lstFields shows FieldValues(0) to FieldValues(FieldUB).
 void FillFieldList();
+
+// lblRCount shows RecordCount.
+void ShowRecordCount();
 
 void cboImportType_Click();  // opens the file dialog, unless a project is being loaded
 void cboRSet_Click();        // takes the columns and counts the rows of the chosen table
@@ -69,15 +78,6 @@ void NextMergeRecord(bool& More);
 
 // Closes a text source. A database stays open.
 void CloseMergeSource();
-
-// --- data fields on the label -------------------------------------------------------------------
-
-// The selected data field shows its value as it stands (0), as currency (1) or as a number (2), and
-// its record takes the size of its hit area. Without a selected data field nothing happens.
-void mnuField_Click(int Index);
-
-// The selected data field shows its value as a barcode of format `Index`. As above.
-void mnuFBC_Click(int Index);
 
 // The state above back to program start, with no source open.
 void ResetDataSources();
