@@ -5,6 +5,8 @@
 #include "document/objects.h"
 #include "editing/magnetic_rule.h"
 #include "layouts/label_layouts.h"
+#include "layouts/serial_number.h"
+#include "output/data_sources.h"
 #include "platform/desktop.h"
 #include "platform/event.h"
 #include "platform/printer.h"
@@ -28,6 +30,7 @@ void ResetInstallation() {
 
 void ResetTools() {
   FontComboTyped = kFalse;
+  serial_number::ComboTyped = kFalse;
   ResetBarcodePanel();
   ResetBarcodeState();
   ResetMagneticRules();
@@ -42,6 +45,7 @@ void ResetProgram() {
   ForgetAfterHandlers(nullptr);
   SetScreenMousePointer(0);
   ResetPrinter();
+  ResetDataSources();
   ResetInstallation();
   ResetDocumentState();
   ResetTools();
