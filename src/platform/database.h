@@ -55,6 +55,10 @@ class Database {
 // database, and for everything while there is no engine.
 std::unique_ptr<Database> OpenDatabase(const std::string& path, const std::string& connect = {});
 
+// The table that a recordset's source names (see OpenRecordset). Faults kDatabaseFault for any
+// other source. Letters are those of all alphabets, not only of ours.
+std::string TableOfSource(const std::string& source);
+
 // The engine in force; an empty function takes it away.
 using DatabaseEngine =
     std::function<std::unique_ptr<Database>(const std::string& path, const std::string& connect)>;

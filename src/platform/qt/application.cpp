@@ -7,10 +7,12 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "platform/database.h"
 #include "platform/desktop.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
 #include "platform/locale.h"
+#include "platform/qt/database_qt.h"
 #include "platform/qt/dialogs_qt.h"
 #include "platform/qt/locale_qt.h"
 #include "platform/qt/progress_qt.h"
@@ -86,6 +88,7 @@ Application::Application(int& argc, char** argv) : toolkit_(std::make_unique<Too
   FollowDesktopTheme(*toolkit_->application);
   InstallPaintServices();
   InstallDesktop();
+  SetDatabaseEngine(MakeDatabaseEngine(ReaderBesideProgram()));
   SetDialogs(toolkit_->dialogs.get());
   SetProgressService(toolkit_->progress.get());
   SetWindowService(toolkit_->windows.get());
@@ -94,6 +97,7 @@ Application::Application(int& argc, char** argv) : toolkit_(std::make_unique<Too
 Application::~Application() {
   UnloadAll();
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  SetDatabaseEngine(nullptr);
   SetWindowService(nullptr);
   SetProgressService(nullptr);
   SetDialogs(nullptr);
