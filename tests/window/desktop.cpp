@@ -227,6 +227,7 @@ Spoken Described(AtspiAccessible* node, double scale) {
   spoken.name = Taken(atspi_accessible_get_name(node, nullptr));
   spoken.role = Taken(atspi_accessible_get_role_name(node, nullptr));
   spoken.text = TextOf(node);
+  spoken.description = Taken(atspi_accessible_get_description(node, nullptr));
   spoken.box = BoxOf(node, scale);
   spoken.enabled = Has(node, ATSPI_STATE_ENABLED);
   spoken.checked = Has(node, ATSPI_STATE_CHECKED);
