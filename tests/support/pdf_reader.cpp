@@ -99,6 +99,7 @@ class Reader {
     if (name == "fill_image") return Picture(line);
     if (name == "span") return Span(line);
     if (name == "g") return Glyph(line);
+    if (name == "moveto") NextPart();
     if (name == "moveto" || name == "lineto") Point(Number(line, "x"), Number(line, "y"));
     if (name == "curveto") Curve(line);
   }
@@ -121,6 +122,17 @@ class Reader {
     mark.x1 = mark.y1 = std::numeric_limits<double>::infinity();
     mark.x2 = mark.y2 = -mark.x1;
     pages.marks.push_back(mark);
+  }
+
+  // Boxes that are filled together are one path of many parts, and each is a mark of its own.
+  void NextPart() {
+    if (pages.marks.empty()) return;
+    PdfMark part = pages.marks.back();
+    if (part.what != PdfMark::What::kFill || part.x1 > part.x2) return;
+    part.has_curves = false;
+    part.x1 = part.y1 = std::numeric_limits<double>::infinity();
+    part.x2 = part.y2 = -part.x1;
+    pages.marks.push_back(part);
   }
 
   void Point(double x, double y) {

@@ -8,6 +8,7 @@
 #include <QRawFont>
 #include <QTextLayout>
 #include <algorithm>
+#include <cmath>
 #include <string>
 #include <unordered_map>
 
@@ -35,10 +36,11 @@ struct Face {
   double descent = 0;
 };
 
-// A shaped text and its glyphs at the size that a raster last wanted.
+// A shaped text and its glyphs at the size that a raster or a page last wanted.
 struct CachedShape {
   ShapedText reference;
   double sized_pixels = 0;
+  double step = 0;  // the glyphs stand on multiples of it; 0 anywhere
   QList<QGlyphRun> sized;
 };
 
@@ -155,7 +157,7 @@ CachedShape& ShapeOf(std::string_view text, const FontSpec& font) {
   std::string key = FaceKey(font).append(text);
   if (const auto known = shapes.find(key); known != shapes.end()) return known->second;
   Limit(shapes, kShapesKept);
-  CachedShape shape{Shape(PlainLine(text), FaceOf(font).font), 0, {}};
+  CachedShape shape{Shape(PlainLine(text), FaceOf(font).font), 0, 0, {}};
   return shapes.emplace(std::move(key), std::move(shape)).first->second;
 }
 
@@ -184,9 +186,23 @@ const QRawFont& SizedFont(const QRawFont& reference, double pixels) {
   return fonts.emplace(key, font).first->second;
 }
 
-QGlyphRun SizedRun(const QGlyphRun& reference, double pixels) {
+// Steps are taken between neighbours, so that equal letters have equal distances wherever they
+// stand. What that adds up to is far below what can be seen.
+void MoveOntoSteps(QList<QPointF>& positions, double step) {
+  QPointF before, moved_before;
+  for (QPointF& position : positions) {
+    const QPointF distance = position - before;
+    before = position;
+    position = moved_before + QPointF(std::round(distance.x() / step) * step,
+                                      std::round(distance.y() / step) * step);
+    moved_before = position;
+  }
+}
+
+QGlyphRun SizedRun(const QGlyphRun& reference, double pixels, double step) {
   QList<QPointF> positions = reference.positions();
   for (QPointF& position : positions) position *= pixels / kReferencePixels;
+  if (step > 0) MoveOntoSteps(positions, step);
   QGlyphRun run;
   run.setRawFont(SizedFont(reference.rawFont(), pixels));
   run.setGlyphIndexes(reference.glyphIndexes());
@@ -194,11 +210,14 @@ QGlyphRun SizedRun(const QGlyphRun& reference, double pixels) {
   return run;
 }
 
-const QList<QGlyphRun>& SizedRuns(CachedShape& shape, double pixels) {
-  if (shape.sized_pixels == pixels) return shape.sized;
+const QList<QGlyphRun>& SizedRuns(CachedShape& shape, double pixels, double step) {
+  if (shape.sized_pixels == pixels && shape.step == step) return shape.sized;
   shape.sized.clear();
-  for (const QGlyphRun& run : shape.reference.runs) shape.sized.append(SizedRun(run, pixels));
+  for (const QGlyphRun& run : shape.reference.runs) {
+    shape.sized.append(SizedRun(run, pixels, step));
+  }
   shape.sized_pixels = pixels;
+  shape.step = step;
   return shape.sized;
 }
 
@@ -262,7 +281,18 @@ void PaintText(QPainter& painter, double x, double y_baseline, std::string_view 
     PaintReference(painter, start, shape.reference, pixels);
     return;
   }
-  for (const QGlyphRun& run : SizedRuns(shape, pixels)) painter.drawGlyphRun(start, run);
+  for (const QGlyphRun& run : SizedRuns(shape, pixels, 0)) painter.drawGlyphRun(start, run);
+}
+
+void PaintPageText(QPainter& painter, double x, double y_baseline, std::string_view text,
+                   const FontSpec& font, Color color, double units_per_inch) {
+  const double pixels = font.Size * units_per_inch / kPointsPerInch;
+  const double step = units_per_inch / kPageStepsPerInch;
+  painter.setPen(ToQColor(color));
+  const QPointF start(x, y_baseline);
+  for (const QGlyphRun& run : SizedRuns(ShapeOf(text, font), pixels, step)) {
+    painter.drawGlyphRun(start, run);
+  }
 }
 
 FontService& ToolkitFonts() {
