@@ -10,6 +10,8 @@
 #include "layouts/serial_number.h"
 #include "output/data_fields.h"
 #include "output/data_sources.h"
+#include "output/print_job.h"
+#include "output/print_panel.h"
 #include "shell/about.h"
 #include "shell/shutdown.h"
 #include "shell/startup.h"
@@ -105,6 +107,15 @@ void WireDataSources(FrmMain& f) {
   f.mnuField.Events().Click = mnuField_Click;
   f.mnuFBC.Events().Click = mnuFBC_Click;
   f.cmdSerNo.Events().Click = cmdSerNo_Click;
+}
+
+void WirePrinting(FrmMain& f) {
+  f.mnuFilePrint.Events().Click = mnuFilePrint_Click;
+  f.cboPrinter.Events().Click = cboPrinter_Click;
+  f.txtNoCopies.Events().KeyPress = [](int, int&) { txtNoCopies_KeyPress(); };
+  f.txtPrintFrom.Events().KeyPress = [](int, int&) { txtPrintFrom_KeyPress(); };
+  f.txtPrintTo.Events().KeyPress = [](int, int&) { txtPrintTo_KeyPress(); };
+  f.cmdPrint.Events().Click = cmdPrint_Click;
 }
 
 // Off the board the pointer is an arrow again. picPicture, picPrint and picMag have no such
@@ -207,16 +218,8 @@ void WireFieldBarcodesLater(FrmMain& f) {
   f.mnuBCSetChars.Events().Click = NotThereYet;
 }
 
-// Printing and the preview.
-void WirePrintingLater(FrmMain& f) {
-  f.mnuFilePrint.Events().Click = NotThereYet;
-  f.cboPrinter.Events().Click = NotThereYet;
-  f.txtPrintFrom.Events().KeyPress = NotThereYet;
-  f.txtPrintTo.Events().KeyPress = NotThereYet;
-  f.txtNoCopies.Events().KeyPress = NotThereYet;
-  f.cmdPrint.Events().Click = NotThereYet;
-  f.cmdPreview.Events().Click = NotThereYet;
-}
+// The preview.
+void WirePreviewLater(FrmMain& f) { f.cmdPreview.Events().Click = NotThereYet; }
 
 // The dialogs for label layouts and default settings.
 void WireDialogsLater(FrmMain& f) {
@@ -230,7 +233,7 @@ void WireLater(FrmMain& f) {
   WirePanelsLater(f);
   WireArrangingLater(f);
   WireFieldBarcodesLater(f);
-  WirePrintingLater(f);
+  WirePreviewLater(f);
   WireDialogsLater(f);
 }
 
@@ -244,6 +247,7 @@ void WireMainWindow(FrmMain& f) {
   WireBoard(f);
   WireBarcodes(f);
   WireDataSources(f);
+  WirePrinting(f);
   WireHover(f);
   WireLater(f);
 }
