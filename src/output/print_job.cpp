@@ -195,6 +195,7 @@ bool OpenJob() {
     return true;
   } catch (const Fault& fault) {
     if (fault.number != kDialogCancelled) MarkerTail(fault);
+    CarryOn([] { Printer().KillDoc(); });  // or its refusal would stand for the next job as well
     return false;
   }
 }

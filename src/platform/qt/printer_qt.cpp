@@ -67,6 +67,12 @@ std::string AskForFile() {
   return *path;
 }
 
+QPageLayout WholePage() {
+  QPageLayout layout(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF());
+  layout.setMode(QPageLayout::FullPageMode);
+  return layout;
+}
+
 // Aside first, so that a job that fails or is dropped leaves a former file of that name alone.
 class FileSpool : public Spool {
  public:
@@ -74,6 +80,7 @@ class FileSpool : public Spool {
     if (!file_.open(QIODevice::WriteOnly)) Refuse(kFileAccess);
     writer_.emplace(&file_);
     writer_->setResolution(kUnitsPerInch);
+    writer_->setPageLayout(WholePage());
     writer_->setCreator(QStringLiteral("Tagwright"));
     writer_->setTitle(QStringLiteral("Labels"));
   }
@@ -191,7 +198,7 @@ class ToolkitPrinter : public PrinterDevice {
   void ForgetJob();
   [[noreturn]] void Refuse(const Fault& fault);
   void FitPage();
-  QPageLayout Layout() const;
+  void LayOutPage();
 
   std::string name_;
   OpenSpool open_spool_;
@@ -216,12 +223,12 @@ void ToolkitPrinter::SetPaperSize(int value) {
   FitPage();
 }
 
-QPageLayout ToolkitPrinter::Layout() const {
-  QPageLayout layout(QPageSize(paper_ == kA4 ? QPageSize::A4 : QPageSize::Letter),
-                     orientation_ == kPortrait ? QPageLayout::Portrait : QPageLayout::Landscape,
-                     QMarginsF());
-  layout.setMode(QPageLayout::FullPageMode);
-  return layout;
+// One by one: a queue refuses a layout as a whole when that has no margins and the queue has some.
+void ToolkitPrinter::LayOutPage() {
+  QPagedPaintDevice& device = spool_->Device();
+  device.setPageSize(QPageSize(paper_ == kA4 ? QPageSize::A4 : QPageSize::Letter));
+  device.setPageOrientation(orientation_ == kPortrait ? QPageLayout::Portrait
+                                                      : QPageLayout::Landscape);
 }
 
 // The paper's own size, not the toolkit's, which is in whole points.
@@ -260,12 +267,12 @@ QPainter& ToolkitPrinter::OpenPage() {
 }
 
 void ToolkitPrinter::BeginPages() {
-  spool_->Device().setPageLayout(Layout());
+  LayOutPage();
   if (!painter_.begin(&spool_->Device())) Refuse(NoPageOf(name_));
 }
 
 void ToolkitPrinter::FollowPage() {
-  spool_->Device().setPageLayout(Layout());
+  LayOutPage();
   if (!spool_->Device().newPage()) Refuse(NoPageOf(name_));
 }
 
