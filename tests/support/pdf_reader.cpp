@@ -97,6 +97,8 @@ class Reader {
     if (name == "stroke_path") return Open(PdfMark::What::kStroke, line);
     if (name == "fill_text") return Open(PdfMark::What::kText, line);
     if (name == "fill_image") return Picture(line);
+    if (name.starts_with("clip_")) clipping_ = true;
+    if (clipping_) return;
     if (name == "span") return Span(line);
     if (name == "g") return Glyph(line);
     if (name == "moveto") NextPart();
@@ -113,6 +115,7 @@ class Reader {
   }
 
   void Open(PdfMark::What what, const std::string& line) {
+    clipping_ = false;
     transform_ = TransformOf(line);
     PdfMark mark;
     mark.what = what;
@@ -188,7 +191,8 @@ class Reader {
 
   Transform transform_;
   double em_ = 1;
-  double end_ = 0;  // of the last glyph
+  double end_ = 0;         // of the last glyph
+  bool clipping_ = false;  // what comes limits the marks after it and is none itself
 };
 
 }  // namespace
@@ -208,8 +212,9 @@ PdfMark PdfPages::Text(const std::string& text) const {
   return {};
 }
 
-PdfPages ReadPdf(const std::string& path) {
-  const std::string output = OutputOf("mutool trace " + Quoted(path) + " 2>/dev/null");
+PdfPages ReadPdf(const std::string& path, const std::string& pages) {
+  const std::string output =
+      OutputOf("mutool trace " + Quoted(path) + " " + pages + " 2>/dev/null");
   EXPECT_FALSE(output.empty()) << "mutool could not read " << path;
   Reader reader;
   std::istringstream lines(output);
