@@ -9,8 +9,10 @@
 #include <QTextLayout>
 #include <algorithm>
 #include <cmath>
+#include <optional>
 #include <string>
 #include <unordered_map>
+#include <vector>
 
 #include "platform/qt/color_qt.h"
 
@@ -22,18 +24,33 @@ constexpr double kPointsPerInch = 72;
 // Enough for every text and size of a large label at one zoom; beyond, the past is forgotten whole.
 constexpr std::size_t kShapesKept = 8192;
 constexpr std::size_t kSizedFontsKept = 128;
-constexpr std::size_t kFacesKept = 1024;
+constexpr std::size_t kFacesKept = 256;
 
 // The toolkit lays text out in 32 bits, of which 6 are a fraction: so many units and characters of
 // the reference size keep clear of that.
 constexpr double kWidestPart = 1e7;
 constexpr qsizetype kLongestPart = 4096;
 
+// A character that stands for itself: one glyph, however its neighbours look.
+struct PlainGlyph {
+  enum class State : char { kUnknown, kPlain, kBlank, kNone };  // kNone: to be shaped in full
+  State state = State::kUnknown;
+  quint32 glyph = 0;
+  double advance = 0;
+};
+
+// The alphabets of which each character is a glyph of its own: Latin, Greek and Cyrillic.
+constexpr char16_t kPlainCharacters = 0x0530;
+
 // One family in one style, at the reference size.
 struct Face {
   QFont font;
   double ascent = 0;
   double descent = 0;
+  QRawFont raw;  // of the plain glyphs
+  std::vector<PlainGlyph> plain = std::vector<PlainGlyph>(kPlainCharacters);
+  double sized_pixels = 0;  // what a page last wanted
+  QRawFont sized;
 };
 
 // A shaped text and its glyphs at the size that a raster or a page last wanted.
@@ -69,19 +86,35 @@ QFont ReferenceFont(const FontSpec& wanted) {
 Face LoadFace(const FontSpec& wanted) {
   const QFont font = ReferenceFont(wanted);
   const QFontMetricsF metrics(font);
-  return {font, metrics.ascent(), metrics.descent()};
+  Face face;
+  face.font = font;
+  face.ascent = metrics.ascent();
+  face.descent = metrics.descent();
+  return face;
 }
 
-const Face& FaceOf(const FontSpec& wanted) {
+// A label asks for the same face many times over before it asks for another.
+Face& FaceOf(const FontSpec& wanted) {
   static std::unordered_map<std::string, Face> faces;
+  static FontSpec last_wanted;
+  static Face* last = nullptr;
+  if (last && wanted.Name == last_wanted.Name && wanted.Bold == last_wanted.Bold &&
+      wanted.Italic == last_wanted.Italic) {
+    return *last;
+  }
   const std::string key = FaceKey(wanted);
-  if (const auto known = faces.find(key); known != faces.end()) return known->second;
-  Limit(faces, kFacesKept);
-  return faces.emplace(key, LoadFace(wanted)).first->second;
+  auto known = faces.find(key);
+  if (known == faces.end()) {
+    Limit(faces, kFacesKept);
+    known = faces.emplace(key, LoadFace(wanted)).first;
+  }
+  last_wanted = wanted;
+  last = &known->second;
+  return *last;
 }
 
 // A tab or a stray line break would move the layout to places of its own.
-QString PlainLine(std::string_view text) {
+QString PlainText(std::string_view text) {
   QString line = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
   for (QChar& c : line) {
     if (c.category() == QChar::Other_Control || c == QChar::LineSeparator ||
@@ -141,7 +174,7 @@ void Append(ShapedText& line, const ShapedText& part) {
 }
 
 // What lies beyond the widest part is measured but not drawn: no paper is as wide.
-ShapedText Shape(const QString& text, const QFont& font) {
+ShapedText ShapeInFull(const QString& text, const QFont& font) {
   if (text.size() <= kLongestPart) return ShapePart(text, font);
   ShapedText line;
   for (qsizetype at = 0; at < text.size(); at += kLongestPart) {
@@ -152,12 +185,87 @@ ShapedText Shape(const QString& text, const QFont& font) {
   return line;
 }
 
+// --- plain characters ---------------------------------------------------------------------------
+
+// Shaping is most of the work of a printed text, and each label has other texts. Without kerning a
+// text of plain characters is what they are one by one, so that each is shaped only once.
+
+bool IsBlank(char16_t c) { return c == u' ' || c == u'\u00A0'; }
+
+// Marks join what stands before them, and a soft hyphen mostly is not there.
+bool CanBePlain(char16_t c) {
+  if (c < 0x20 || c >= kPlainCharacters || c == 0xAD || (c >= 0x7F && c < 0xA0)) return false;
+  return !(c >= 0x0300 && c < 0x0370) && !(c >= 0x0483 && c < 0x048A);
+}
+
+// A glyph that another face had to lend is not plain: it belongs to that face.
+PlainGlyph LearnGlyph(Face& face, char16_t c) {
+  using State = PlainGlyph::State;
+  const ShapedText shape = ShapePart(QString(QChar(c)), face.font);
+  if (IsBlank(c)) return {State::kBlank, 0, shape.width};
+  if (shape.runs.size() != 1 || shape.runs[0].glyphIndexes().size() != 1) return {State::kNone};
+  const QGlyphRun& run = shape.runs[0];
+  if (!face.raw.isValid()) face.raw = QRawFont::fromFont(face.font);
+  const bool own = run.rawFont() == face.raw && run.positions()[0].isNull();
+  return {own ? State::kPlain : State::kNone, run.glyphIndexes()[0], shape.width};
+}
+
+const PlainGlyph& GlyphOf(Face& face, char16_t c) {
+  PlainGlyph& glyph = face.plain[c];
+  if (glyph.state == PlainGlyph::State::kUnknown) glyph = LearnGlyph(face, c);
+  return glyph;
+}
+
+// Marks with their places in units of which `scale` make one of the reference size, each advance
+// moved onto `step` where there is one.
+struct PlainLine {
+  QList<quint32> marks;
+  QList<QPointF> places;
+  double width = 0;
+};
+
+// Nothing where the line has to be shaped in full. What lies beyond the widest part is measured but
+// not placed, as there.
+std::optional<PlainLine> PlaceGlyphs(Face& face, QStringView text, double scale, double step) {
+  PlainLine line;
+  line.marks.reserve(text.size());
+  line.places.reserve(text.size());
+  for (const QChar c : text) {
+    if (!CanBePlain(c.unicode())) return std::nullopt;
+    const PlainGlyph& glyph = GlyphOf(face, c.unicode());
+    if (glyph.state == PlainGlyph::State::kNone) return std::nullopt;
+    if (glyph.state == PlainGlyph::State::kPlain && line.width <= kWidestPart) {
+      line.marks.append(glyph.glyph);
+      line.places.append(QPointF(line.width, 0));
+    }
+    const double advance = glyph.advance * scale;
+    line.width += step > 0 ? std::round(advance / step) * step : advance;
+  }
+  return line;
+}
+
+QGlyphRun RunOf(const PlainLine& line, const QRawFont& font) {
+  QGlyphRun run;
+  run.setRawFont(font);
+  run.setGlyphIndexes(line.marks);
+  run.setPositions(line.places);
+  return run;
+}
+
+ShapedText Shape(const QString& text, Face& face) {
+  const std::optional<PlainLine> line = PlaceGlyphs(face, text, 1, 0);
+  if (!line) return ShapeInFull(text, face.font);
+  ShapedText shaped{{}, line->width};
+  if (!line->marks.isEmpty()) shaped.runs.append(RunOf(*line, face.raw));
+  return shaped;
+}
+
 CachedShape& ShapeOf(std::string_view text, const FontSpec& font) {
   static std::unordered_map<std::string, CachedShape> shapes;
   std::string key = FaceKey(font).append(text);
   if (const auto known = shapes.find(key); known != shapes.end()) return known->second;
   Limit(shapes, kShapesKept);
-  CachedShape shape{Shape(PlainLine(text), FaceOf(font).font), 0, 0, {}};
+  CachedShape shape{Shape(PlainText(text), FaceOf(font)), 0, 0, {}};
   return shapes.emplace(std::move(key), std::move(shape)).first->second;
 }
 
@@ -184,6 +292,12 @@ const QRawFont& SizedFont(const QRawFont& reference, double pixels) {
   QRawFont font = reference;
   font.setPixelSize(pixels);
   return fonts.emplace(key, font).first->second;
+}
+
+const QRawFont& SizedFace(Face& face, double pixels) {
+  if (face.sized_pixels != pixels) face.sized = SizedFont(face.raw, pixels);
+  face.sized_pixels = pixels;
+  return face.sized;
 }
 
 // Steps are taken between neighbours, so that equal letters have equal distances wherever they
@@ -284,12 +398,19 @@ void PaintText(QPainter& painter, double x, double y_baseline, std::string_view 
   for (const QGlyphRun& run : SizedRuns(shape, pixels, 0)) painter.drawGlyphRun(start, run);
 }
 
+// Not kept like the texts of a board: the next label has others.
 void PaintPageText(QPainter& painter, double x, double y_baseline, std::string_view text,
                    const FontSpec& font, Color color, double units_per_inch) {
   const double pixels = font.Size * units_per_inch / kPointsPerInch;
   const double step = units_per_inch / kPageStepsPerInch;
   painter.setPen(ToQColor(color));
   const QPointF start(x, y_baseline);
+  Face& face = FaceOf(font);
+  const auto line = PlaceGlyphs(face, PlainText(text), pixels / kReferencePixels, step);
+  if (line) {
+    if (!line->marks.isEmpty()) painter.drawGlyphRun(start, RunOf(*line, SizedFace(face, pixels)));
+    return;
+  }
   for (const QGlyphRun& run : SizedRuns(ShapeOf(text, font), pixels, step)) {
     painter.drawGlyphRun(start, run);
   }
