@@ -278,6 +278,36 @@ TEST_F(TextSourceTest, EachRowIsUtf8OrTheCodePageByItself) {
   EXPECT_EQ(Merged(), (Texts{"M\u00FCller", "M\u00FCller"}));
 }
 
+// --- files as other programs write them ---
+
+TEST_F(TextSourceTest, AFileInUtf8WithQuotesAndAShortLastLine) {
+  frmMain.chkQuote.SetValue(1);
+  Browse(kCommaSource, TestDataFolder() + "/text/people.csv");
+  EXPECT_EQ(Columns(), (Texts{"Name", "Street", "Town"}));
+  EXPECT_EQ(RecordCount, 4);
+  OpenMergeSource();
+  ASSERT_TRUE(Next());
+  EXPECT_EQ(Columns(), (Texts{"Müller", " Jörg", "Hauptstraße 7", "Köln"}));
+  ASSERT_TRUE(Next());
+  EXPECT_EQ(Columns(), (Texts{"Ada Byron", "12", " The Lane", "Leeds"}));
+  ASSERT_TRUE(Next());
+  EXPECT_EQ(Columns(), (Texts{"O'Neill", "Quay 3"}));
+  EXPECT_EQ(FieldValues[2], " The Lane");
+  EXPECT_FALSE(Next());
+}
+
+TEST_F(TextSourceTest, AFileOfTabsInTheCodePageWithoutALastEnd) {
+  Browse(kTabSource, TestDataFolder() + "/text/people-1252.txt");
+  EXPECT_EQ(Columns(), (Texts{"Name", "Town", "Price"}));
+  EXPECT_EQ(RecordCount, 3);
+  OpenMergeSource();
+  ASSERT_TRUE(Next());
+  EXPECT_EQ(Columns(), (Texts{"René Façade", "Orléans", "€ 5"}));
+  ASSERT_TRUE(Next());
+  EXPECT_EQ(Columns(), (Texts{"Plain", "York", "12.5"}));
+  EXPECT_FALSE(Next());
+}
+
 // Memory of this process, in kilobytes.
 long Memory() {
   std::ifstream status("/proc/self/status");
