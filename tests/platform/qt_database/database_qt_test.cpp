@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <algorithm>
 #include <cerrno>
+#include <cstdlib>
 
 #include "database_fixture.h"
 #include "platform/locale.h"
@@ -111,6 +112,16 @@ TEST_P(BothVersionsTest, ValuesAreWrittenAsTheUserWritesThem) {
   EXPECT_EQ(rows[0][9], "-1110,554");
   EXPECT_EQ(rows[1][5], "-0,0005");
   EXPECT_EQ(rows[1][8], "22.11.2003 18:00:00");
+}
+
+// The library would take other code pages from there.
+TEST_P(BothVersionsTest, EnvironmentHasNoSay) {
+  setenv("MDBICONV", "UTF-16LE", 1);
+  setenv("MDB_JET3_CHARSET", "CP437", 1);
+  const Rows rows = RestOf(*Open(Sample())->OpenRecordset("SELECT * FROM Umsätze"));
+  unsetenv("MDBICONV");
+  unsetenv("MDB_JET3_CHARSET");
+  EXPECT_EQ(rows, (Rows{{"Müllerstraße"}}));
 }
 
 TEST_P(BothVersionsTest, MemoComesWholeFromAnyPlace) {
