@@ -20,14 +20,6 @@ class DataSourceWindow : public testing::Test {
         << "Name,Town\r\nAda,Leeds\r\nJ\xC3\xB6rg,K\xC3\xB6ln\r\n";
   }
 
-  static void BrowseTo(const Program& program, const std::string& kind, const std::string& path) {
-    ChooseRow(program, "Import File Type", kind);
-    WaitForWindow("Open");
-    Type(path);
-    Key("Return");
-    WaitForWindow("Tagwright");
-  }
-
   static void WaitForLabel(const Program& program, const std::string& name,
                            const std::string& text) {
     WaitFor(text + " in " + name, [&] { return Find(program, name, "label").description == text; });
@@ -55,7 +47,7 @@ class DataSourceWindow : public testing::Test {
 TEST_F(DataSourceWindow, ATextFileShowsItsColumnsAndItsCount) {
   Program program(folder);
   Key("ctrl+i");
-  BrowseTo(program, "Comma Separated Text File", data);
+  BrowseToData(program, "Comma Separated Text File", data);
   WaitForLabel(program, "Records", "Records: 3");
   EXPECT_EQ(Find(program, "Filename", "label").description, data);
   EXPECT_EQ(ListedFields(program), (std::vector<std::string>{"Name", "Town"}));
@@ -67,7 +59,7 @@ TEST_F(DataSourceWindow, ATextFileShowsItsColumnsAndItsCount) {
 TEST_F(DataSourceWindow, ACancelledDialogKeepsTheSource) {
   Program program(folder);
   Key("ctrl+i");
-  BrowseTo(program, "Comma Separated Text File", data);
+  BrowseToData(program, "Comma Separated Text File", data);
   WaitForLabel(program, "Records", "Records: 3");
   Click(Find(program, "Load File").box);
   WaitForWindow("Open");
@@ -81,7 +73,7 @@ TEST_F(DataSourceWindow, TheRunningNumberIsChangedSavedAndFoundInTheLabel) {
   const std::string saved = folder + "/numbered.twp";
   Program program(folder);
   Key("ctrl+i");
-  BrowseTo(program, "Comma Separated Text File", data);
+  BrowseToData(program, "Comma Separated Text File", data);
   WaitForLabel(program, "Records", "Records: 3");
 
   ChooseMenu(program, {"File", "Serial Number Setup"});
@@ -111,6 +103,27 @@ TEST_F(DataSourceWindow, TheRunningNumberIsChangedSavedAndFoundInTheLabel) {
   ASSERT_EQ(bytes.size(), 2 * kRecordSize);
   EXPECT_EQ(bytes.substr(kTextOfRecord, 4), "AB  ");
   EXPECT_EQ(bytes.substr(kRecordSize + kTextOfRecord, data.size()), data);
+}
+
+TEST_F(DataSourceWindow, ReturnLeavesAListOfTheWindowOfNumbersAndSavesFromAField) {
+  Program program(folder);
+  ChooseMenu(program, {"File", "Serial Number Setup"});
+  WaitForWindow("Serial Numbers");
+  Click(Find(program, "Incrementing Number", "text").box);
+  Key("Tab");  // to the incrementation
+  Key("ctrl+a");
+  Type("5");
+  Key("Return");  // on to the box below, which a blank turns over
+  Key("space");
+  WaitFor("the fields to be disabled",
+          [&] { return !Find(program, "Barcode Width", "text").enabled; });
+  Click(Find(program, "Prefix", "text").box);
+  Key("Return");
+  WaitForWindow("Tagwright");
+  ChooseMenu(program, {"File", "Serial Number Setup"});
+  WaitForWindow("Serial Numbers");
+  EXPECT_FALSE(Find(program, "Print as Barcode").checked);
+  EXPECT_EQ(FindCombo(program, "Incrementation").name, "5");
 }
 
 TEST_F(DataSourceWindow, TheBarcodesFieldsFollowTheirBox) {
