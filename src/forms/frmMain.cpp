@@ -105,6 +105,7 @@ void DesignBoard(FrmMain& f) {
 void DesignHelpers(FrmMain& f) {
   f.picTemp.SetVisible(false);
   f.imageIcon.SetIcon("application");
+  f.Image2.SetIcon("pointer-field");
   f.Image3.SetIcon("pointer-zoom-in");
   f.Image4.SetIcon("pointer-zoom-out");
   f.Image5.SetIcon("pointer-barcode");

@@ -186,7 +186,7 @@ struct FrmMain : Form {
   PictureBox picTemp{this, "picTemp"};
   Image imageIcon{this, "imageIcon"};
   Image Image1{this, "Image1"};
-  Image Image2{this, "Image2"};
+  Image Image2{this, "Image2"};  // pointer of a data field
   Image Image3{this, "Image3"};  // pointer of zoom in
   Image Image4{this, "Image4"};  // pointer of zoom out
   Image Image5{this, "Image5"};  // pointer of the barcode tool

@@ -86,8 +86,9 @@ void Type(const std::string& text);
 struct Spoken {
   std::string name;
   std::string role;
-  std::string text;  // of fields and combos
-  Box box;           // on the screen
+  std::string text;         // of fields and combos
+  std::string description;  // of labels: what they show
+  Box box;                  // on the screen
   bool enabled = false;
   bool checked = false;
   bool showing = false;

@@ -44,6 +44,17 @@ TEST(LocaleQtTest, BritishYearsAreWrittenInFull) {
   EXPECT_EQ(All("en_GB.UTF-8").short_date, "dd/MM/yyyy");
 }
 
+TEST(LocaleQtTest, TimesHaveTheirSecondsAndNoZone) {
+  EXPECT_EQ(All("de_DE.UTF-8").time, "HH:mm:ss");
+  EXPECT_EQ(All("en_US.UTF-8").time, "h:mm:ss tt");
+  EXPECT_EQ(All("en_US.UTF-8").after_noon, "PM");
+  EXPECT_EQ(All("en_GB.UTF-8").time, "HH:mm:ss");
+  EXPECT_EQ(All("es_ES.UTF-8").time, "H:mm:ss") << "the zone stood in parentheses";
+  EXPECT_EQ(All("zh_CN.UTF-8").time, "HH:mm:ss") << "the zone stood in front";
+  EXPECT_EQ(All("ko_KR.UTF-8").time, "tt h시 m분 s초");
+  EXPECT_EQ(All("fr_CA.UTF-8").time, "HH 'h' mm 'min' ss 's'") << "what is quoted stays";
+}
+
 TEST(LocaleQtTest, JapaneseMoneyHasNoDecimals) { EXPECT_EQ(All("ja_JP.UTF-8").currency_digits, 0); }
 
 TEST(LocaleQtTest, PolishAndRussianHaveTheirCodePages) {

@@ -196,6 +196,25 @@ TEST_F(WindowsQtTest, AModalWindowThatHidesItselfLetsTheProgramGoOn) {
   EXPECT_TRUE(IsLoaded(frmAbout));
 }
 
+TEST_F(WindowsQtTest, ReturnSavesTheSerialNumbersFromAField) {
+  int saved = 0;
+  Load(frmSerialNumber);
+  frmSerialNumber.cmdSave.Events().Click = [&] {
+    ++saved;
+    Unload(frmSerialNumber);
+  };
+  QTimer::singleShot(0, [&] {
+    QWindow* window = WindowOf(frmSerialNumber)->windowHandle();
+    EXPECT_TRUE(frmSerialNumber.txtSerPref.HasFocus());
+    EXPECT_TRUE(QTest::qWaitForWindowActive(window));
+    frmSerialNumber.txtSerIncr.UserFocus();
+    QTest::keyClick(window, Qt::Key_Return);
+  });
+  ShowModal(frmSerialNumber);
+  EXPECT_EQ(saved, 1);
+  EXPECT_FALSE(IsLoaded(frmSerialNumber));
+}
+
 TEST_F(WindowsQtTest, ADialogOpensOverTheMainWindow) {
   Load(frmAbout);
   EXPECT_EQ(WindowOf(frmAbout)->parentWidget(), &Window());
