@@ -7,8 +7,6 @@
 namespace tagwright {
 namespace {
 
-constexpr int kFirstBarcodeFormat = 100;
-
 bool FieldIsSelected() {
   bool is_field = false;
   Traced([&] { is_field = SelectedObject > -1 && ObjectAt(SelectedObject).ObjType == kDataField; });

@@ -14,6 +14,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -506,6 +507,10 @@ class PictureBox : public Container {
   void SetCanvas(std::unique_ptr<Surface> surface);
   // The canvas was painted: the view shows it.
   void ImageChanged() { Notify(Aspect::kImage); }
+
+  // Says in words what the box shows, for people who do not see it. Asked when something in it has
+  // changed and no handler runs any more; an empty function has nothing to say.
+  std::function<std::string()> InWords;
 
   // A loaded picture, null for none.
   const PicturePtr& Image() const { return picture_; }

@@ -10,6 +10,7 @@
 #include "editing/object_panels.h"
 #include "editing/property_pick.h"
 #include "editing/selection.h"
+#include "editing/spoken_selection.h"
 #include "layouts/layout_list.h"
 #include "layouts/serial_number.h"
 #include "output/data_fields.h"
@@ -135,6 +136,8 @@ void WireBoard(FrmMain& f) {
   f.cmdXC.Events().Click = cmdXC_Click;
 }
 
+void WireSpeech(FrmMain& f) { f.picBoard.InWords = SelectionInWords; }
+
 void WireContextMenus(FrmMain& f) {
   f.mnuDrawChange.Events().Click = mnuDrawChange_Click;
   f.mnuShpAspect.Events().Click = mnuShpAspect_Click;
@@ -248,6 +251,7 @@ void WireMainWindow(FrmMain& f) {
   WireTextPanel(f);
   WireDrawingPanel(f);
   WireBoard(f);
+  WireSpeech(f);
   WireContextMenus(f);
   WireBarcodes(f);
   WireDataSources(f);

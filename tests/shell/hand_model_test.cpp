@@ -1,7 +1,8 @@
 // A person who presses, drags, types and chooses at random, and what must hold whatever they do.
-#include <array>
+#include <algorithm>
 #include <cmath>
-#include <functional>
+#include <cstdio>
+#include <map>
 #include <random>
 #include <set>
 
@@ -10,6 +11,7 @@
 #include "editing/drag.h"
 #include "editing/keys.h"
 #include "editing/selection.h"
+#include "platform/picture.h"
 #include "platform/windows.h"
 #include "shell/shell_fixture.h"
 
@@ -19,9 +21,20 @@ namespace {
 constexpr int kEventsInASequence = 200;
 constexpr int kDeleteKey = 46;
 
+const char kUnreadable[] = "This picture type is not supported";
+
+// Pictures of these tests: the natural size in words; all else is unreadable.
+PicturePtr ReadPicture(const std::string& bytes, std::string_view) {
+  double width = 0, height = 0;
+  if (std::sscanf(bytes.c_str(), "%lf %lf", &width, &height) != 2) return nullptr;
+  return BlankPicture(width, height);
+}
+
+// Plays the user; whatever dialog opens gets an answer of its own.
 class RandomHand : public WindowService {
  public:
-  explicit RandomHand(unsigned seed) : random_(seed) {}
+  RandomHand(unsigned seed, std::string folder, ScriptedDialogs& dialogs)
+      : random_(seed), folder_(std::move(folder)), dialogs_(dialogs) {}
 
   void Create(Form&) override {}
   void Show(Form&) override {}
@@ -43,7 +56,14 @@ class RandomHand : public WindowService {
   }
   bool OneIn(int n) { return Below(n) == 0; }
 
+  template <class T, std::size_t n>
+  const T& OneOf(const T (&choices)[n]) {
+    return choices[Below(static_cast<int>(n))];
+  }
+
+  void ScriptDialogs();
   void AimAtBoard();
+  void AimAtRules();
   void AimAt(const Control& control);
   void Aim();
   void Press();
@@ -55,15 +75,44 @@ class RandomHand : public WindowService {
   void Field();
   void Choose();
   void Tick();
+  void Picture();
+  void Pick();
   void Command();
+  void Project();
   void View();
   void ChooseIn(const Menu& menu);
 
   std::mt19937 random_;
+  std::string folder_;
+  ScriptedDialogs& dialogs_;
   double x_ = 0, y_ = 0;  // where the pointer is, twips of the board
   int button_ = 0;        // that is down
   int shift_ = 0;         // keys that are down
 };
+
+// A file dialog, a question, an input box and a colour dialog: one of each is enough for one act.
+void RandomHand::ScriptDialogs() {
+  const char* const pictures[] = {"wide.jpg",    "tall.jpg", "huge.jpg",
+                                  "no size.jpg", "bad.jpg",  "gone.jpg"};
+  const char* const numbers[] = {"35", "0", "-4", "x", "", "1e300"};
+  const Answer answers[] = {Answer::kYes, Answer::kNo, Answer::kCancel};
+  dialogs_.files = {folder_ + "/" + OneOf(pictures)};
+  if (OneIn(5)) dialogs_.files = {std::nullopt};
+  dialogs_.answers = {OneOf(answers)};
+  dialogs_.inputs = {OneOf(numbers)};
+  dialogs_.colors = {Below(0x1000000)};
+  if (OneIn(5)) dialogs_.colors = {std::nullopt};
+}
+
+// Along the edges rules are set and removed; on a rule it is grabbed.
+void RandomHand::AimAtRules() {
+  AimAtBoard();
+  const ScaleSpace& scale = frmMain.picBoard.Scale();
+  const double rule_x = frmMain.lnMX.X1() * scale.UnitX();
+  const double rule_y = frmMain.lnMY.Y1() * scale.UnitY();
+  if (OneIn(2)) x_ = frmMain.lnMX.Visible() && OneIn(2) ? rule_x : Between(0, 250);
+  if (OneIn(2)) y_ = frmMain.lnMY.Visible() && OneIn(2) ? rule_y : Between(0, 250);
+}
 
 void RandomHand::AimAtBoard() {
   x_ = Between(-200, frmMain.picBoard.Width() + 200);
@@ -80,6 +129,8 @@ void RandomHand::Aim() {
     AimAt(HoldAt(Below(ObjectUB + 1)));
   } else if (frmMain.lblHandle(3).Visible() && OneIn(2)) {
     AimAt(frmMain.lblHandle(Below(4)));
+  } else if (OneIn(6)) {
+    AimAtRules();
   } else {
     AimAtBoard();
   }
@@ -159,11 +210,19 @@ void RandomHand::Choose() {
   if (box.ListCount() > 0) box.UserChoose(Below(box.ListCount()));
 }
 
+// By its button: what follows is a click or a box on the label.
+void RandomHand::Picture() { frmMain.cmdTools(2).Press(); }
+
+// The style of the next text that is clicked goes to the selection.
+void RandomHand::Pick() { frmMain.mnuTextCopy.Press(); }
+
 void RandomHand::Tick() {
   CheckBox* const boxes[] = {&frmMain.chkBold, &frmMain.chkItalic, &frmMain.chkTransparent,
                              &frmMain.chkPriCharacter, &frmMain.chkXHair};
+  CommandButton* const colors[] = {&frmMain.cmdColor, &frmMain.cmdFColor, &frmMain.cmdTextColor};
   if (OneIn(3)) return frmMain.lblBCol(Below(6)).Press();
   if (OneIn(3)) return frmMain.lblFCol(Below(6)).Press();
+  if (OneIn(3)) return OneOf(colors)->Press();
   boxes[Below(5)]->Press();
 }
 
@@ -172,9 +231,17 @@ void RandomHand::Command() {
                            &frmMain.mnuEditCut,       &frmMain.mnuEditCopy,   &frmMain.mnuEditPaste,
                            &frmMain.mnuArrangeBTF,    &frmMain.mnuArrangeSTB, &frmMain.mnuAHoriz,
                            &frmMain.mnuUnitIn,        &frmMain.mnuUnitMM};
-  if (OneIn(40)) return frmMain.mnuFileNew.Press();
+  if (OneIn(20)) return Project();
   if (OneIn(4)) return frmMain.cmdAlign(Below(3)).Press();
   entries[Below(11)]->Press();
+}
+
+// The label goes to a file and comes back, or another one is begun.
+void RandomHand::Project() {
+  dialogs_.files = {folder_ + "/label.twp"};
+  Menu* const entries[] = {&frmMain.mnuFileNew, &frmMain.mnuFileSaveAs, &frmMain.mnuFileSave,
+                           &frmMain.mnuFileOpen};
+  OneOf(entries)->Press();
 }
 
 void RandomHand::View() {
@@ -211,8 +278,10 @@ const char* RandomHand::Act() {
       {8, "key", &RandomHand::Key},         {10, "tool", &RandomHand::Tool},
       {8, "type", &RandomHand::Type},       {5, "field", &RandomHand::Field},
       {5, "choose", &RandomHand::Choose},   {5, "tick", &RandomHand::Tick},
+      {2, "picture", &RandomHand::Picture}, {2, "pick", &RandomHand::Pick},
       {6, "command", &RandomHand::Command}, {2, "view", &RandomHand::View}};
-  int place = Below(109);
+  ScriptDialogs();
+  int place = Below(113);
   for (const Kind& kind : kKinds) {
     place -= kind.weight;
     if (place >= 0) continue;
@@ -232,22 +301,26 @@ class HandModelTest : public ShellTest {
  protected:
   HandModelTest() {
     StartProgram();
+    SetPictureReader(ReadPicture);
+    WritePictures();
     SetFaultReporter([this](const Fault& fault) { faults.push_back(fault.description); });
   }
   ~HandModelTest() override {
     SetFaultReporter({});
     SetWindowService(nullptr);
+    SetPictureReader(nullptr);
   }
 
   // What is broken, empty when all is well.
   std::string Broken() const {
     if (!faults.empty()) return "a fault left its event: " + faults.front();
     if (ObjectUB < -1 || Objects.size() < static_cast<std::size_t>(ObjectUB + 1)) return "ObjectUB";
-    if (SelectedObject < -1 || SelectedObject > ObjectUB) return "SelectedObject out of range";
-    if (SelectedUpper < -1 || SelectedUpper > 256) return "SelectedUpper out of range";
+    if (SelectedObject < -1) return "SelectedObject";
+    if (SelectedUpper < -1 || SelectedUpper > 256) return "SelectedUpper";
     for (int i = 0; i <= SelectedUpper; ++i) {
-      if (SelectedMember(i) < 0 || SelectedMember(i) > ObjectUB) return "a member out of range";
+      if (SelectedMember(i) < 0) return "a member";
     }
+    if (LastSelected() > ObjectUB && !after_refused_picture) return "selected beyond the last";
     if (SelectedObject > -1 && SelectedUpper > -1) return "both kinds of selection";
     if (RedrawSkip != -1) return "RedrawSkip outlives its event";
     if (SuspendRedraw) return "SuspendRedraw outlives its event";
@@ -257,39 +330,69 @@ class HandModelTest : public ShellTest {
   }
 
   void Run(unsigned seed) {
-    RandomHand hand(seed);
+    RandomHand hand(seed, folder.Path(), dialogs);
     SetWindowService(&hand);
+    dialogs.answers = {Answer::kNo};
     frmMain.mnuFileNew.Press();
+    after_refused_picture = false;
     for (int i = 0; i < kEventsInASequence; ++i) {
       const int upper_before = ObjectUB;
       const char* act = hand.Act();
       Note(upper_before);
+      FollowSelection();
       dynamic_cast<RecordingSurface&>(frmMain.picBoard.Canvas()).painted.clear();
       const std::string broken = Broken();
       ASSERT_EQ(broken, "") << "seed " << seed << ", event " << i << ": " << act;
     }
     hand.LetGo();
+    FollowSelection();
     ASSERT_EQ(Broken(), "") << "seed " << seed << ", at the end";
     ASSERT_FALSE(Dragging) << seed;
-    dialogs.messages.clear();
     SetWindowService(nullptr);
   }
 
   // That the hand has really worked: what it has met on its way.
   void ExpectMet() const {
     for (const std::int16_t kind :
-         {kBarcode, kText, kLine, kRectangle, kRoundedRectangle, kEllipse}) {
+         {kBarcode, kPicture, kText, kLine, kRectangle, kRoundedRectangle, kEllipse}) {
       EXPECT_TRUE(kinds_met.contains(kind)) << kind;
     }
     EXPECT_GT(groups_met, 50);
     EXPECT_GT(drags_met, 500);
     EXPECT_GT(deletions_met, 50);
     EXPECT_GT(entries_met, 100);
+    EXPECT_GT(refusals_met, 20);
   }
 
   std::vector<std::string> faults;
 
  private:
+  void WritePictures() const {
+    const std::map<std::string, std::string> pictures = {{"wide.jpg", "9000 3000"},
+                                                         {"tall.jpg", "2000 8000"},
+                                                         {"huge.jpg", "9000000 5000000"},
+                                                         {"no size.jpg", "0 0"},
+                                                         {"bad.jpg", "no picture"}};
+    for (const auto& [name, contents] : pictures) WriteFile(folder.File(name), contents);
+  }
+
+  // A picture that cannot be read takes its new record away again and leaves the selection on it,
+  // one past the last. It may join a group from there, and stays until it is deselected.
+  void FollowSelection() {
+    const auto refused =
+        std::ranges::count(dialogs.messages, kUnreadable, &ScriptedDialogs::Message::text);
+    dialogs.messages.clear();
+    refusals_met += static_cast<int>(refused);
+    if (refused > 0) after_refused_picture = true;
+    if (LastSelected() <= ObjectUB) after_refused_picture = false;
+  }
+
+  static int LastSelected() {
+    int last = SelectedObject;
+    for (int i = 0; i <= SelectedUpper; ++i) last = std::max<int>(last, SelectedMember(i));
+    return last;
+  }
+
   void Note(int upper_before) {
     for (int i = 0; i <= ObjectUB; ++i) kinds_met.insert(ObjectAt(i).ObjType);
     groups_met += SelectedUpper > 0;
@@ -299,7 +402,8 @@ class HandModelTest : public ShellTest {
   }
 
   std::set<std::int16_t> kinds_met;
-  int groups_met = 0, drags_met = 0, deletions_met = 0, entries_met = 0;
+  int groups_met = 0, drags_met = 0, deletions_met = 0, entries_met = 0, refusals_met = 0;
+  bool after_refused_picture = false;
 
   static std::string BrokenRecord() {
     for (int i = 0; i <= ObjectUB; ++i) {

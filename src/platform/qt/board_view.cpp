@@ -69,6 +69,15 @@ QRect AreaOf(const Control& child) {
   return box.toAlignedRect().adjusted(-kPen, -kPen, kPen, kPen);
 }
 
+// Of that, what it really paints: the inside of a frame, which may be as large as the label, stays.
+QRegion CoverOf(const Control& child) {
+  constexpr int kOutline = 6;
+  const QRect area = AreaOf(child);
+  const auto* shape = dynamic_cast<const Shape*>(&child);
+  if (!shape || shape->ShapeCode() == kOval || shape->ShapeCode() == kRounded) return area;
+  return QRegion(area) - area.adjusted(kOutline, kOutline, -kOutline, -kOutline);
+}
+
 // --- painting -----------------------------------------------------------------------------------
 
 // Through the middle of pixels, so that a thin line is crisp.
@@ -189,6 +198,8 @@ BoardView::BoardView(QWidget* parent) : QWidget(parent) {
   setFocusPolicy(Qt::TabFocus);
 }
 
+BoardView::~BoardView() { ForgetAfterHandlers(&speech_is_due_); }
+
 void BoardView::Attach(PictureBox& box) {
   auto surface = std::make_unique<ImageSurface>(devicePixelRatioF());
   surface_ = surface.get();
@@ -202,6 +213,7 @@ void BoardView::Attach(PictureBox& box) {
 // --- rendering ----------------------------------------------------------------------------------
 
 void BoardView::Changed(const Control& control, Aspect aspect) {
+  SpeakSoon();
   if (aspect == Aspect::kFocus) {
     FollowFocus(*control.ParentForm());
   } else if (&control != box_) {
@@ -218,6 +230,20 @@ void BoardView::Changed(const Control& control, Aspect aspect) {
   }
 }
 
+// Screen readers are told once, what stands when everything is done.
+void BoardView::SpeakSoon() {
+  if (speech_is_due_ || !box_ || !box_->InWords) return;
+  speech_is_due_ = true;
+  AfterHandlers(
+      &speech_is_due_, [this] { Speak(); }, box_->ParentForm()->EventLevel());
+}
+
+void BoardView::Speak() {
+  speech_is_due_ = false;
+  const QString words = QString::fromStdString(box_->InWords());
+  if (words != accessibleDescription()) setAccessibleDescription(words);
+}
+
 void BoardView::Place() {
   setGeometry(PixelBox(*box_));
   update();
@@ -225,7 +251,7 @@ void BoardView::Place() {
 
 // Hit areas by the thousand come through here at each redraw: most paint nothing and never did.
 void BoardView::Touch(const Control& child) {
-  const QRect now = AreaOf(child);
+  const QRegion now = CoverOf(child);
   const auto before = painted_.find(&child);
   if (before != painted_.end()) {
     update(before->second);
@@ -259,7 +285,7 @@ void BoardView::paintEvent(QPaintEvent* event) {
         QRectF(part.x() * ratio, part.y() * ratio, part.width() * ratio, part.height() * ratio));
   }
   for (const Control* child : PaintedChildren(event->rect())) {
-    painted_[child] = AreaOf(*child);
+    painted_[child] = CoverOf(*child);
     PaintChild(painter, *child);
   }
 }

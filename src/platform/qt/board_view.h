@@ -2,7 +2,7 @@
 // over it. A label of a thousand objects costs no widgets.
 #pragma once
 
-#include <QRect>
+#include <QRegion>
 #include <QWidget>
 #include <unordered_map>
 #include <vector>
@@ -16,6 +16,7 @@ class ImageSurface;
 class BoardView : public QWidget, public ControlView {
  public:
   explicit BoardView(QWidget* parent = nullptr);
+  ~BoardView() override;
 
   // Shows `box`, whose canvas becomes a picture in memory at this screen's resolution.
   void Attach(PictureBox& box);
@@ -36,12 +37,15 @@ class BoardView : public QWidget, public ControlView {
   void Touch(const Control& child);
   void ShowPointer(const Control* over);
   void FollowScreen();
+  void SpeakSoon();
+  void Speak();
   std::vector<const Control*> PaintedChildren(const QRect& area) const;
 
   PictureBox* box_ = nullptr;
   ImageSurface* surface_ = nullptr;
-  // Where each child stood at its last painting: what has to be painted anew when it leaves.
-  std::unordered_map<const Control*, QRect> painted_;
+  // What each child covered at its last painting: what has to be painted anew when it leaves.
+  std::unordered_map<const Control*, QRegion> painted_;
+  bool speech_is_due_ = false;
 };
 
 }  // namespace tagwright

@@ -938,6 +938,7 @@ class StatusView : public WidgetView {
       if (auto* text = widget_.findChild<QLabel*>(QString("statusPanel_%1").arg(panel))) {
         text->setTextFormat(Qt::PlainText);
         text->setText(ToQt(bar_.PanelText(panel)));
+        text->setAccessibleDescription(text->text());  // its name says which panel it is
       }
     }
   }

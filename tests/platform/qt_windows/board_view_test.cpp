@@ -49,6 +49,35 @@ TEST_F(BoardViewTest, HandlesAreSmallSquaresInTheAccentColour) {
   EXPECT_EQ(Pixel(100, 103), QColor(Qt::white));
 }
 
+// Between two pixels the ground must not stick out of the border.
+TEST_F(BoardViewTest, AHandleBetweenPixelsHasItsBorderAllAround) {
+  Label& handle = frmMain.lblHandle(0);
+  handle.SetVisible(true);
+  for (const double part : {0.0, 0.3, 0.5, 0.7, 0.99}) {
+    handle.Move(100 + part, 100 + part);
+    const QImage image = Board().grab().toImage();
+    for (const int edge : {99, 100, 106, 107, 108}) {
+      EXPECT_EQ(image.pixelColor(edge, 103), QColor(Qt::white)) << part << " " << edge;
+      EXPECT_EQ(image.pixelColor(103, edge), QColor(Qt::white)) << part << " " << edge;
+    }
+    EXPECT_EQ(image.pixelColor(103, 103), QColor(47, 107, 216)) << part;
+  }
+}
+
+// Once, when all handlers are done.
+TEST_F(BoardViewTest, TheBoardSaysInWordsWhatItShows) {
+  int asked = 0;
+  frmMain.picBoard.InWords = [&] { return "state " + std::to_string(++asked); };
+  RunHandler([&] {
+    ShowHold(0, 10, 10, 50, 20);
+    frmMain.shpBox.Move(20, 20, 30, 30);
+    EXPECT_EQ(asked, 0);
+  });
+  EXPECT_EQ(asked, 1);
+  EXPECT_EQ(Board().accessibleDescription(), "state 1");
+  frmMain.picBoard.InWords = nullptr;
+}
+
 TEST_F(BoardViewTest, TransparentLabelsPaintTheirCaptionOnly) {
   Label& hold = ShowHold(0, 50, 50, 200, 40);
   EXPECT_EQ(Pixel(60, 60), QColor(Qt::white));
@@ -213,6 +242,22 @@ TEST_F(BoardViewTest, OnlyWhatChangedIsPaintedAnew) {
   QTest::qWait(20);
   EXPECT_TRUE(watch.region.contains(QPoint(103, 103)));
   EXPECT_TRUE(watch.region.contains(QPoint(303, 203)));
+  EXPECT_FALSE(watch.region.contains(QPoint(600, 400)));
+}
+
+// A frame around all of the label leaves what is inside it alone.
+TEST_F(BoardViewTest, AFrameThatMovesIsPaintedAnewAlongItsEdges) {
+  Shape& frame = frmMain.shpBox;
+  frame.Move(100, 100, 300, 200);
+  frame.SetVisible(true);
+  QTest::qWait(20);
+  PaintWatch watch;
+  Board().installEventFilter(&watch);
+  frame.Move(120, 110);
+  QTest::qWait(20);
+  EXPECT_TRUE(watch.region.contains(QPoint(100, 200)));
+  EXPECT_TRUE(watch.region.contains(QPoint(420, 200)));
+  EXPECT_FALSE(watch.region.contains(QPoint(250, 200)));
   EXPECT_FALSE(watch.region.contains(QPoint(600, 400)));
 }
 

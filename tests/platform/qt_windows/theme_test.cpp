@@ -73,7 +73,8 @@ TEST_F(ThemeTest, TextIsReadableInBothLooks) {
 }
 
 TEST_F(ThemeTest, PointersAreSharpOnADenseScreen) {
-  for (const char* name : {"pointer-zoom-in", "pointer-zoom-out", "pointer-barcode"}) {
+  for (const char* name :
+       {"pointer-zoom-in", "pointer-zoom-out", "pointer-barcode", "pointer-field"}) {
     const QCursor pointer = IconPointer(name, 2.0);
     EXPECT_EQ(pointer.pixmap().size(), QSize(48, 48)) << name;
     EXPECT_EQ(pointer.pixmap().devicePixelRatio(), 2.0) << name;
