@@ -140,9 +140,8 @@ void PaintElements(std::string_view digits, UnderText& under) {
   const Elements elements = PlaceElements(digits);
   const double top = CursorY, bottom = top + BarHeight;
   for (std::size_t i = 0; i < digits.size(); i += 2) {
-    const auto [left, width] = elements[i];
+    const double left = elements[i].left, width = elements[i].width, right = left + width;
     if (!(width > 0)) continue;
-    const double right = left + width;
     EngineTraced([&] { Target().Line(left, top, Finite(right), Finite(bottom), 0); });
     if (under.due) PrintUnder(under);
     under.due = false;
