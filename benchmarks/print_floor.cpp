@@ -1,6 +1,6 @@
 // The same sheets as print_ours, painted plainly: no document, no program, only the toolkit's
-// painter on its PDF printer, in the way that was found to be the fastest. What it takes is what
-// the toolkit takes.
+// painter on its PDF printer, with one translation for each label and one call for its bars. What
+// it takes is what the toolkit takes.
 //
 //   print_floor ROWS.csv PAGES.pdf
 //

@@ -40,6 +40,17 @@ void CutToLongest(std::string& line) {
   line.resize(end);
 }
 
+// How many lines end in a block that comes after the byte `before`: one at each LF, and one at each
+// CR without an LF behind it. The CR of the last byte waits for what the next block begins with.
+std::int64_t EndsIn(std::string_view block, char before) {
+  std::int64_t ends = before == '\r' && block.front() != '\n' ? 1 : 0;
+  for (auto at = block.find('\n'); at != block.npos; at = block.find('\n', at + 1)) ++ends;
+  for (auto at = block.find('\r'); at < block.size() - 1; at = block.find('\r', at + 1)) {
+    if (block[at + 1] != '\n') ++ends;
+  }
+  return ends;
+}
+
 }  // namespace
 
 // --- blocks -------------------------------------------------------------------------------------
@@ -114,14 +125,11 @@ std::int64_t CountLines(std::string_view path, const std::function<bool(double s
   std::int64_t lines = 0;
   char last = '\n';
   for (std::string_view block = file.Next(); !block.empty(); block = file.Next()) {
-    for (const char byte : block) {
-      lines += (byte == '\r') + (byte == '\n' && last != '\r');
-      last = byte;
-    }
+    lines += EndsIn(block, last);
+    last = block.back();
     if (!goes_on(file.Share())) return lines;
   }
-  const bool ended = last == '\n' || last == '\r';
-  return ended ? lines : lines + 1;
+  return last == '\n' ? lines : lines + 1;
 }
 
 }  // namespace tagwright

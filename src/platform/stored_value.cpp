@@ -10,8 +10,8 @@ namespace tagwright {
 namespace {
 
 constexpr Date kDayZero{1899, 12, 30};
-constexpr double kFirstDay = -657434;  // 1 January 100
-constexpr double kLastDay = 2958465;   // 31 December 9999
+constexpr std::int64_t kFirstDay = -657434;  // 1 January 100
+constexpr std::int64_t kLastDay = 2958465;   // 31 December 9999
 constexpr std::int64_t kSecondsOfDay = 86400;
 
 // A day, counted from day zero, and the seconds since its midnight.
@@ -27,7 +27,9 @@ Moment MomentOf(double days) {
   return {static_cast<std::int64_t>(whole) + second / kSecondsOfDay, second % kSecondsOfDay};
 }
 
-bool IsDate(double days) { return days >= kFirstDay && days < kLastDay + 1; }
+bool IsDate(double days) {
+  return days >= static_cast<double>(kFirstDay) && days < static_cast<double>(kLastDay + 1);
+}
 
 std::string TimeText(std::int64_t second) {
   return FormatTime({.hour = static_cast<int>(second / 3600),
