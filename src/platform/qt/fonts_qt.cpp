@@ -12,6 +12,7 @@
 #include <optional>
 #include <string>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "platform/qt/color_qt.h"
@@ -418,13 +419,31 @@ std::string PlainFamily(const QString& family) {
   return family.section(QStringLiteral(" ["), 0, 0).toStdString();
 }
 
+bool Holds(const std::vector<std::string>& names, const std::string& name) {
+  return std::find(names.begin(), names.end(), name) != names.end();
+}
+
+void AddOnce(std::vector<std::string>& names, const std::string& name) {
+  if (!Holds(names, name)) names.push_back(name);
+}
+
+// Labels name these fonts, "Arial" the defaults too. Where a twin of the same measures answers to
+// the name, the name is one to choose, or nobody could choose the default font.
+void AddNamesOfTwins(std::vector<std::string>& names) {
+  constexpr std::pair<const char*, const char*> kTwins[] = {{"Liberation Sans", "Arial"},
+                                                            {"Liberation Serif", "Times New Roman"},
+                                                            {"Liberation Mono", "Courier New"}};
+  for (const auto& [twin, name] : kTwins) {
+    if (Holds(names, twin)) AddOnce(names, name);
+  }
+}
+
 std::vector<std::string> ToolkitFontService::Families() {
   std::vector<std::string> names;
   for (const QString& family : QFontDatabase::families()) {
-    if (!QFontDatabase::isSmoothlyScalable(family)) continue;
-    const std::string name = PlainFamily(family);
-    if (std::find(names.begin(), names.end(), name) == names.end()) names.push_back(name);
+    if (QFontDatabase::isSmoothlyScalable(family)) AddOnce(names, PlainFamily(family));
   }
+  AddNamesOfTwins(names);
   return names;
 }
 

@@ -245,6 +245,12 @@ TEST_F(TextTest, CharactersThatAFontLacksComeFromAnother) {
   EXPECT_GT(Fonts().Width("\u0416\u4E2D", {"Courier New", 20, false, false}), 10);
 }
 
+TEST_F(TextTest, ANameThatAMetricTwinAnswersToCanBeChosen) {
+  const std::vector<std::string> families = Fonts().Families();
+  EXPECT_EQ(std::count(families.begin(), families.end(), "Liberation Sans"), 1);
+  EXPECT_EQ(std::count(families.begin(), families.end(), "Arial"), 1);
+}
+
 TEST_F(TextTest, FamiliesAreListedOnceAndWithoutTheirMakers) {
   std::vector<std::string> families = Fonts().Families();
   EXPECT_NE(std::find(families.begin(), families.end(), "Liberation Sans"), families.end());
