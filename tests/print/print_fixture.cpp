@@ -13,12 +13,14 @@
 namespace tagwright {
 namespace {
 
-// The one application object of a test program; lives as long as it.
+// The toolkit, started once for all tests of the program; never destroyed, since fonts look back at
+// it until the very end.
 void StartToolkit() {
   static int argc = 1;
   static char name[] = "test";
   static char* argv[] = {name, nullptr};
-  if (!qApp) new QGuiApplication(argc, argv);
+  static const QGuiApplication& application = *new QGuiApplication(argc, argv);
+  (void)application;
 }
 
 void ChooseRow(ComboBox& list, const std::string& row) {

@@ -35,7 +35,10 @@ struct SheetOf14 {
   static constexpr int kAcross = 2, kDown = 7, kCells = kAcross * kDown;
   static constexpr double kLeft = 4.5, kTop = 15, kWidth = 99, kHeight = 38, kGutter = 2.5;
   static int PageOf(int label) { return label / kCells + 1; }
-  static double LeftOf(int label) { return kLeft + label % kCells / kDown * (kWidth + kGutter); }
+  static double LeftOf(int label) {
+    const int column = label % kCells / kDown;
+    return kLeft + column * (kWidth + kGutter);
+  }
   static double TopOf(int label) { return kTop + label % kCells % kDown * kHeight; }
 };
 

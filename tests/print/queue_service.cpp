@@ -103,6 +103,13 @@ std::string PageDescription(const QueueModel& model) {
          " " + resolution + "]>>setpagedevice\"\n*CloseUI: *Resolution\n";
 }
 
+std::string QueueEntry(const std::string& name, int port, bool accepting) {
+  return "<Printer " + name + ">\nInfo " + name +
+         "\nDeviceURI socket://127.0.0.1:" + std::to_string(port) +
+         "/?waiteof=false&snmp=false\nState Idle\nAccepting " + (accepting ? "Yes" : "No") +
+         "\nErrorPolicy abort-job\n</Printer>\n";
+}
+
 pid_t Run(const std::vector<std::string>& arguments) {
   std::vector<char*> raw;
   for (const std::string& argument : arguments) raw.push_back(const_cast<char*>(argument.c_str()));
@@ -205,10 +212,7 @@ void QueueService::WriteQueues(const std::string& without, const std::string& re
   for (std::size_t i = 0; i < listeners_.size(); ++i) {
     const std::string& name = QueueModels()[i].name;
     if (name == without) continue;
-    queues += "<Printer " + name + ">\nInfo " + name +
-              "\nDeviceURI socket://127.0.0.1:" + std::to_string(PortOf(listeners_[i])) +
-              "/?waiteof=false&snmp=false\nState Idle\nAccepting " +
-              (name == refusing ? "No" : "Yes") + "\nErrorPolicy abort-job\n</Printer>\n";
+    queues += QueueEntry(name, PortOf(listeners_[i]), name != refusing);
   }
   Write(folder_.File("root/printers.conf"), queues);
 }

@@ -2,10 +2,9 @@
 // of its queue, and every label lies where the layout says.
 #include <QPrinter>
 #include <QPrinterInfo>
-#include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <fstream>
-#include <memory>
 
 #include "document/objects.h"
 #include "forms/frmMain.h"
@@ -180,7 +179,8 @@ TEST_F(QueueTest, InchesAndLetterPaperArriveAsTheyAre) {
 
 TEST_F(QueueTest, APenIsAsWideAsTheQueuesOwnPixels) {
   ChooseLayout("A4 2 per sheet");
-  for (const std::int16_t pen : {1, 4}) {
+  constexpr std::array<std::int16_t, 2> kPens = {1, 4};
+  for (const std::int16_t pen : kPens) {
     ObjectRecord& frame = Add(kRectangle, 10 * pen, 10, 8, 8);
     frame.Param = pen;
     frame.FillColor = -1;
@@ -241,6 +241,12 @@ class QueueTrouble : public QueueTest {
     frmMain.cboPrinter.SetListIndex(1);
     ASSERT_EQ(Printer().DeviceName(), "margins");
   }
+  // The queue's name stands in what the user is told, once.
+  void ExpectToldOnce() {
+    ASSERT_EQ(dialogs.messages.size(), 1u);
+    EXPECT_NE(dialogs.messages[0].text.find("margins"), std::string::npos)
+        << dialogs.messages[0].text;
+  }
   void ExpectScreenRestored() {
     EXPECT_EQ(DrawTarget, &frmMain.picBoard.Canvas());
     EXPECT_EQ(ZoomFactor, 1);
@@ -251,8 +257,9 @@ class QueueTrouble : public QueueTest {
 TEST_F(QueueTrouble, AServiceThatIsGoneIsToldOnce) {
   Service().Stop();
   frmMain.cmdPrint.Press();
-  EXPECT_EQ(dialogs.messages.size(), 1u);
+  ExpectToldOnce();
   ExpectScreenRestored();
+  EXPECT_EQ(SerialValue, 1001);
   Service().Start();
   frmMain.cmdPrint.Press();
   EXPECT_EQ(dialogs.messages.size(), 1u) << "the next job is a job of its own";
@@ -262,16 +269,18 @@ TEST_F(QueueTrouble, AServiceThatIsGoneIsToldOnce) {
 TEST_F(QueueTrouble, AQueueThatRefusesIsToldOnce) {
   Service().Refuse("margins");
   frmMain.cmdPrint.Press();
-  EXPECT_EQ(dialogs.messages.size(), 1u);
+  ExpectToldOnce();
   ExpectScreenRestored();
+  EXPECT_EQ(SerialValue, 1001 + SheetOf14::kCells) << "stays where the cells have left it";
   EXPECT_FALSE(Service().AnythingAt("margins"));
 }
 
 TEST_F(QueueTrouble, AQueueThatWasTakenAwayIsToldOnce) {
   Service().Remove("margins");
   frmMain.cmdPrint.Press();
-  EXPECT_EQ(dialogs.messages.size(), 1u);
+  ExpectToldOnce();
   ExpectScreenRestored();
+  EXPECT_EQ(SerialValue, 1001);
 }
 
 }  // namespace
