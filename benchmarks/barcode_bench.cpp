@@ -149,6 +149,7 @@ void OnPdf(benchmark::State& state, const Format& format) {
     Draw(format, format.data, true);
     if (++on_page < 100) continue;
     on_page = 0;
+    page.Flush();
     writer.newPage();
   }
   DrawTarget = nullptr;

@@ -199,7 +199,8 @@ void BarcodeSampler(const std::string& folder) {
   StartProgram();
   ChooseLayout("A4 2 per sheet");
   for (std::int16_t format = 0; format < 14; ++format) {
-    const double left = 10 + format % kColumns * 65, top = 6 + format / kColumns * 27;
+    const int column = format % kColumns, line = format / kColumns;
+    const double left = 10 + column * 65, top = 6 + line * 27;
     const auto row = static_cast<std::size_t>(format);
     // The postal symbols have the sizes that their panel gives them.
     const double width = format == 12 ? 36.73 : format == 13 ? 41.25 : 48;

@@ -134,9 +134,10 @@ void DrawCode39(std::string_view Data, std::int16_t, float X, float Y, double He
   BeginSymbol(X, Y, Height);
   const Patterns patterns = Code39Patterns(Data);
   EngineTraced([&] { MeasureModule(patterns, Width, patterns.size() - 1); });
-  for (const std::string_view pattern : patterns) {
-    PaintPattern(pattern);
+  PaintPattern(patterns.front());
+  for (std::size_t i = 1; i < patterns.size(); ++i) {
     EngineTraced([&] { CursorX = ToSingle(CursorX + ModuleWidth); });
+    PaintPattern(patterns[i]);
   }
   EndSymbol(Data, X, Y, Height, Width, PrintCharacters, FontSize);
 }

@@ -91,11 +91,6 @@ double TextLeft(std::string_view pattern) {
   return pattern.starts_with('0') ? CursorX + ModuleWidth : CursorX;
 }
 
-void PaintBar(float left, double width) {
-  const double top = CursorY;
-  Target().Line(left, top, Finite(left + width), Finite(top + BarHeight), 0);
-}
-
 void PrintUnder(const UnderText& under) {
   EngineTraced([&] { Target().CurrentX = Finite(under.left); });
   EngineTraced([&] { Target().CurrentY = Finite(CursorY + BarHeight + 0.25); });
@@ -103,7 +98,13 @@ void PrintUnder(const UnderText& under) {
 }
 
 constexpr std::size_t kElementsAtOnce = 32;  // even: each part begins with a bar as the whole does
-using Lefts = std::array<float, kElementsAtOnce>;
+
+// Where an element stands, unless it has no positive width.
+struct Element {
+  float left;
+  double width;
+};
+using Elements = std::array<Element, kElementsAtOnce>;
 
 // Apart, so that the way that is always gone stays a few instructions.
 [[gnu::cold, gnu::noinline]] void TraceOverflow() {
@@ -119,27 +120,29 @@ float Advanced(float left, double width) {
   return left;
 }
 
-// The left edges of all elements, and CursorX behind them.
-Lefts PlaceElements(std::string_view elements, double module) {
-  Lefts lefts;
+// CursorX ends behind them.
+Elements PlaceElements(std::string_view digits) {
+  const double module = ModuleWidth;
+  Elements elements;
   float left = CursorX;
-  for (std::size_t i = 0; i < elements.size(); ++i) {
-    lefts[i] = left;
-    left = Advanced(left, (elements[i] - '0') * module);
+  for (std::size_t i = 0; i < digits.size(); ++i) {
+    const double width = (digits[i] - '0') * module;
+    elements[i] = {left, width};
+    left = Advanced(left, width);
   }
   CursorX = left;
-  return lefts;
+  return elements;
 }
 
 // Places first and paints afterwards: a place hangs on the one before it, which is slow enough
 // without a call to the target between the two.
-void PaintElements(std::string_view elements, UnderText& under) {
-  const double module = ModuleWidth;
-  const Lefts lefts = PlaceElements(elements, module);
-  for (std::size_t i = 0; i < elements.size(); i += 2) {
-    const double width = (elements[i] - '0') * module;
+void PaintElements(std::string_view digits, UnderText& under) {
+  const Elements elements = PlaceElements(digits);
+  const double top = CursorY, bottom = top + BarHeight;
+  for (std::size_t i = 0; i < digits.size(); i += 2) {
+    const double left = elements[i].left, width = elements[i].width, right = left + width;
     if (!(width > 0)) continue;
-    EngineTraced([&] { PaintBar(lefts[i], width); });
+    EngineTraced([&] { Target().Line(left, top, Finite(right), Finite(bottom), 0); });
     if (under.due) PrintUnder(under);
     under.due = false;
   }

@@ -54,9 +54,10 @@ void DesignTools(FrmMain& f) {
   f.picTools.SetHeight(kToolColumnHeight);
   constexpr int kOrder[] = {0, 1, 2, 3, 4, 7, 5, 6};  // in two columns, row by row
   for (int place = 0; place < 8; ++place) {
+    const int column = place % 2, row = place / 2;
     f.cmdTools(kOrder[place])
-        .Move(kToolMargin + kToolStep * (place % 2), kToolMargin + kToolStep * (place / 2),
-              kToolSize, kToolSize);
+        .Move(kToolMargin + kToolStep * column, kToolMargin + kToolStep * row, kToolSize,
+              kToolSize);
   }
   f.picMag.SetVisible(false);
   f.picMag.SetWidth(kFlyoutWidth);

@@ -59,15 +59,16 @@ void Container::ResizeScale(double width_twips, double height_twips) {
   ChangeScale([&] { scale_.Resize(width_twips, height_twips); });
 }
 
-// The cheap questions first: a label with ten thousand objects is searched at every move.
+// The cheap questions first: a label with ten thousand objects is searched at every move. No
+// point lies within bounds that are no numbers.
 Control* Container::ChildAt(double x_twips, double y_twips) const {
   const double x = x_twips / scale_.UnitX();
   const double y = y_twips / scale_.UnitY();
   Control* found = nullptr;
   for (Control* child : children_) {
     if (!child->visible_ || !child->enabled_) continue;
-    if (x < child->left_ || x >= child->left_ + child->width_) continue;
-    if (y < child->top_ || y >= child->top_ + child->height_) continue;
+    if (!(x >= child->left_ && x < child->left_ + child->width_)) continue;
+    if (!(y >= child->top_ && y < child->top_ + child->height_)) continue;
     if (found && found->order_ > child->order_) continue;
     if (child->TakesMouse()) found = child;
   }

@@ -48,10 +48,10 @@ void Control::SetWidth(double value) { Resize(value, height_); }
 void Control::SetHeight(double value) { Resize(width_, value); }
 
 void Control::Move(double left, double top) {
-  if (left == left_ && top == top_) return;
+  const bool changed = left != left_ || top != top_;
   left_ = left;
   top_ = top;
-  Notify(Aspect::kGeometry);
+  Placed(changed);
 }
 
 void Control::Move(double left, double top, double width, double height) {

@@ -172,7 +172,8 @@ class Control {
   // The mouse over a control that has a view of its own; points are twips from its corner. A press
   // moves the focus (to it, or where FocusStandIn says) before MouseDown and captures the control
   // until the last button is up. A release without a press raises nothing; one while a handler runs
-  // waits. A second press of a button that is down ends the first one: its release was lost.
+  // waits. A second press of a button that is down ends the first one: its release was lost. Button
+  // 0 is one that handlers do not know: nothing.
   //
   // In a container whose children have no views of their own the press finds its control there (see
   // ChildAt), before the focus moves. That one stays captured also when it is hidden meanwhile; its
@@ -195,6 +196,10 @@ class Control {
   Control(std::string name, Form* form, int index, std::shared_ptr<ControlEvents> events);
   int WaitLevel() const;
   virtual void SizeChanged() { Notify(Aspect::kGeometry); }
+  // A place was assigned; `changed` unless it is the one that it had.
+  virtual void Placed(bool changed) {
+    if (changed) Notify(Aspect::kGeometry);
+  }
   virtual double MouseUnitX() const { return 1; }  // twips of one unit of its mouse events
   virtual double MouseUnitY() const { return 1; }
   virtual bool TakesMouse() const { return false; }  // on a board: labels do
@@ -721,6 +726,9 @@ class Form : public Container {
   // SetWidth, SetHeight and Move raise Resize once when the size really changes; the client area
   // follows by the same difference.
   Color BackColor() const { return back_color_; }
+  // Whether anybody has said where it stands. One that nobody has placed is at 0, 0 in its numbers
+  // and comes up where the window manager likes, cut to its screen.
+  bool IsPlaced() const { return placed_; }
 
   // Everything with a name: controls and menus, in creation order.
   const std::vector<Control*>& AllControls() const { return all_; }
@@ -747,8 +755,9 @@ class Form : public Container {
   void UserDeactivate();  // raises KeyUp with code 0 and no shift: held modifiers end here
   // Keys by virtual key code (letters and digits their capital's code, 8 backspace, 9 tab, 13
   // return, 16 shift, 17 ctrl, 18 alt, 27 esc, 33 to 40 page, end, home and arrows, 46 delete,
-  // 112 on the function keys; 0 any other). KeyDown's handler may set the code to 0: returns false
-  // then, and the key must go no further. While a handler runs a key's end waits and its beginning is lost.
+  // 112 on the function keys; 0 a key that has none of these, such as most punctuation). KeyDown's
+  // handler may set the code to 0: returns false then, and the key must go no further. A key
+  // without a code goes on. While a handler runs a key's end waits and its beginning is lost.
   bool UserKeyDown(int key_code, int shift);
   void UserKeyUp(int key_code, int shift);
   // A modal window or menu is about to take the keyboard: KeyUp as at UserDeactivate, at once even
@@ -761,6 +770,7 @@ class Form : public Container {
 
  protected:
   void SizeChanged() override;
+  void Placed(bool changed) override;
 
  private:
   friend class Control;
@@ -784,6 +794,7 @@ class Form : public Container {
   double framed_width_ = 0;    // the outer size that the client area belongs to
   double framed_height_ = 0;
   int event_level_ = 0;
+  bool placed_ = false;
   std::vector<std::pair<int, int>> key_ups_;  // waiting, as key code and shift
   // Their addresses are the keys of what waits for the end of handlers.
   struct {

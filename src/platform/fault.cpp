@@ -35,6 +35,8 @@ std::string FaultDescription(int number) {
       return "Device I/O error";
     case kDiskFull:
       return "Disk full";
+    case kPastEnd:
+      return "Input past end of file";
     case kMissingElement:
       return "Control array element does not exist";
     case kBadValue:

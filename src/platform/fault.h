@@ -22,6 +22,7 @@ enum FaultNumber : int {
   kFileAccess = 75,          // a file or folder that cannot be read, written or deleted
   kDeviceFault = 57,         // an input or output fault of the device
   kDiskFull = 61,            // no room for what is to be written
+  kPastEnd = 62,             // a line where a file has none left
   kMissingElement = 340,     // a control array element that was never created
   kBadValue = 380,           // a property value that the control refuses
   kBadPicture = 481,         // a file that is no readable picture

@@ -3,6 +3,7 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <time.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -150,6 +151,18 @@ std::int64_t FileLength(std::string_view path) {
   const auto status = Status(ResolvePath(path));
   if (!status) RaiseFault(kFileNotFound);
   return status->st_size;
+}
+
+FileStamp StampOfFile(std::string_view path) {
+  constexpr std::int64_t kNanoseconds = 1'000'000'000;
+  constexpr std::int64_t kCoarsestClock = 3 * kNanoseconds;  // two seconds on some file systems
+  const auto status = CanBeName(path) ? Status(ResolvePath(path)) : std::nullopt;
+  if (!status || !S_ISREG(status->st_mode)) RaiseFault(kFileNotFound);
+  timespec now{};
+  clock_gettime(CLOCK_REALTIME, &now);
+  const std::int64_t changed = status->st_ctim.tv_sec * kNanoseconds + status->st_ctim.tv_nsec;
+  const std::int64_t age = now.tv_sec * kNanoseconds + now.tv_nsec - changed;
+  return {status->st_dev, status->st_ino, status->st_size, changed, age > kCoarsestClock};
 }
 
 std::string ReadFile(std::string_view path) { return ReadFileStart(path, std::string::npos); }

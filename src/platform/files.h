@@ -19,6 +19,23 @@ bool FileExists(std::string_view path);
 // Length in bytes. Faults 53 when there is no such file.
 std::int64_t FileLength(std::string_view path);
 
+// What tells one state of a file from another: which file it is, its length and when it last
+// changed.
+struct FileStamp {
+  std::uint64_t device = 0;
+  std::uint64_t number = 0;
+  std::int64_t length = 0;
+  std::int64_t changed = 0;  // nanoseconds since 1970
+  // Whether it changed so long ago that a further change is sure to show in `changed`: clocks of
+  // files are coarse.
+  bool settled = false;
+
+  bool operator==(const FileStamp&) const = default;
+};
+
+// The present state of a file. Faults 53 when there is no such file.
+FileStamp StampOfFile(std::string_view path);
+
 // The whole file. Faults 53 when there is none, 75 when it cannot be read, 57 on a device fault.
 std::string ReadFile(std::string_view path);
 

@@ -24,7 +24,8 @@ class FontService {
   virtual double Width(std::string_view text, const FontSpec& font) = 0;  // advance width
   virtual double Ascent(const FontSpec& font) = 0;
   virtual double Descent(const FontSpec& font) = 0;  // below the baseline, positive
-  virtual std::vector<std::string> Families() = 0;   // scalable families, one entry each
+  // Scalable families, one entry each; also names that a font of the same measures answers to.
+  virtual std::vector<std::string> Families() = 0;
 };
 
 // The service in force. Until the platform sets one it is FixedFonts.

@@ -56,6 +56,12 @@ void Form::SetState(WindowState value) {
   form_events_->Resize.Raise(-1);
 }
 
+// The first place is news even where its numbers are those that it has: 0, 0 is a place too.
+void Form::Placed(bool changed) {
+  const bool first = !std::exchange(placed_, true);
+  if (changed || first) Notify(Aspect::kGeometry);
+}
+
 void Form::SizeChanged() {
   const double client_width = Scale().WidthTwips() + Width() - framed_width_;
   const double client_height = Scale().HeightTwips() + Height() - framed_height_;
@@ -127,12 +133,11 @@ void Form::UserDeactivate() {
   KeyboardLeaves();
 }
 
-// Keys without a code of their own (commas, umlauts) have nothing that a handler could take away.
 bool Form::UserKeyDown(int key_code, int shift) {
   if (Waits()) return false;
-  int left = key_code;
-  form_events_->KeyDown.Raise(-1, left, shift);
-  return left != 0 || key_code == 0;
+  const bool has_code = key_code != 0;
+  form_events_->KeyDown.Raise(-1, key_code, shift);
+  return key_code != 0 || !has_code;
 }
 
 void Form::UserKeyUp(int key_code, int shift) {

@@ -220,7 +220,7 @@ std::string NotFinite(double value) {
   return value < 0 ? "-Infinity" : "Infinity";
 }
 
-// --- dates ---
+// --- dates and times ---
 
 std::string Padded(int number, std::size_t width) {
   std::string out = std::to_string(number);
@@ -234,6 +234,40 @@ std::optional<std::string> DatePart(char letter, std::size_t count, const Date& 
   if (letter == 'M' && count <= 2) return Padded(date.month, count);
   if (letter == 'y') return Padded(date.year, 4);
   return std::nullopt;
+}
+
+// The same for a time.
+std::optional<std::string> TimePart(char letter, std::size_t count, const TimeOfDay& time) {
+  if (count > 2) return std::nullopt;
+  if (letter == 'h') return Padded((time.hour + 11) % 12 + 1, count);
+  if (letter == 'H') return Padded(time.hour, count);
+  if (letter == 'm') return Padded(time.minute, count);
+  if (letter == 's') return Padded(time.second, count);
+  if (letter == 't') return time.hour < 12 ? Locale().before_noon : Locale().after_noon;
+  return std::nullopt;
+}
+
+// A pattern with its runs of letters replaced by what `part_of(letter, count)` makes of them. What
+// it knows nothing of stands for itself, and so does all between single quotes.
+template <class PartOf>
+std::string Filled(const std::string& pattern, PartOf part_of) {
+  std::string out;
+  bool quoted = false;
+  for (std::size_t i = 0; i < pattern.size();) {
+    const std::size_t next = std::min(pattern.find_first_not_of(pattern[i], i), pattern.size());
+    const std::optional<std::string> part = quoted ? std::nullopt : part_of(pattern[i], next - i);
+    if (part) {
+      out += *part;
+      i = next;
+      continue;
+    }
+    if (pattern[i] == '\'')
+      quoted = !quoted;
+    else
+      out.push_back(pattern[i]);
+    ++i;
+  }
+  return out;
 }
 
 }  // namespace
@@ -292,24 +326,13 @@ std::string FormatCurrency(double value) {
 }
 
 std::string FormatShortDate(const Date& date) {
-  const std::string& form = Locale().short_date;
-  std::string out;
-  bool quoted = false;
-  for (std::size_t i = 0; i < form.size();) {
-    const std::size_t next = std::min(form.find_first_not_of(form[i], i), form.size());
-    const auto part = quoted ? std::nullopt : DatePart(form[i], next - i, date);
-    if (part) {
-      out += *part;
-      i = next;
-      continue;
-    }
-    if (form[i] == '\'')
-      quoted = !quoted;
-    else
-      out.push_back(form[i]);
-    ++i;
-  }
-  return out;
+  return Filled(Locale().short_date,
+                [&](char letter, std::size_t count) { return DatePart(letter, count, date); });
+}
+
+std::string FormatTime(const TimeOfDay& time) {
+  return Filled(Locale().time,
+                [&](char letter, std::size_t count) { return TimePart(letter, count, time); });
 }
 
 std::string FormatNumber(double value, int digits) {

@@ -16,6 +16,14 @@ struct Date {
   bool operator==(const Date&) const = default;
 };
 
+// A time of the day, on the 24-hour clock.
+struct TimeOfDay {
+  int hour = 0;
+  int minute = 0;
+  int second = 0;
+  bool operator==(const TimeOfDay&) const = default;
+};
+
 // `date` moved by `days`, proleptic Gregorian. Faults 6 outside the years 100 to 9999.
 Date AddDays(const Date& date, std::int64_t days);
 
@@ -29,6 +37,10 @@ struct UserLocale {
   int currency_digits = 2;  // digits after the decimal symbol
   // d, dd, M, MM, yyyy; everything else stands for itself, in single quotes these letters too
   std::string short_date = "M/d/yyyy";
+  // h, hh (of twelve), H, HH (of 24), m, mm, s, ss, tt (the half of the day); otherwise as above
+  std::string time = "h:mm:ss tt";
+  std::string before_noon = "AM";  // what tt stands for
+  std::string after_noon = "PM";
   int code_page = 1252;  // Windows code page of the language
   bool operator==(const UserLocale&) const = default;
 };
@@ -61,6 +73,9 @@ std::string FormatCurrency(double value);
 
 // "short date".
 std::string FormatShortDate(const Date& date);
+
+// The time with its seconds.
+std::string FormatTime(const TimeOfDay& time);
 
 // `value` as plain decimal text with up to `digits` significant digits and the user's decimal
 // symbol, no padding zeros, an exponent only where the magnitude asks for one.

@@ -90,8 +90,9 @@ void Control::ForgetPress() {
   std::erase_if(presses, mine);
 }
 
+// Mice have more buttons than handlers know. Those would be down and never up.
 void Control::UserMouseDown(int button, int shift, double x_twips, double y_twips) {
-  if (Waits() || !IsUsable()) return;
+  if (button == 0 || Waits() || !IsUsable()) return;
   ReleaseEverywhere(this);  // a press elsewhere can only have lost its release
   if (const MousePress* lost = PressOn(this)) UserMouseUp(button, shift, lost->x, lost->y);
   Control& target = MouseTarget(x_twips, y_twips);

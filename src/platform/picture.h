@@ -21,8 +21,9 @@ class Picture {
 using PicturePtr = std::shared_ptr<const Picture>;
 
 // Reads the picture file `path`: first frame, no turn by EXIF. Faults 53 when the file is missing,
-// 481 when it is no readable picture or no reader is set. Reads anew at each call; nothing is
-// cached.
+// 481 when it is no readable picture or no reader is set. Looks at the file at each call, so that
+// one that is gone, broken or replaced shows at once; while it is the same file, of the same length
+// and time of change, it hands out the same picture without reading it again.
 PicturePtr LoadPicture(std::string_view path);
 
 // The reader that the platform provides: bytes of a file to a picture, null when unreadable.

@@ -22,9 +22,15 @@ class PrinterDevice {
   virtual void SetPaperSize(int value) = 0;    // faults 380 for other values
   virtual double Width() const = 0;            // of the paper
   virtual double Height() const = 0;
+  // Opens the job, unless one is open: a printer that has to ask where it goes asks here. Faults
+  // 32755 when the user backs out, otherwise as painting would. What is painted without it opens
+  // the job likewise.
+  virtual void StartDoc() = 0;
   virtual void NewPage() = 0;  // ends the page, blank or not
-  virtual void EndDoc() = 0;   // sends the job; nothing when none is open
+  virtual void EndDoc() = 0;   // sends the job; one without a page is dropped
   virtual void KillDoc() = 0;  // drops the job
+  // Whether the open job has failed for good: nothing that is still painted will arrive.
+  virtual bool JobLost() const = 0;
 };
 
 // The printers of the system, replaceable in tests.

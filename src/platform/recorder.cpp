@@ -8,18 +8,6 @@ namespace {
 
 constexpr double kPointsPerInch = 72;
 
-Painted Entry(const Surface& surface, Painted::What what, double x1, double y1, double x2,
-              double y2) {
-  Painted entry;
-  entry.what = what;
-  entry.draw_mode = surface.DrawMode;
-  entry.x1 = x1;
-  entry.y1 = y1;
-  entry.x2 = x2;
-  entry.y2 = y2;
-  return entry;
-}
-
 }  // namespace
 
 RecordingSurface::RecordingSurface(double width_twips, double height_twips,
@@ -41,15 +29,30 @@ std::vector<std::string> RecordingSurface::Texts() const {
   return texts;
 }
 
+// Made in its place: symbols are timed on this surface, and their boxes should cost nothing else.
+Painted& RecordingSurface::Append(Painted::What what, double x1, double y1, double x2, double y2) {
+  Painted& entry = painted.emplace_back();
+  entry.what = what;
+  entry.draw_mode = DrawMode;
+  entry.x1 = x1;
+  entry.y1 = y1;
+  entry.x2 = x2;
+  entry.y2 = y2;
+  return entry;
+}
+
+Painted& RecordingSurface::Add(Painted::What what, double x1, double y1, double x2, double y2) {
+  DeviceOpen();
+  return Append(what, x1, y1, x2, y2);
+}
+
 void RecordingSurface::DeviceClear(Color color) {
-  Painted entry = Entry(*this, Painted::What::kClear, 0, 0, 0, 0);
-  entry.color = color;
-  painted.push_back(entry);
+  Append(Painted::What::kClear, 0, 0, 0, 0).color = color;
 }
 
 // One entry a page is enough: what comes first opens it.
 void RecordingSurface::DeviceOpen() {
-  if (painted.empty()) painted.push_back(Entry(*this, Painted::What::kOpen, 0, 0, 0, 0));
+  if (painted.empty()) Append(Painted::What::kOpen, 0, 0, 0, 0);
 }
 
 void RecordingSurface::DeviceText(double x, double y, double, std::string_view text,
@@ -57,40 +60,34 @@ void RecordingSurface::DeviceText(double x, double y, double, std::string_view t
   const double pixels_per_point = Scale().PixelsPerInch() / kPointsPerInch;
   const double width = Fonts().Width(text, font) * pixels_per_point;
   const double height = (Fonts().Ascent(font) + Fonts().Descent(font)) * pixels_per_point;
-  Painted entry = Entry(*this, Painted::What::kText, x, y, x + width, y + height);
+  Painted& entry = Add(Painted::What::kText, x, y, x + width, y + height);
   entry.text = text;
   entry.font = font;
   entry.color = color;
-  painted.push_back(entry);
 }
 
 void RecordingSurface::DeviceBox(double x1, double y1, double x2, double y2, Color color) {
-  Painted entry = Entry(*this, Painted::What::kBox, x1, y1, x2, y2);
-  entry.color = color;
-  painted.push_back(entry);
+  Add(Painted::What::kBox, x1, y1, x2, y2).color = color;
 }
 
 void RecordingSurface::DeviceShape(ShapeKind kind, double x1, double y1, double x2, double y2,
                                    double corner_width, double corner_height, const Pen& pen,
                                    const Brush& brush) {
-  Painted entry = Entry(*this, Painted::What::kShape, x1, y1, x2, y2);
+  Painted& entry = Add(Painted::What::kShape, x1, y1, x2, y2);
   entry.shape = kind;
   entry.corner_width = corner_width;
   entry.corner_height = corner_height;
   entry.pen = pen;
   entry.brush = brush;
-  painted.push_back(entry);
 }
 
 void RecordingSurface::DeviceLine(double x1, double y1, double x2, double y2, const Pen& pen) {
-  Painted entry = Entry(*this, Painted::What::kLine, x1, y1, x2, y2);
-  entry.pen = pen;
-  painted.push_back(entry);
+  Add(Painted::What::kLine, x1, y1, x2, y2).pen = pen;
 }
 
 void RecordingSurface::DevicePicture(const Picture&, double x, double y, double width,
                                      double height) {
-  painted.push_back(Entry(*this, Painted::What::kPicture, x, y, x + width, y + height));
+  Add(Painted::What::kPicture, x, y, x + width, y + height);
 }
 
 }  // namespace tagwright

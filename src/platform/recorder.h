@@ -21,6 +21,9 @@ struct Painted {
   Pen pen;
   Brush brush;
   int draw_mode = kCopyPen;
+
+  // Written out: a defaulted one wipes the whole entry before it fills it in.
+  Painted() {}
 };
 
 class RecordingSurface : public Surface {
@@ -37,7 +40,7 @@ class RecordingSurface : public Surface {
 
  protected:
   void DeviceClear(Color color) override;
-  void DeviceOpen() override;
+  void DeviceOpen() final;
   void DeviceText(double x, double y, double ascent, std::string_view text, const FontSpec& font,
                   Color color) override;
   void DeviceBox(double x1, double y1, double x2, double y2, Color color) override;
@@ -46,6 +49,10 @@ class RecordingSurface : public Surface {
   void DeviceLine(double x1, double y1, double x2, double y2, const Pen& pen) override;
   void DevicePicture(const Picture& picture, double x, double y, double width,
                      double height) override;
+
+ private:
+  Painted& Append(Painted::What what, double x1, double y1, double x2, double y2);
+  Painted& Add(Painted::What what, double x1, double y1, double x2, double y2);  // opens first
 };
 
 }  // namespace tagwright

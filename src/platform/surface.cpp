@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <initializer_list>
 
 namespace tagwright {
 namespace {
@@ -11,8 +10,9 @@ constexpr double kTwipsPerPoint = 20;
 constexpr double kPointsPerInch = 72;
 
 // Records come from files, and a file can hold anything: what lies nowhere is not painted.
-bool Finite(std::initializer_list<double> values) {
-  return std::all_of(values.begin(), values.end(), [](double v) { return std::isfinite(v); });
+template <class... Doubles>
+bool Finite(Doubles... values) {
+  return (std::isfinite(values) && ...);
 }
 
 bool Measurable(const FontSpec& font) { return std::isfinite(font.Size) && font.Size > 0; }
@@ -52,19 +52,20 @@ double Surface::TextHeight(std::string_view text) const {
 }
 
 void Surface::Print(std::string_view text) {
-  DeviceOpen();
   ForEachLine(text, [&](std::string_view line) { PrintLine(line); });
 }
 
 void Surface::PrintLine(std::string_view line) {
-  const double height = TextHeight({});
-  if (!line.empty() && height > 0 && Finite({CurrentX, CurrentY})) {
+  const double height = LineHeight(Font) * kTwipsPerPoint / scale_->UnitY();
+  if (!line.empty() && height > 0 && Finite(CurrentX, CurrentY)) {
     if (!FontTransparent) {
       Line(CurrentX, CurrentY, CurrentX + TextWidth(line), CurrentY + height, BackColor);
     }
     const double pixels_per_point = scale_->PixelsPerInch() / kPointsPerInch;
     DeviceText(PixelX(CurrentX), PixelY(CurrentY), Fonts().Ascent(Font) * pixels_per_point, line,
                Font, ForeColor);
+  } else {
+    DeviceOpen();
   }
   CurrentX = 0;
   CurrentY += height;
@@ -73,16 +74,14 @@ void Surface::PrintLine(std::string_view line) {
 // --- boxes, pictures ----------------------------------------------------------------------------
 
 void Surface::Line(double x1, double y1, double x2, double y2, Color color) {
-  DeviceOpen();
-  if (!Finite({x1, y1, x2, y2})) return;
+  if (!Finite(x1, y1, x2, y2)) return DeviceOpen();
   DeviceBox(PixelX(std::min(x1, x2)), PixelY(std::min(y1, y2)), PixelX(std::max(x1, x2)),
             PixelY(std::max(y1, y2)), color);
 }
 
 void Surface::PaintPicture(const PicturePtr& picture, double x, double y, double width,
                            double height) {
-  DeviceOpen();
-  if (!picture || !Finite({x, y, width, height})) return;
+  if (!picture || !Finite(x, y, width, height)) return DeviceOpen();
   DevicePicture(*picture, PixelX(x), PixelY(y), PixelX(width), PixelY(height));
 }
 
@@ -100,8 +99,11 @@ void Surface::MoveToEx(double x, double y) {
 }
 
 void Surface::LineTo(double x, double y) {
-  DeviceOpen();
-  if (Finite({pen_x_, pen_y_, x, y})) DeviceLine(pen_x_, pen_y_, x, y, pen_);
+  if (Finite(pen_x_, pen_y_, x, y)) {
+    DeviceLine(pen_x_, pen_y_, x, y, pen_);
+  } else {
+    DeviceOpen();
+  }
   MoveToEx(x, y);
 }
 
@@ -119,8 +121,7 @@ void Surface::Ellipse(double x1, double y1, double x2, double y2) {
 
 void Surface::Shape(ShapeKind kind, double x1, double y1, double x2, double y2, double corner_width,
                     double corner_height) {
-  DeviceOpen();
-  if (!Finite({x1, y1, x2, y2, corner_width, corner_height})) return;
+  if (!Finite(x1, y1, x2, y2, corner_width, corner_height)) return DeviceOpen();
   DeviceShape(kind, x1, y1, x2, y2, corner_width, corner_height, pen_, brush_);
 }
 

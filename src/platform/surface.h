@@ -111,7 +111,8 @@ class Surface {
  protected:
   // --- what a device draws; coordinates are device pixels from the surface's top left corner ---
   virtual void DeviceClear(Color color) = 0;
-  // Called before anything is drawn: a printed page opens here.
+  // Called where there is nothing to draw: a printed page opens here all the same. Whatever is
+  // drawn opens it by itself.
   virtual void DeviceOpen() {}
   // One line of text; (x, y) is the top left, the baseline lies `ascent` lower. `font.Size` is in
   // points; the device knows its pixels an inch.

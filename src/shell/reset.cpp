@@ -9,6 +9,8 @@
 #include "editing/selection.h"
 #include "editing/undo.h"
 #include "layouts/label_layouts.h"
+#include "layouts/serial_number.h"
+#include "output/data_sources.h"
 #include "platform/desktop.h"
 #include "platform/event.h"
 #include "platform/printer.h"
@@ -34,6 +36,7 @@ void ResetInstallation() {
 
 void ResetTools() {
   FontComboTyped = kFalse;
+  serial_number::ComboTyped = kFalse;
   ResetBarcodePanel();
   ResetBarcodeState();
   ResetMagneticRules();
@@ -54,6 +57,7 @@ void ResetProgram() {
   ForgetAfterHandlers(nullptr);
   SetScreenMousePointer(0);
   ResetPrinter();
+  ResetDataSources();
   ResetInstallation();
   ResetDocumentState();
   ResetTools();

@@ -13,6 +13,7 @@
 #include "editing/magnetic_rule.h"
 #include "forms/frmAbout.h"
 #include "forms/frmMain.h"
+#include "forms/frmSerialNumber.h"
 #include "layouts/label_layouts.h"
 #include "layouts/layout_list.h"
 #include "platform/desktop.h"
@@ -298,6 +299,7 @@ void StartProgram() {
   ResetProgram();
   WireForm<FrmMain> = WireMainWindow;
   WireForm<FrmAbout> = WireAboutWindow;
+  WireForm<FrmSerialNumber> = WireSerialNumberWindow;
   Load(frmMain);
   LayOutFirstTime();
   Show(frmMain);

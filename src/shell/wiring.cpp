@@ -12,6 +12,11 @@
 #include "editing/selection.h"
 #include "editing/spoken_selection.h"
 #include "layouts/layout_list.h"
+#include "layouts/serial_number.h"
+#include "output/data_fields.h"
+#include "output/data_sources.h"
+#include "output/print_job.h"
+#include "output/print_panel.h"
 #include "shell/about.h"
 #include "shell/shutdown.h"
 #include "shell/startup.h"
@@ -46,6 +51,7 @@ void WireMenus(FrmMain& f) {
   f.mnuFileSave.Events().Click = mnuFileSave_Click;
   f.mnuFileSaveAs.Events().Click = mnuFileSaveAs_Click;
   f.mnuFileImport.Events().Click = mnuFileImport_Click;
+  f.mnuFileSerial.Events().Click = mnuFileSerial_Click;
   f.mnuFileOld.Events().Click = mnuFileOld_Click;
   f.mnuFileExit.Events().Click = mnuFileExit_Click;
 
@@ -155,6 +161,26 @@ void WireBarcodes(FrmMain& f) {
   f.cmdBCode.Events().Click = cmdBCode_Click;
 }
 
+void WireDataSources(FrmMain& f) {
+  f.cboImportType.Events().Click = cboImportType_Click;
+  f.cmdBrowse.Events().Click = cmdBrowse_Click;
+  f.cboRSet.Events().Click = cboRSet_Click;
+  f.chkFirstRow.Events().Click = chkFirstRow_Click;
+  f.lstFields.Events().DblClick = lstFields_DblClick;
+  f.mnuField.Events().Click = mnuField_Click;
+  f.mnuFBC.Events().Click = mnuFBC_Click;
+  f.cmdSerNo.Events().Click = cmdSerNo_Click;
+}
+
+void WirePrinting(FrmMain& f) {
+  f.mnuFilePrint.Events().Click = mnuFilePrint_Click;
+  f.cboPrinter.Events().Click = cboPrinter_Click;
+  f.txtNoCopies.Events().KeyPress = [](int, int&) { txtNoCopies_KeyPress(); };
+  f.txtPrintFrom.Events().KeyPress = [](int, int&) { txtPrintFrom_KeyPress(); };
+  f.txtPrintTo.Events().KeyPress = [](int, int&) { txtPrintTo_KeyPress(); };
+  f.cmdPrint.Events().Click = cmdPrint_Click;
+}
+
 // Off the board the pointer is an arrow again. picPicture, picPrint and picMag have no such
 // handler: the pointer stays as it came.
 void WireHover(FrmMain& f) {
@@ -199,36 +225,11 @@ void WireArrangingLater(FrmMain& f) {
   f.cmdSpcVert.Events().Click = NotThereYet;
 }
 
-// The formats of data fields, and the size of those shown as barcodes.
-void WireFieldBarcodesLater(FrmMain& f) {
-  f.mnuField.Events().Click = NotThereYet;
-  f.mnuFBC.Events().Click = NotThereYet;
-}
+// The preview.
+void WirePreviewLater(FrmMain& f) { f.cmdPreview.Events().Click = NotThereYet; }
 
-// Data sources: no file is read, no column is listed and no data field is placed.
-void WireDataSourcesLater(FrmMain& f) {
-  f.cboImportType.Events().Click = NotThereYet;
-  f.cmdBrowse.Events().Click = NotThereYet;
-  f.cboRSet.Events().Click = NotThereYet;
-  f.chkFirstRow.Events().Click = NotThereYet;
-  f.lstFields.Events().DblClick = NotThereYet;
-}
-
-// Printing and the preview.
-void WirePrintingLater(FrmMain& f) {
-  f.mnuFilePrint.Events().Click = NotThereYet;
-  f.cboPrinter.Events().Click = NotThereYet;
-  f.txtPrintFrom.Events().KeyPress = NotThereYet;
-  f.txtPrintTo.Events().KeyPress = NotThereYet;
-  f.txtNoCopies.Events().KeyPress = NotThereYet;
-  f.cmdPrint.Events().Click = NotThereYet;
-  f.cmdPreview.Events().Click = NotThereYet;
-}
-
-// The dialogs for serial numbers, label layouts and default settings.
+// The dialogs for label layouts and default settings.
 void WireDialogsLater(FrmMain& f) {
-  f.mnuFileSerial.Events().Click = NotThereYet;
-  f.cmdSerNo.Events().Click = NotThereYet;
   f.mnuFileDesign.Events().Click = NotThereYet;
   f.cmdDesLabel.Events().Click = NotThereYet;
   f.mnuFileDefault.Events().Click = NotThereYet;
@@ -236,9 +237,7 @@ void WireDialogsLater(FrmMain& f) {
 
 void WireLater(FrmMain& f) {
   WireArrangingLater(f);
-  WireFieldBarcodesLater(f);
-  WireDataSourcesLater(f);
-  WirePrintingLater(f);
+  WirePreviewLater(f);
   WireDialogsLater(f);
 }
 
@@ -255,6 +254,8 @@ void WireMainWindow(FrmMain& f) {
   WireSpeech(f);
   WireContextMenus(f);
   WireBarcodes(f);
+  WireDataSources(f);
+  WirePrinting(f);
   WireHover(f);
   WireLater(f);
 }
@@ -262,6 +263,27 @@ void WireMainWindow(FrmMain& f) {
 void WireAboutWindow(FrmAbout& f) {
   f.WindowEvents().Load = about::Form_Load;
   f.cmdOK.Events().Click = about::cmdOK_Click;
+}
+
+void WireSerialNumberWindow(FrmSerialNumber& f) {
+  namespace sn = serial_number;
+  f.WindowEvents().Load = sn::Form_Load;
+  f.txtSerPref.Events().Change = sn::txtSerPref_Change;
+  f.txtSerIncr.Events().KeyPress = sn::txtSerIncr_KeyPress;
+  f.cboInc.Events().Click = sn::cboInc_Click;
+  f.cboInc.Events().GotFocus = sn::cboInc_GotFocus;
+  f.cboInc.Events().KeyPress = sn::cboInc_KeyPress;
+  f.cboInc.Events().LostFocus = sn::cboInc_LostFocus;
+  f.chkBCode.Events().Click = sn::chkBCode_Click;
+  f.cboBCode.Events().Click = sn::cboBCode_Click;
+  f.cboBCode.Events().GotFocus = sn::cboBCode_GotFocus;
+  f.cboBCode.Events().KeyPress = sn::cboBCode_KeyPress;
+  f.cboBCode.Events().LostFocus = sn::cboBCode_LostFocus;
+  f.txtBCodeWid.Events().Change = sn::txtBCodeWid_Change;
+  f.txtBCodeWid.Events().KeyPress = sn::txtBCodeWid_KeyPress;
+  f.chkTxt.Events().Click = sn::chkTxt_Click;
+  f.cmdSave.Events().Click = sn::cmdSave_Click;
+  f.cmdCancel.Events().Click = sn::cmdCancel_Click;
 }
 
 }  // namespace tagwright

@@ -3,6 +3,7 @@
 
 #include "forms/frmAbout.h"
 #include "forms/frmMain.h"
+#include "forms/frmSerialNumber.h"
 
 namespace tagwright {
 
@@ -12,5 +13,8 @@ void WireMainWindow(FrmMain& f);
 
 // Likewise for the window "About".
 void WireAboutWindow(FrmAbout& f);
+
+// Likewise for the window "Serial Numbers".
+void WireSerialNumberWindow(FrmSerialNumber& f);
 
 }  // namespace tagwright

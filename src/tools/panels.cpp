@@ -1,15 +1,47 @@
 #include "tools/panels.h"
 
+#include <string>
+
+#include "common/prog_settings.h"
 #include "document/objects.h"
 #include "forms/frmMain.h"
+#include "platform/fault.h"
+#include "platform/locale.h"
+#include "tools/font_box.h"
 
 namespace tagwright {
+namespace {
+
+// The last data field on the label, null for none.
+const ObjectRecord* LastField() {
+  for (int i = ObjectUB; i >= 0; --i) {
+    if (ObjectAt(i).ObjType == kDataField) return &ObjectAt(i);
+  }
+  return nullptr;
+}
+
+void SelectStyle(const std::string& font, double size) {
+  CarryOn([&] { SelectFontRow(font); });
+  CarryOn([&] { SelectSizeRow(FormatNumber(size)); });
+}
+
+// The next data field takes the style of the last one, or on a label without any the default.
+void SelectStyleOfLastField() {
+  if (const ObjectRecord* field = LastField()) {
+    SelectStyle(field->FontName.Trimmed(), field->FontSize);
+  } else {
+    SelectStyle(ProgSettings.DefaultFontName.Trimmed(), ProgSettings.DefaultFontSize);
+  }
+}
+
+}  // namespace
 
 void mnuFileImport_Click() {
   CurrentTool = 0;
   CursorShape = 0;
   frmMain.SetMousePointer(0);
   ShowPanel(frmMain.picFields);
+  SelectStyleOfLastField();
   ShowFontBoxes(9840, 600);
 }
 

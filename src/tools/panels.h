@@ -6,7 +6,7 @@
 namespace tagwright {
 
 // Disarms the tool, puts the pointer back and brings the panel of data sources forward with the
-// font boxes.
+// font boxes, which take the style of the label's last data field, or without one the default.
 void mnuFileImport_Click();
 
 }  // namespace tagwright

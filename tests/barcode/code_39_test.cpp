@@ -45,9 +45,10 @@ TEST_F(Code39Test, TheWholeTable) {
   EXPECT_TRUE(Code39Symbol("AB", true).empty());
 }
 
-TEST_F(Code39Test, TheCursorEndsOneModuleBehindTheLastStarOrNot) {
+TEST_F(Code39Test, TheLastStarHasNoGapBehindIt) {
   Draw("A", 9, 38);  // modules of 1
   EXPECT_NEAR(Bars().back().right, 48, 1e-5);
+  EXPECT_NEAR(CursorX, 48, 1e-5);
 }
 
 TEST_F(Code39Test, TheTextHasNoStars) {

@@ -104,6 +104,53 @@ TEST_F(BarcodePropertiesTest, BoxesOfFormats4To11StayWithinTheirWidth) {
   }
 }
 
+// Whatever the symbol, all of the data stands below its bars, once and centred.
+TEST_F(BarcodePropertiesTest, TextOfFormats4To11StandsCentredBelowTheBars) {
+  for (int i = 0; i < 2000; ++i) {
+    Symbol symbol{Data(kOfAllFormats, 60), static_cast<std::int16_t>(Whole(4, 11))};
+    symbol.x = static_cast<float>(Real(-100, 200));
+    symbol.y = static_cast<float>(Real(-100, 200));
+    symbol.width = Real(1, 200);
+    symbol.height = Real(1, 50);
+    symbol.font_size = Real(1, 20);
+    symbol.text = true;
+    Draw(symbol);
+    const double letter = symbol.font_size / kMillimetreFont;
+    const double text_width = 0.5 * letter * static_cast<double>(symbol.data.size());
+    const auto texts = Texts();
+    ASSERT_EQ(texts.size(), 1U) << symbol.data;
+    EXPECT_EQ(texts[0].text, symbol.data);
+    EXPECT_NEAR(texts[0].x1, symbol.x + symbol.width / 2 - text_width / 2, 1e-9) << symbol.data;
+    EXPECT_NEAR(texts[0].y1, symbol.y + symbol.height - 0.85 * 1.1 * letter, 1e-9) << symbol.data;
+  }
+}
+
+// One module right of a left digit's own space, at the left edge of a right digit.
+TEST_F(BarcodePropertiesTest, DigitsOfUpcAndEan8StandUnderTheirBars) {
+  for (int i = 0; i < 1000; ++i) {
+    const bool upc = Whole(0, 1) == 1;
+    const int digits = upc ? 12 : 8;
+    Symbol symbol{Data(kOfAllFormats, 1), static_cast<std::int16_t>(upc ? 0 : 3)};
+    while (static_cast<int>(symbol.data.size()) < digits) symbol.data += Data(kOfAllFormats, 1);
+    symbol.x = static_cast<float>(Real(-100, 200));
+    symbol.width = Real(1, 200);
+    symbol.height = Real(10, 50);
+    symbol.font_size = Real(1, 12);
+    symbol.text = true;
+    Draw(symbol);
+    const auto texts = Texts();
+    ASSERT_EQ(texts.size(), symbol.data.size());
+    const double letter = symbol.font_size / kMillimetreFont;
+    for (int k = 0; k < digits; ++k) {
+      const Painted& text = texts[static_cast<std::size_t>(k)];
+      const double modules = 3 + 7 * k + (2 * k < digits ? 1 : 5);
+      EXPECT_EQ(text.text, symbol.data.substr(static_cast<std::size_t>(k), 1));
+      EXPECT_NEAR(text.x1, symbol.x + modules * ModuleWidth, 1e-3) << symbol.data;
+      EXPECT_NEAR(text.y1, symbol.y + symbol.height - 0.65 * 1.1 * letter - 1.5 + 0.25, 1e-9);
+    }
+  }
+}
+
 TEST_F(BarcodePropertiesTest, UpcAndEanFollowTheirDivisors) {
   for (int i = 0; i < 2000; ++i) {
     const int format = Whole(0, 3);

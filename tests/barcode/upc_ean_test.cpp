@@ -198,6 +198,33 @@ TEST_F(UpcEanTest, GuardsReachLowerThanDigitsFromTheSameTop) {
   EXPECT_DOUBLE_EQ(BarHeight, 13.5);
 }
 
+TEST_F(UpcEanTest, AGuardAloneIsLongerForOnePatternAndHasNoText) {
+  CursorX = 10;
+  CursorY = 20;
+  ModuleWidth = 1;
+  BarHeight = 5;
+  PrintChars = true;
+  DrawGuard(1);
+  EXPECT_EQ(Picture(), "101");
+  EXPECT_DOUBLE_EQ(Bars()[0].left, 11);
+  EXPECT_DOUBLE_EQ(Bars()[0].bottom, 26.25);
+  EXPECT_FLOAT_EQ(CursorX, 15);
+  EXPECT_DOUBLE_EQ(BarHeight, 5);
+  EXPECT_TRUE(Texts().empty());
+}
+
+TEST_F(UpcEanTest, ADigitIsPrintedBetweenItsTwoBars) {
+  Symbol symbol{"1", 1};
+  symbol.text = true;
+  Draw(symbol);
+  std::string order;
+  for (const Painted& entry : page.painted) {
+    if (entry.what == Painted::What::kBox) order += '|';
+    if (entry.what == Painted::What::kText) order += entry.text;
+  }
+  EXPECT_EQ(order, "|||1||||");
+}
+
 TEST_F(UpcEanTest, EachDigitStandsUnderItsOwnBars) {
   Symbol symbol{"12345670", 3};
   symbol.text = true;

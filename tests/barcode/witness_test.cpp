@@ -244,8 +244,9 @@ std::string PostalStates(const std::vector<std::string>& rows, const std::string
   const std::size_t track = rows.size() == 3 ? 1 : rows.size() - 1;
   std::string states;
   for (std::size_t at = 0; at < rows[track].size(); at += 2) {
-    const int up = has(rows[0], at) ? 1 : 0, down = rows.size() == 3 && has(rows[2], at) ? 2 : 0;
-    states += names[static_cast<std::size_t>(up + down)];
+    const std::size_t up = has(rows[0], at) ? 1 : 0;
+    const std::size_t down = rows.size() == 3 && has(rows[2], at) ? 2 : 0;
+    states += names[up + down];
   }
   return states;
 }

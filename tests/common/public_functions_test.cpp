@@ -378,6 +378,8 @@ class ScriptedRecordset : public Recordset {
   }
   void MoveNext() override { calls += "next "; }
   bool Eof() override { return false; }
+  int FieldCount() override { return 0; }
+  std::optional<std::string> Value(int) override { return std::nullopt; }
 
  private:
   std::int32_t count_;

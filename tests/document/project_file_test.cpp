@@ -546,6 +546,7 @@ TEST_F(ProjectFileTest, ImportTypeIsSetUnderTheGuard) {
 class TwoTables : public Database {
  public:
   std::vector<std::string> TableNames() override { return {"System", "Items"}; }
+  std::vector<std::string> FieldNames(const std::string&) override { return {}; }
   std::unique_ptr<Recordset> OpenRecordset(const std::string&) override { return nullptr; }
 };
 

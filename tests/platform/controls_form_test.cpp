@@ -31,10 +31,9 @@ TEST_F(FormTest, AKeyThatTheFormSwallowsGoesNoFurther) {
   EXPECT_FALSE(form.UserKeyDown(46, 0));
 }
 
-// Commas and umlauts have no code of their own, and are typed all the same.
 TEST_F(FormTest, AKeyWithoutACodeGoesOn) {
-  EXPECT_TRUE(form.UserKeyDown(0, 0));
-  EXPECT_EQ(log, (Lines{"down 0/0"}));
+  EXPECT_TRUE(form.UserKeyDown(0, kShift));
+  EXPECT_EQ(log, Lines{"down 0/1"});
 }
 
 TEST_F(FormTest, AKeyIsTheFormsBeforeItIsTheControls) {

@@ -138,6 +138,18 @@ TEST_F(GeometryTest, AMovedFormRaisesOneResizeWithAllItsValuesStored) {
   EXPECT_EQ(log, Lines{"9001"});
 }
 
+TEST_F(GeometryTest, TheFirstPlaceOfAFormIsNewsEvenAtTheCorner) {
+  CountingView view;
+  form.AttachView(&view);
+  EXPECT_FALSE(form.IsPlaced());
+  form.SetTop(0);
+  EXPECT_TRUE(form.IsPlaced());
+  EXPECT_EQ(view.Count(Aspect::kGeometry), 1);
+  form.SetTop(0);
+  EXPECT_EQ(view.Count(Aspect::kGeometry), 1);
+  form.AttachView(nullptr);
+}
+
 TEST_F(GeometryTest, AFormResizedInsideItsResizeRunsItAgain) {
   form.WindowEvents().Resize = [&] {
     Log(std::to_string(static_cast<int>(form.Height())));

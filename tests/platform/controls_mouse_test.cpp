@@ -1,4 +1,6 @@
 // The mouse: hits, presses, captures, and releases that come late.
+#include <cmath>
+
 #include "control_fixture.h"
 
 namespace tagwright {
@@ -74,6 +76,21 @@ TEST_F(MouseTest, HitsFollowTheContainersScale) {
   EXPECT_EQ(form.board.ChildAt(1150, 550), nullptr);
 }
 
+TEST_F(MouseTest, ALabelWhosePlaceIsNoNumberIsHitNowhere) {
+  const double no_number = std::nan("");
+  form.lblHold(2).Move(no_number, 0, 450, 450);
+  form.lblHold(1).Move(0, no_number, 3000, 1500);
+  form.lblHold(0).SetVisible(false);
+  EXPECT_EQ(form.board.ChildAt(10, 10), nullptr);
+  form.lblHold(0).SetVisible(true);
+  EXPECT_EQ(form.board.ChildAt(10, 10), &form.lblHold(0));
+}
+
+TEST_F(MouseTest, ALabelThatReachesFurtherThanAnyBoardIsHitOnTheBoard) {
+  form.lblHold(2).Move(-1e300, -1e300, 1e308, 1e308);
+  EXPECT_EQ(form.board.ChildAt(2000, 1000), &form.lblHold(2));
+}
+
 // --- coordinates --------------------------------------------------------------------------------
 
 TEST_F(MouseTest, XAndYAreTwipsFromTheLabelsCorner) {
@@ -131,6 +148,14 @@ TEST_F(MouseTest, AReleaseWithoutAPressRaisesNothing) {
   form.board.UserMouseDown(kLeftButton, 0, 10, 10);
   form.board.UserMouseUp(kRightButton, 0, 10, 10);
   EXPECT_EQ(log, Lines{"hold(0) down 1/0 at 10,10"});
+}
+
+TEST_F(MouseTest, AButtonThatNobodyKnowsIsNoPressAndCapturesNothing) {
+  form.board.UserMouseDown(0, 0, 10, 10);
+  form.board.UserMouseUp(0, 0, 10, 10);
+  EXPECT_EQ(form.board.Captured(), nullptr);
+  form.board.UserMouseDown(kLeftButton, 0, 700, 100);
+  EXPECT_EQ(log, Lines{"hold(2) down 1/0 at 100,100"});
 }
 
 TEST_F(MouseTest, AQuickSecondPressIsAPress) {

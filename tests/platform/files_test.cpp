@@ -160,6 +160,31 @@ TEST(FullDisk, IsFault61) {
   EXPECT_EQ(FaultOf([] { WriteFile("/dev/full", "x"); }), kDiskFull);
 }
 
+// --- states of a file ---
+
+TEST_F(FilesTest, TheStampTellsStatesOfAFileApart) {
+  Make("a.gif");
+  const FileStamp before = StampOfFile(folder.File("A.gif"));
+  EXPECT_EQ(StampOfFile(folder.File("a.gif")), before);
+  EXPECT_EQ(before.length, 5);
+  WriteFile(folder.File("a.gif"), "longer than before");
+  EXPECT_NE(StampOfFile(folder.File("a.gif")), before);
+  Make("b.gif");
+  EXPECT_NE(StampOfFile(folder.File("b.gif")).number, before.number);
+}
+
+TEST_F(FilesTest, OnlyAFileThatHasLongBeenThereIsSettled) {
+  Make("a.gif");
+  EXPECT_FALSE(StampOfFile(folder.File("a.gif")).settled);
+  EXPECT_TRUE(StampOfFile(TestDataFolder() + "/pictures/hole.gif").settled);
+}
+
+TEST_F(FilesTest, OnlyFilesHaveStamps) {
+  EXPECT_EQ(FaultOf([&] { StampOfFile(folder.File("missing")); }), kFileNotFound);
+  EXPECT_EQ(FaultOf([&] { StampOfFile(folder.Path()); }), kFileNotFound);
+  EXPECT_EQ(FaultOf([&] { StampOfFile(""); }), kFileNotFound);
+}
+
 // --- the desktop's files ---
 
 TEST(ExecutableFolder, IsWhereTheProgramLiesUnlessATestSaysOtherwise) {

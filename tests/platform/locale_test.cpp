@@ -247,6 +247,29 @@ TEST_F(LocaleTest, FormatNumberHasNoPadding) {
 
 // --- dates ---
 
+TEST_F(LocaleTest, TimeOfTwelveHoursHasItsHalfOfTheDay) {
+  EXPECT_EQ(FormatTime({0, 0, 0}), "12:00:00 AM");
+  EXPECT_EQ(FormatTime({1, 2, 3}), "1:02:03 AM");
+  EXPECT_EQ(FormatTime({11, 59, 59}), "11:59:59 AM");
+  EXPECT_EQ(FormatTime({12, 0, 0}), "12:00:00 PM");
+  EXPECT_EQ(FormatTime({23, 59, 59}), "11:59:59 PM");
+}
+
+TEST_F(LocaleTest, TimeOf24HoursHasNone) {
+  UserLocale german = GermanLocale();
+  german.time = "HH:mm:ss";
+  SetLocale(german);
+  EXPECT_EQ(FormatTime({0, 0, 0}), "00:00:00");
+  EXPECT_EQ(FormatTime({22, 42, 58}), "22:42:58");
+}
+
+TEST_F(LocaleTest, TimeKeepsWhatIsQuotedAndEveryOtherSign) {
+  UserLocale canadian;
+  canadian.time = "H 'h' m 'min' s 's'";
+  SetLocale(canadian);
+  EXPECT_EQ(FormatTime({7, 5, 9}), "7 h 5 min 9 s");
+}
+
 TEST_F(LocaleTest, ShortDateFollowsItsPattern) {
   const Date date{2026, 3, 4};
   EXPECT_EQ(FormatShortDate(date), "3/4/2026");

@@ -50,11 +50,64 @@ TEST_F(LoadPictureTest, HandsTheBytesAndTheLastPartOfTheNameToTheReader) {
   EXPECT_EQ(last_name, "Logo.GIF");
 }
 
-TEST_F(LoadPictureTest, ReadsAnewAtEachCall) {
+// Files of the tests' own data have lain there since long before the tests ran.
+const std::string kOldFile = TestDataFolder() + "/pictures/hole.gif";
+const std::string kOtherOldFile = TestDataFolder() + "/pictures/placeable.wmf";
+
+PicturePtr AnyReader(const std::string&, std::string_view) {
+  ++reads;
+  return BlankPicture(100, 50);
+}
+
+TEST_F(LoadPictureTest, AFileThatStaysTheSameIsReadOnce) {
+  SetPictureReader(AnyReader);
+  const PicturePtr first = LoadPicture(kOldFile);
+  EXPECT_EQ(LoadPicture(kOldFile), first);
+  EXPECT_EQ(reads, 1);
+}
+
+TEST_F(LoadPictureTest, ThePictureOfAnotherReaderIsNoneOfThisOne) {
+  SetPictureReader(AnyReader);
+  LoadPicture(kOldFile);
+  SetPictureReader(RememberingReader);
+  EXPECT_EQ(FaultOf(kOldFile), 481);
+}
+
+TEST_F(LoadPictureTest, AnotherFileUnderTheSameNameIsReadAnew) {
+  SetPictureReader(AnyReader);
+  const std::string name = folder.File("a.gif");
+  std::filesystem::create_symlink(kOldFile, name);
+  const PicturePtr first = LoadPicture(name);
+  std::filesystem::remove(name);
+  EXPECT_EQ(FaultOf(name), 53);
+  std::filesystem::create_symlink(kOtherOldFile, name);
+  EXPECT_NE(LoadPicture(name), first);
+  EXPECT_EQ(reads, 2);
+}
+
+// Within one tick of a file's clock a change would not show.
+TEST_F(LoadPictureTest, AFileThatHasJustChangedIsReadAnewAtEachCall) {
   WriteFile(folder.File("a.gif"), "good");
   LoadPicture(folder.File("a.gif"));
   LoadPicture(folder.File("a.gif"));
   EXPECT_EQ(reads, 2);
+  WriteFile(folder.File("a.gif"), "evil");
+  EXPECT_EQ(FaultOf(folder.File("a.gif")), 481);
+}
+
+TEST_F(LoadPictureTest, OfManyPicturesTheOldestAreForgotten) {
+  SetPictureReader(AnyReader);
+  LoadPicture(kOldFile);
+  for (int i = 0; i < 256; ++i) {
+    const std::string name = folder.File(std::to_string(i) + ".gif");
+    std::filesystem::create_symlink(kOldFile, name);
+    LoadPicture(name);
+  }
+  EXPECT_EQ(reads, 257);
+  LoadPicture(kOldFile);
+  EXPECT_EQ(reads, 258);
+  LoadPicture(folder.File("255.gif"));
+  EXPECT_EQ(reads, 258);
 }
 
 TEST_F(LoadPictureTest, FindsTheFileWhateverTheCaseOfItsName) {

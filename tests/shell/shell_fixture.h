@@ -4,6 +4,7 @@
 #include "common/prog_settings.h"
 #include "forms/frmAbout.h"
 #include "forms/frmMain.h"
+#include "forms/frmSerialNumber.h"
 #include "platform/files.h"
 #include "platform/windows.h"
 #include "shell/settings_file.h"
@@ -17,6 +18,7 @@ class ShellTest : public ProgramTest {
   ~ShellTest() override {
     WireForm<FrmMain> = nullptr;
     WireForm<FrmAbout> = nullptr;
+    WireForm<FrmSerialNumber> = nullptr;
   }
 
   std::string SettingsFile() const { return folder.File("progsettings.twd"); }

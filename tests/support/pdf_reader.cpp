@@ -97,8 +97,11 @@ class Reader {
     if (name == "stroke_path") return Open(PdfMark::What::kStroke, line);
     if (name == "fill_text") return Open(PdfMark::What::kText, line);
     if (name == "fill_image") return Picture(line);
+    if (name.starts_with("clip_")) clipping_ = true;
+    if (clipping_) return;
     if (name == "span") return Span(line);
     if (name == "g") return Glyph(line);
+    if (name == "moveto") NextPart();
     if (name == "moveto" || name == "lineto") Point(Number(line, "x"), Number(line, "y"));
     if (name == "curveto") Curve(line);
   }
@@ -112,6 +115,7 @@ class Reader {
   }
 
   void Open(PdfMark::What what, const std::string& line) {
+    clipping_ = false;
     transform_ = TransformOf(line);
     PdfMark mark;
     mark.what = what;
@@ -121,6 +125,17 @@ class Reader {
     mark.x1 = mark.y1 = std::numeric_limits<double>::infinity();
     mark.x2 = mark.y2 = -mark.x1;
     pages.marks.push_back(mark);
+  }
+
+  // Boxes that are filled together are one path of many parts, and each is a mark of its own.
+  void NextPart() {
+    if (pages.marks.empty()) return;
+    PdfMark part = pages.marks.back();
+    if (part.what != PdfMark::What::kFill || part.x1 > part.x2) return;
+    part.has_curves = false;
+    part.x1 = part.y1 = std::numeric_limits<double>::infinity();
+    part.x2 = part.y2 = -part.x1;
+    pages.marks.push_back(part);
   }
 
   void Point(double x, double y) {
@@ -176,7 +191,8 @@ class Reader {
 
   Transform transform_;
   double em_ = 1;
-  double end_ = 0;  // of the last glyph
+  double end_ = 0;         // of the last glyph
+  bool clipping_ = false;  // what comes limits the marks after it and is none itself
 };
 
 }  // namespace
@@ -196,8 +212,9 @@ PdfMark PdfPages::Text(const std::string& text) const {
   return {};
 }
 
-PdfPages ReadPdf(const std::string& path) {
-  const std::string output = OutputOf("mutool trace " + Quoted(path) + " 2>/dev/null");
+PdfPages ReadPdf(const std::string& path, const std::string& pages) {
+  const std::string output =
+      OutputOf("mutool trace " + Quoted(path) + " " + pages + " 2>/dev/null");
   EXPECT_FALSE(output.empty()) << "mutool could not read " << path;
   Reader reader;
   std::istringstream lines(output);

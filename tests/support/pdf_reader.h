@@ -35,7 +35,8 @@ struct PdfPages {
   PdfMark Text(const std::string& text) const;
 };
 
-// Fails the test when the file cannot be read.
-PdfPages ReadPdf(const std::string& path);
+// Fails the test when the file cannot be read. `pages` are those to read, as "3-7", or all; they
+// are counted from 1 either way.
+PdfPages ReadPdf(const std::string& path, const std::string& pages = "");
 
 }  // namespace tagwright

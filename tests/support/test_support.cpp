@@ -10,6 +10,7 @@
 #include "platform/clock.h"
 #include "platform/desktop.h"
 #include "platform/locale.h"
+#include "platform/progress.h"
 #include "platform/windows.h"
 
 namespace tagwright {
@@ -22,11 +23,6 @@ T Next(std::deque<T>& script, T otherwise) {
   script.pop_front();
   return value;
 }
-
-constexpr double kA4Width = 210 * kTwipsPerMillimetre;
-constexpr double kA4Height = 297 * kTwipsPerMillimetre;
-constexpr double kLetterWidth = 8.5 * kTwipsPerInch;
-constexpr double kLetterHeight = 11 * kTwipsPerInch;
 
 class SizedPicture : public Picture {
  public:
@@ -64,53 +60,6 @@ std::optional<std::int32_t> ScriptedDialogs::ChooseColor(std::int32_t) {
   return Next(colors, std::optional<std::int32_t>());
 }
 
-FakePrinter::FakePrinter(std::string name, double pixels_per_inch)
-    : name_(std::move(name)), pixels_per_inch_(pixels_per_inch) {
-  SetPaperSize(9);
-}
-
-void FakePrinter::SetOrientation(int value) {
-  if (value != 1 && value != 2) RaiseFault(kBadValue);
-  orientation_ = value;
-}
-
-void FakePrinter::SetPaperSize(int value) {
-  if (value != 1 && value != 9) RaiseFault(kBadValue);
-  paper_ = value;
-  page_ = std::make_unique<RecordingSurface>(Width(), Height(), pixels_per_inch_);
-  page_->Scale().SetScaleMode(kMillimetres);
-}
-
-double FakePrinter::Width() const { return paper_ == 9 ? kA4Width : kLetterWidth; }
-double FakePrinter::Height() const { return paper_ == 9 ? kA4Height : kLetterHeight; }
-
-void FakePrinter::NewPage() {
-  FakePrinterList::Log().pages.push_back(std::move(page_->painted));
-  page_->painted.clear();
-}
-
-void FakePrinter::EndDoc() {
-  if (!page_->painted.empty()) NewPage();
-  ++FakePrinterList::Log().jobs;
-}
-
-void FakePrinter::KillDoc() {
-  page_->painted.clear();
-  ++FakePrinterList::Log().dropped;
-}
-
-FakePrinterLog& FakePrinterList::Log() {
-  static FakePrinterLog log;
-  return log;
-}
-
-std::unique_ptr<PrinterDevice> FakePrinterList::Open(const std::string& name) {
-  for (const std::string& known : names) {
-    if (known == name) return std::make_unique<FakePrinter>(name, pixels_per_inch);
-  }
-  RaiseFault(kPrinterFault);
-}
-
 TempFolder::TempFolder() {
   std::string pattern = (std::filesystem::temp_directory_path() / "tagwright-test-XXXXXX").string();
   if (!mkdtemp(pattern.data())) throw std::runtime_error("no temporary folder");
@@ -142,7 +91,7 @@ void FreshProgram(const std::string& app_folder) {
   SetFonts(nullptr);
   FixToday(Date{2026, 3, 14});
   ResetPrinter();
-  FakePrinterList::Log() = {};
+  FakePrinterList::Reset();
   ProgSettings = {};
   SetExecutableFolder(app_folder);
   AppFolder = app_folder + "/";
@@ -153,6 +102,7 @@ void FreshProgram(const std::string& app_folder) {
 ProgramTest::ProgramTest() {
   SetDialogs(&dialogs);
   SetPrinterList(&printers);
+  SetProgressService(&progress);
   FreshProgram(folder.Path());
 }
 
@@ -161,6 +111,7 @@ ProgramTest::~ProgramTest() {
   ResetPrinter();
   SetDialogs(nullptr);
   SetPrinterList(nullptr);
+  SetProgressService(nullptr);
   SetExecutableFolder("");
 }
 

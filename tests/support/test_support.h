@@ -12,8 +12,9 @@
 #include <vector>
 
 #include "platform/dialogs.h"
-#include "platform/printer.h"
 #include "platform/recorder.h"
+#include "support/fake_printer.h"
+#include "support/scripted_progress.h"
 
 namespace tagwright {
 
@@ -42,50 +43,6 @@ class ScriptedDialogs : public DialogService {
   std::optional<std::string> OpenFile(const FileDialogRequest& request) override;
   std::optional<std::string> SaveFile(const FileDialogRequest& request) override;
   std::optional<std::int32_t> ChooseColor(std::int32_t initial) override;
-};
-
-// A printer that records its pages. Paper in twips; the surface is the full page unless margins are
-// given (twips, left and top; the scale is then the printable area).
-class FakePrinter : public PrinterDevice {
- public:
-  FakePrinter(std::string name, double pixels_per_inch);
-  std::string DeviceName() const override { return name_; }
-  Surface& Page() override { return *page_; }
-  int Orientation() const override { return orientation_; }
-  void SetOrientation(int value) override;
-  int PaperSize() const override { return paper_; }
-  void SetPaperSize(int value) override;
-  double Width() const override;
-  double Height() const override;
-  void NewPage() override;
-  void EndDoc() override;
-  void KillDoc() override;
-
-  RecordingSurface& Recorder() { return *page_; }
-
- private:
-  std::string name_;
-  double pixels_per_inch_;
-  int orientation_ = 1;
-  int paper_ = 9;
-  std::unique_ptr<RecordingSurface> page_;
-};
-
-// Finished pages and jobs of all fake printers.
-struct FakePrinterLog {
-  std::vector<std::vector<Painted>> pages;
-  int jobs = 0;
-  int dropped = 0;
-};
-
-class FakePrinterList : public PrinterService {
- public:
-  std::vector<std::string> names = {"Test printer"};
-  double pixels_per_inch = 600;
-  static FakePrinterLog& Log();
-  std::vector<std::string> Names() override { return names; }
-  std::string DefaultName() override { return names.empty() ? "" : names.front(); }
-  std::unique_ptr<PrinterDevice> Open(const std::string& name) override;
 };
 
 // A folder under the system's temporary one, gone with its owner.
@@ -123,6 +80,7 @@ class ProgramTest : public testing::Test {
   TempFolder folder;
   ScriptedDialogs dialogs;
   FakePrinterList printers;
+  ScriptedProgress progress;
 };
 
 }  // namespace tagwright

@@ -340,7 +340,10 @@ void WaitFor(const std::string& what, const std::function<bool()>& holds, double
 Program::Program(const std::string& folder, const std::vector<std::string>& variables) {
   const std::string log = TheSession().Log("program");
   const fs::path executable = fs::path(folder) / "tagwright";
-  if (!fs::exists(executable)) fs::copy_file(TAGWRIGHT_EXECUTABLE, executable);
+  const fs::path built = fs::path(TAGWRIGHT_EXECUTABLE).parent_path();
+  for (const char* name : {"tagwright", "tagwright-reader"}) {
+    if (!fs::exists(fs::path(folder) / name)) fs::copy_file(built / name, fs::path(folder) / name);
+  }
   std::vector<std::string> command = {"env"};
   command.insert(command.end(), variables.begin(), variables.end());
   const std::string scale_variable = "QT_SCALE_FACTOR=";

@@ -62,6 +62,22 @@ void TakeLabels(const std::string& folder) {
   Picture(program, folder, "shelf-label");
 }
 
+// A table goes in and a sheet of labels comes out.
+void TakeJob(const std::string& folder) {
+  Program program(FreshFolder());
+  const std::string sheet = FreshFolder() + "/sheet.pdf";
+  PlaceWindow(program, kWindow);
+  ShowSample(program, "Address label.twp", "250%");
+  ChooseMenu(program, {"File", "Import Data"});
+  BrowseToData(program, "Comma Separated Text File", SampleLabel("addresses.csv"));
+  Picture(program, folder, "data-fields");
+  StartPrintToPdf(program, sheet);
+  WaitForWindow("Tagwright");
+  WaitFor("the sheet", [&] { return std::filesystem::exists(sheet); });
+  Picture(program, folder, "print-panel");
+  Shell("pdftoppm -r 75 -png -singlefile '" + sheet + "' '" + folder + "/address-sheet'");
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -73,6 +89,7 @@ int main(int argc, char** argv) {
   try {
     TakeLabels(argv[1]);
     TakeRefusals(argv[1]);
+    TakeJob(argv[1]);
   } catch (const std::exception& problem) {
     std::cerr << problem.what() << '\n';
     return 1;

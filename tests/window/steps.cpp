@@ -37,6 +37,23 @@ void SaveProjectAs(const Program& program, const std::string& path) {
   WaitFor("the file " + path, [&] { return std::filesystem::exists(path); });
 }
 
+void BrowseToData(const Program& program, const std::string& kind, const std::string& path) {
+  ChooseRow(program, "Import File Type", kind);
+  WaitForWindow("Open");
+  Type(path);
+  Key("Return");
+  WaitForWindow("Tagwright");
+}
+
+void StartPrintToPdf(const Program& program, const std::string& path) {
+  ChooseMenu(program, {"File", "Print"});
+  ChooseRow(program, "Printer", "Print to PDF");
+  Click(Find(program, "Print", "push button").box);
+  WaitForWindow("Save");
+  Type(path);
+  Key("Return");
+}
+
 int Leave(Program& program) {
   ChooseMenu(program, {"File", "Exit"});
   return program.WaitForExit();

@@ -16,6 +16,12 @@ void OpenProject(const Program& program, const std::string& path);
 // Saves with File > Save As under `path`, and waits for the file.
 void SaveProjectAs(const Program& program, const std::string& path);
 
+// Chooses the kind of data on the panel of data fields, which asks for the file, and names it.
+void BrowseToData(const Program& program, const std::string& kind, const std::string& path);
+
+// Opens the print panel, presses Print for "Print to PDF" and names the file: the job runs then.
+void StartPrintToPdf(const Program& program, const std::string& path);
+
 // Leaves with File > Exit. Returns the exit code.
 int Leave(Program& program);
 

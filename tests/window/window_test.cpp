@@ -113,6 +113,14 @@ TEST_F(Window, ALabelIsAsLargeAsTheScreensScaleMakesAMillimetre) {
   }
 }
 
+TEST_F(Window, AFieldTakesADecimalPointFromTheKeyboard) {
+  Program program(folder);
+  Click(Find(program, "Left", "text").box);
+  Key("ctrl+a");
+  Type("12.5");
+  WaitForText(program, "Left", "12.5");
+}
+
 TEST_F(Window, InchesAndMillimetresChangeWhatIsShownButNotTheLabel) {
   Program program(folder);
   const int before = LabelSpan(program).width;

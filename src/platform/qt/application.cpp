@@ -7,12 +7,15 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "platform/database.h"
 #include "platform/desktop.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
 #include "platform/locale.h"
+#include "platform/qt/database_qt.h"
 #include "platform/qt/dialogs_qt.h"
 #include "platform/qt/locale_qt.h"
+#include "platform/qt/progress_qt.h"
 #include "platform/qt/surface_qt.h"
 #include "platform/qt/theme.h"
 #include "platform/qt/windows_qt.h"
@@ -76,6 +79,7 @@ struct Application::Toolkit {
   std::unique_ptr<QApplication> application;
   std::unique_ptr<WindowService> windows = MakeWindowService();
   std::unique_ptr<DialogService> dialogs = MakeDialogService();
+  std::unique_ptr<ProgressService> progress = MakeProgressService();
 };
 
 Application::Application(int& argc, char** argv) : toolkit_(std::make_unique<Toolkit>()) {
@@ -84,14 +88,18 @@ Application::Application(int& argc, char** argv) : toolkit_(std::make_unique<Too
   FollowDesktopTheme(*toolkit_->application);
   InstallPaintServices();
   InstallDesktop();
+  SetDatabaseEngine(MakeDatabaseEngine(ReaderBesideProgram()));
   SetDialogs(toolkit_->dialogs.get());
+  SetProgressService(toolkit_->progress.get());
   SetWindowService(toolkit_->windows.get());
 }
 
 Application::~Application() {
   UnloadAll();
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  SetDatabaseEngine(nullptr);
   SetWindowService(nullptr);
+  SetProgressService(nullptr);
   SetDialogs(nullptr);
   ScreenMousePointerView() = nullptr;
 }

@@ -15,6 +15,7 @@
 #include "platform/qt/views.h"
 #include "ui_frmAbout.h"
 #include "ui_frmMain.h"
+#include "ui_frmSerialNumber.h"
 
 namespace tagwright {
 namespace {
@@ -36,6 +37,7 @@ struct KnownForm {
 constexpr KnownForm kForms[] = {
     {"frmMain", Build<Ui::frmMain, QMainWindow>},
     {"frmAbout", Build<Ui::frmAbout, QDialog>},
+    {"frmSerialNumber", Build<Ui::frmSerialNumber, QDialog>},
 };
 
 // Icons stand in the form file by name, so that they take the colours of the theme.

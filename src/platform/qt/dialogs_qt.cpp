@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QSplitter>
 
 #include "platform/qt/color_qt.h"
 #include "platform/qt/theme.h"
@@ -118,11 +119,21 @@ class ToolkitDialogs : public DialogService {
     dialog.setNameFilters(NameFilters(request.filter));
     dialog.setDefaultSuffix(ToQt(request.default_extension));
     if (!request.file_name.empty()) Preselect(dialog, ToQt(request.file_name));
+    GiveRoom(dialog);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
       return std::nullopt;
     }
     folder_ = dialog.directory().absolutePath();
     return QDir::toNativeSeparators(dialog.selectedFiles().front()).toStdString();
+  }
+
+  // Names of folders and files are read whole, on the left and on the right.
+  static void GiveRoom(QFileDialog& dialog) {
+    constexpr int kPlaces = 160;
+    dialog.resize(dialog.sizeHint().expandedTo(QSize(820, 480)));
+    if (auto* parts = dialog.findChild<QSplitter*>()) {
+      parts->setSizes({kPlaces, dialog.width() - kPlaces});
+    }
   }
 
   static void Preselect(QFileDialog& dialog, const QString& file) {
@@ -151,7 +162,8 @@ QStringList NameFilters(const std::string& filter) {
     const QStringList list = patterns.split(';', Qt::SkipEmptyParts);
     QStringList trimmed;
     for (const QString& pattern : list) trimmed << pattern.trimmed();
-    filters << description + " (" + (trimmed.isEmpty() ? "*" : trimmed.join(' ')) + ")";
+    const QString told = "(" + (trimmed.isEmpty() ? "*" : trimmed.join(' ')) + ")";
+    filters << (description.endsWith(told) ? description : description + " " + told);
   }
   return filters;
 }

@@ -8,8 +8,12 @@
 #include <QRawFont>
 #include <QTextLayout>
 #include <algorithm>
+#include <cmath>
+#include <optional>
 #include <string>
 #include <unordered_map>
+#include <utility>
+#include <vector>
 
 #include "platform/qt/color_qt.h"
 
@@ -21,26 +25,89 @@ constexpr double kPointsPerInch = 72;
 // Enough for every text and size of a large label at one zoom; beyond, the past is forgotten whole.
 constexpr std::size_t kShapesKept = 8192;
 constexpr std::size_t kSizedFontsKept = 128;
-constexpr std::size_t kFacesKept = 1024;
+constexpr std::size_t kFacesKept = 256;
 
 // The toolkit lays text out in 32 bits, of which 6 are a fraction: so many units and characters of
 // the reference size keep clear of that.
 constexpr double kWidestPart = 1e7;
 constexpr qsizetype kLongestPart = 4096;
 
+// A character that stands for itself: one glyph, however its neighbours look.
+struct PlainGlyph {
+  enum class State : char { kUnknown, kPlain, kBlank, kNone };  // kNone: to be shaped in full
+  State state = State::kUnknown;
+  quint32 glyph = 0;
+  double advance = 0;
+};
+
+// The alphabets of which each character is a glyph of its own: Latin, Greek and Cyrillic.
+constexpr char16_t kPlainCharacters = 0x0530;
+
 // One family in one style, at the reference size.
 struct Face {
+  std::string name;
+  bool bold = false;
+  bool italic = false;
   QFont font;
   double ascent = 0;
   double descent = 0;
+  QRawFont raw;  // of the plain glyphs
+  std::vector<PlainGlyph> plain = std::vector<PlainGlyph>(kPlainCharacters);
+  double sized_pixels = 0;  // what a page last wanted
+  QRawFont sized;
 };
 
-// A shaped text and its glyphs at the size that a raster last wanted.
+struct ShapeKey {
+  const Face* face;
+  std::string text;
+};
+
+struct ShapeKeyView {
+  const Face* face;
+  std::string_view text;
+  ShapeKeyView(const Face* of, std::string_view said) : face(of), text(said) {}
+  ShapeKeyView(const ShapeKey& key) : face(key.face), text(key.text) {}
+  bool operator==(const ShapeKeyView&) const = default;
+};
+
+// Found without a copy of the text.
+struct ShapeKeyHash {
+  using is_transparent = void;
+  std::size_t operator()(const ShapeKeyView& key) const {
+    return std::hash<std::string_view>()(key.text) ^ std::hash<const Face*>()(key.face);
+  }
+};
+struct ShapeKeyEqual {
+  using is_transparent = void;
+  bool operator()(const ShapeKeyView& a, const ShapeKeyView& b) const { return a == b; }
+};
+
+// A shaped text and its glyphs at the size that a raster or a page last wanted.
 struct CachedShape {
   ShapedText reference;
   double sized_pixels = 0;
+  double step = 0;  // the glyphs stand on multiples of it; 0 anywhere
   QList<QGlyphRun> sized;
 };
+
+// What is known of fonts so far. A shape goes by the address of its face, and with it.
+struct KnownFonts {
+  std::unordered_map<std::string, Face> faces;
+  Face* latest = nullptr;
+  std::unordered_map<ShapeKey, CachedShape, ShapeKeyHash, ShapeKeyEqual> shapes;
+};
+
+// Made with the first text, so that it goes before what the toolkit's fonts stand on.
+KnownFonts& Known() {
+  static KnownFonts known;
+  return known;
+}
+
+void ForgetFaces(KnownFonts& known) {
+  known.shapes.clear();
+  known.latest = nullptr;
+  known.faces.clear();
+}
 
 std::string FaceKey(const FontSpec& font) {
   return font.Name + (font.Bold ? "\x01" : "\x02") + (font.Italic ? "\x01" : "\x02");
@@ -67,19 +134,36 @@ QFont ReferenceFont(const FontSpec& wanted) {
 Face LoadFace(const FontSpec& wanted) {
   const QFont font = ReferenceFont(wanted);
   const QFontMetricsF metrics(font);
-  return {font, metrics.ascent(), metrics.descent()};
+  Face face;
+  face.name = wanted.Name;
+  face.bold = wanted.Bold;
+  face.italic = wanted.Italic;
+  face.font = font;
+  face.ascent = metrics.ascent();
+  face.descent = metrics.descent();
+  return face;
 }
 
-const Face& FaceOf(const FontSpec& wanted) {
-  static std::unordered_map<std::string, Face> faces;
+bool IsOf(const FontSpec& wanted, const Face& face) {
+  return wanted.Name == face.name && wanted.Bold == face.bold && wanted.Italic == face.italic;
+}
+
+// A label asks for the same face many times over before it asks for another.
+Face& FaceOf(const FontSpec& wanted) {
+  KnownFonts& known = Known();
+  if (known.latest && IsOf(wanted, *known.latest)) return *known.latest;
   const std::string key = FaceKey(wanted);
-  if (const auto known = faces.find(key); known != faces.end()) return known->second;
-  Limit(faces, kFacesKept);
-  return faces.emplace(key, LoadFace(wanted)).first->second;
+  auto face = known.faces.find(key);
+  if (face == known.faces.end()) {
+    if (known.faces.size() >= kFacesKept) ForgetFaces(known);
+    face = known.faces.emplace(key, LoadFace(wanted)).first;
+  }
+  known.latest = &face->second;
+  return *known.latest;
 }
 
 // A tab or a stray line break would move the layout to places of its own.
-QString PlainLine(std::string_view text) {
+QString PlainText(std::string_view text) {
   QString line = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
   for (QChar& c : line) {
     if (c.category() == QChar::Other_Control || c == QChar::LineSeparator ||
@@ -139,7 +223,7 @@ void Append(ShapedText& line, const ShapedText& part) {
 }
 
 // What lies beyond the widest part is measured but not drawn: no paper is as wide.
-ShapedText Shape(const QString& text, const QFont& font) {
+ShapedText ShapeInFull(const QString& text, const QFont& font) {
   if (text.size() <= kLongestPart) return ShapePart(text, font);
   ShapedText line;
   for (qsizetype at = 0; at < text.size(); at += kLongestPart) {
@@ -150,13 +234,89 @@ ShapedText Shape(const QString& text, const QFont& font) {
   return line;
 }
 
+// --- plain characters ---------------------------------------------------------------------------
+
+// Shaping is most of the work of a printed text, and each label has other texts. Without kerning a
+// text of plain characters is what they are one by one, so that each is shaped only once.
+
+bool IsBlank(char16_t c) { return c == u' ' || c == u'\u00A0'; }
+
+// Marks join what stands before them, and a soft hyphen mostly is not there.
+bool CanBePlain(char16_t c) {
+  if (c < 0x20 || c >= kPlainCharacters || c == 0xAD || (c >= 0x7F && c < 0xA0)) return false;
+  return !(c >= 0x0300 && c < 0x0370) && !(c >= 0x0483 && c < 0x048A);
+}
+
+// A glyph that another face had to lend is not plain: it belongs to that face.
+PlainGlyph LearnGlyph(Face& face, char16_t c) {
+  using State = PlainGlyph::State;
+  const ShapedText shape = ShapePart(QString(QChar(c)), face.font);
+  if (IsBlank(c)) return {State::kBlank, 0, shape.width};
+  if (shape.runs.size() != 1 || shape.runs[0].glyphIndexes().size() != 1) return {State::kNone};
+  const QGlyphRun& run = shape.runs[0];
+  if (!face.raw.isValid()) face.raw = QRawFont::fromFont(face.font);
+  const bool own = run.rawFont() == face.raw && run.positions()[0].isNull();
+  return {own ? State::kPlain : State::kNone, run.glyphIndexes()[0], shape.width};
+}
+
+const PlainGlyph& GlyphOf(Face& face, char16_t c) {
+  PlainGlyph& glyph = face.plain[c];
+  if (glyph.state == PlainGlyph::State::kUnknown) glyph = LearnGlyph(face, c);
+  return glyph;
+}
+
+// Marks with their places in units of which `scale` make one of the reference size, each advance
+// moved onto `step` where there is one.
+struct PlainLine {
+  QList<quint32> marks;
+  QList<QPointF> places;
+  double width = 0;
+};
+
+// Nothing where the line has to be shaped in full. What lies beyond the widest part is measured but
+// not placed, as there.
+std::optional<PlainLine> PlaceGlyphs(Face& face, QStringView text, double scale, double step) {
+  PlainLine line;
+  line.marks.reserve(text.size());
+  line.places.reserve(text.size());
+  for (const QChar c : text) {
+    if (!CanBePlain(c.unicode())) return std::nullopt;
+    const PlainGlyph& glyph = GlyphOf(face, c.unicode());
+    if (glyph.state == PlainGlyph::State::kNone) return std::nullopt;
+    if (glyph.state == PlainGlyph::State::kPlain && line.width <= kWidestPart) {
+      line.marks.append(glyph.glyph);
+      line.places.append(QPointF(line.width, 0));
+    }
+    const double advance = glyph.advance * scale;
+    line.width += step > 0 ? std::round(advance / step) * step : advance;
+  }
+  return line;
+}
+
+QGlyphRun RunOf(const PlainLine& line, const QRawFont& font) {
+  QGlyphRun run;
+  run.setRawFont(font);
+  run.setGlyphIndexes(line.marks);
+  run.setPositions(line.places);
+  return run;
+}
+
+ShapedText Shape(const QString& text, Face& face) {
+  const std::optional<PlainLine> line = PlaceGlyphs(face, text, 1, 0);
+  if (!line) return ShapeInFull(text, face.font);
+  ShapedText shaped{{}, line->width};
+  if (!line->marks.isEmpty()) shaped.runs.append(RunOf(*line, face.raw));
+  return shaped;
+}
+
 CachedShape& ShapeOf(std::string_view text, const FontSpec& font) {
-  static std::unordered_map<std::string, CachedShape> shapes;
-  std::string key = FaceKey(font).append(text);
-  if (const auto known = shapes.find(key); known != shapes.end()) return known->second;
+  Face& face = FaceOf(font);
+  auto& shapes = Known().shapes;
+  const auto known = shapes.find(ShapeKeyView(&face, text));
+  if (known != shapes.end()) return known->second;
   Limit(shapes, kShapesKept);
-  CachedShape shape{Shape(PlainLine(text), FaceOf(font).font), 0, {}};
-  return shapes.emplace(std::move(key), std::move(shape)).first->second;
+  CachedShape shape{Shape(PlainText(text), face), 0, 0, {}};
+  return shapes.emplace(ShapeKey{&face, std::string(text)}, std::move(shape)).first->second;
 }
 
 // --- glyphs of a raster -------------------------------------------------------------------------
@@ -184,9 +344,29 @@ const QRawFont& SizedFont(const QRawFont& reference, double pixels) {
   return fonts.emplace(key, font).first->second;
 }
 
-QGlyphRun SizedRun(const QGlyphRun& reference, double pixels) {
+const QRawFont& SizedFace(Face& face, double pixels) {
+  if (face.sized_pixels != pixels) face.sized = SizedFont(face.raw, pixels);
+  face.sized_pixels = pixels;
+  return face.sized;
+}
+
+// Steps are taken between neighbours, so that equal letters have equal distances wherever they
+// stand. What that adds up to is far below what can be seen.
+void MoveOntoSteps(QList<QPointF>& positions, double step) {
+  QPointF before, moved_before;
+  for (QPointF& position : positions) {
+    const QPointF distance = position - before;
+    before = position;
+    position = moved_before + QPointF(std::round(distance.x() / step) * step,
+                                      std::round(distance.y() / step) * step);
+    moved_before = position;
+  }
+}
+
+QGlyphRun SizedRun(const QGlyphRun& reference, double pixels, double step) {
   QList<QPointF> positions = reference.positions();
   for (QPointF& position : positions) position *= pixels / kReferencePixels;
+  if (step > 0) MoveOntoSteps(positions, step);
   QGlyphRun run;
   run.setRawFont(SizedFont(reference.rawFont(), pixels));
   run.setGlyphIndexes(reference.glyphIndexes());
@@ -194,11 +374,14 @@ QGlyphRun SizedRun(const QGlyphRun& reference, double pixels) {
   return run;
 }
 
-const QList<QGlyphRun>& SizedRuns(CachedShape& shape, double pixels) {
-  if (shape.sized_pixels == pixels) return shape.sized;
+const QList<QGlyphRun>& SizedRuns(CachedShape& shape, double pixels, double step) {
+  if (shape.sized_pixels == pixels && shape.step == step) return shape.sized;
   shape.sized.clear();
-  for (const QGlyphRun& run : shape.reference.runs) shape.sized.append(SizedRun(run, pixels));
+  for (const QGlyphRun& run : shape.reference.runs) {
+    shape.sized.append(SizedRun(run, pixels, step));
+  }
   shape.sized_pixels = pixels;
+  shape.step = step;
   return shape.sized;
 }
 
@@ -236,13 +419,31 @@ std::string PlainFamily(const QString& family) {
   return family.section(QStringLiteral(" ["), 0, 0).toStdString();
 }
 
+bool Holds(const std::vector<std::string>& names, const std::string& name) {
+  return std::find(names.begin(), names.end(), name) != names.end();
+}
+
+void AddOnce(std::vector<std::string>& names, const std::string& name) {
+  if (!Holds(names, name)) names.push_back(name);
+}
+
+// Labels name these fonts, "Arial" the defaults too. Where a twin of the same measures answers to
+// the name, the name is one to choose, or nobody could choose the default font.
+void AddNamesOfTwins(std::vector<std::string>& names) {
+  constexpr std::pair<const char*, const char*> kTwins[] = {{"Liberation Sans", "Arial"},
+                                                            {"Liberation Serif", "Times New Roman"},
+                                                            {"Liberation Mono", "Courier New"}};
+  for (const auto& [twin, name] : kTwins) {
+    if (Holds(names, twin)) AddOnce(names, name);
+  }
+}
+
 std::vector<std::string> ToolkitFontService::Families() {
   std::vector<std::string> names;
   for (const QString& family : QFontDatabase::families()) {
-    if (!QFontDatabase::isSmoothlyScalable(family)) continue;
-    const std::string name = PlainFamily(family);
-    if (std::find(names.begin(), names.end(), name) == names.end()) names.push_back(name);
+    if (QFontDatabase::isSmoothlyScalable(family)) AddOnce(names, PlainFamily(family));
   }
+  AddNamesOfTwins(names);
   return names;
 }
 
@@ -262,7 +463,25 @@ void PaintText(QPainter& painter, double x, double y_baseline, std::string_view 
     PaintReference(painter, start, shape.reference, pixels);
     return;
   }
-  for (const QGlyphRun& run : SizedRuns(shape, pixels)) painter.drawGlyphRun(start, run);
+  for (const QGlyphRun& run : SizedRuns(shape, pixels, 0)) painter.drawGlyphRun(start, run);
+}
+
+// Not kept like the texts of a board: the next label has others.
+void PaintPageText(QPainter& painter, double x, double y_baseline, std::string_view text,
+                   const FontSpec& font, Color color, double units_per_inch) {
+  const double pixels = font.Size * units_per_inch / kPointsPerInch;
+  const double step = units_per_inch / kPageStepsPerInch;
+  painter.setPen(ToQColor(color));
+  const QPointF start(x, y_baseline);
+  Face& face = FaceOf(font);
+  const auto line = PlaceGlyphs(face, PlainText(text), pixels / kReferencePixels, step);
+  if (line) {
+    if (!line->marks.isEmpty()) painter.drawGlyphRun(start, RunOf(*line, SizedFace(face, pixels)));
+    return;
+  }
+  for (const QGlyphRun& run : SizedRuns(ShapeOf(text, font), pixels, step)) {
+    painter.drawGlyphRun(start, run);
+  }
 }
 
 FontService& ToolkitFonts() {

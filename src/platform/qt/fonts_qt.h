@@ -32,10 +32,19 @@ struct ShapedText {
 const ShapedText& ShapeText(std::string_view text, const FontSpec& font);
 
 // Draws one line in the painter's units, of which there are `pixels_per_inch`, from x along the
-// baseline y. On paper it stays text in the reference size under a scale; on a raster it takes
-// cached glyphs of the exact size, whole or not.
+// baseline y. On paper it stays text in the reference size under a scale, whatever the painter's
+// transform; on a raster it takes cached glyphs of the exact size, whole or not.
 void PaintText(QPainter& painter, double x, double y_baseline, std::string_view text,
                const FontSpec& font, Color color, double pixels_per_inch);
+
+// The finest step of a printed page, in inches: a thousandth of a millimetre. What lies on whole
+// steps is written in few digits that repeat, which is most of what makes a page small.
+constexpr double kPageStepsPerInch = 25400;
+
+// Draws one line like PaintText, on a page that is not transformed but moved: glyphs of the exact
+// size, each a whole number of page steps behind the one before it.
+void PaintPageText(QPainter& painter, double x, double y_baseline, std::string_view text,
+                   const FontSpec& font, Color color, double units_per_inch);
 
 // The font service over the toolkit's fonts. An empty or unknown family measures and draws in a
 // sans serif; a family that only has a metric twin, such as Arial, in the twin.

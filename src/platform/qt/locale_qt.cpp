@@ -71,6 +71,29 @@ std::string ShortDate(const QLocale& from) {
   return pattern.toStdString();
 }
 
+// A time's form with its seconds. The toolkit's pattern has them only together with the zone, its
+// "t", which goes; its "AP" is our "tt", and without that its h counts all 24.
+std::string Time(const QLocale& from) {
+  static const QRegularExpression kZone("[ (]*t+[ )]*");
+  static const QRegularExpression kHalf("[Aa][Pp]?");
+  QStringList parts = from.timeFormat(QLocale::LongFormat).split('\'');  // every other one quoted
+  bool twelve = false;
+  for (qsizetype i = 0; i < parts.size(); i += 2) {
+    parts[i].remove(kZone);
+    twelve = twelve || parts[i].contains(kHalf);
+    parts[i].replace(kHalf, "tt");
+  }
+  for (qsizetype i = 0; !twelve && i < parts.size(); i += 2) parts[i].replace('h', 'H');
+  return parts.join('\'').trimmed().toStdString();
+}
+
+void TakeTimes(const QLocale& from, UserLocale& locale) {
+  locale.short_date = ShortDate(from);
+  locale.time = Time(from);
+  locale.before_noon = from.amText().toStdString();
+  locale.after_noon = from.pmText().toStdString();
+}
+
 }  // namespace
 
 LocaleNames UserLocaleNames() {
@@ -84,8 +107,8 @@ UserLocale LocaleOf(const LocaleNames& names) {
   UserLocale locale;
   if (!IsBuiltIn(names.numeric)) TakeNumbers(ToolkitLocale(names.numeric), locale);
   if (!IsBuiltIn(names.monetary)) TakeCurrency(ToolkitLocale(names.monetary), locale);
-  if (!IsBuiltIn(names.time)) locale.short_date = ShortDate(ToolkitLocale(names.time));
-  if (!IsBuiltIn(names.language)) locale.code_page = CodePageOfLanguage(Plain(names.language));
+  if (!IsBuiltIn(names.time)) TakeTimes(ToolkitLocale(names.time), locale);
+  if (!IsBuiltIn(names.language)) locale.code_page = CodePageOfLanguage(names.language);
   return locale;
 }
 

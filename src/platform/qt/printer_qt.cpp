@@ -1,5 +1,7 @@
 #include "platform/qt/printer_qt.h"
 
+#include <cups/cups.h>
+
 #include <QList>
 #include <QPageLayout>
 #include <QPagedPaintDevice>
@@ -14,8 +16,10 @@
 #include <memory>
 #include <optional>
 
+#include "platform/controls.h"
 #include "platform/dialogs.h"
 #include "platform/fault.h"
+#include "platform/qt/fonts_qt.h"
 #include "platform/qt/surface_qt.h"
 
 namespace tagwright {
@@ -27,6 +31,10 @@ constexpr int kLetter = 1;
 constexpr int kA4 = 9;
 constexpr int kUsualResolution = 600;  // pixels an inch, where a queue names none
 
+// Millimetres have three decimals on a page, and fonts the size that is asked for: the toolkit
+// counts both in whole units.
+constexpr int kUnitsPerInch = static_cast<int>(kPageStepsPerInch);
+
 // What one printer paints a job on.
 class Spool {
  public:
@@ -34,34 +42,63 @@ class Spool {
   virtual QPagedPaintDevice& Device() = 0;
   virtual void Send() = 0;  // after the painter has ended
   virtual void Drop() = 0;  // before it ends
+  virtual bool Failed() const = 0;
 };
+
+// --- what became of a job -----------------------------------------------------------------------
+
+// One who has backed out knows it.
+void TellOf(const Fault& fault) {
+  if (fault.number == kDialogCancelled) return;
+  MessageBox(fault.description, MessageButtons::kOk, MessageIcon::kCritical);
+}
+
+Fault NoPageOf(const std::string& name) {
+  return {kPrinterFault, "The printer " + name + " does not take the job."};
+}
 
 // --- a file -------------------------------------------------------------------------------------
 
 std::string AskForFile() {
   const FileDialogRequest request{"PDF files (*.pdf)|*.pdf", "pdf", ""};
+  ModalOpens();
   const std::optional<std::string> path = Dialogs().SaveFile(request);
   if (!path) RaiseFault(kDialogCancelled);
   return *path;
 }
 
+QPageLayout WholePage() {
+  QPageLayout layout(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF());
+  layout.setMode(QPageLayout::FullPageMode);
+  return layout;
+}
+
 // Aside first, so that a job that fails or is dropped leaves a former file of that name alone.
 class FileSpool : public Spool {
  public:
-  explicit FileSpool(const std::string& path) : file_(QString::fromStdString(path)) {
-    if (!file_.open(QIODevice::WriteOnly)) RaiseFault(kFileAccess);
+  explicit FileSpool(const std::string& path) : path_(path), file_(QString::fromStdString(path)) {
+    if (!file_.open(QIODevice::WriteOnly)) Refuse(kFileAccess);
     writer_.emplace(&file_);
-    writer_->setResolution(kUsualResolution);
+    writer_->setResolution(kUnitsPerInch);
+    writer_->setPageLayout(WholePage());
     writer_->setCreator(QStringLiteral("Tagwright"));
+    writer_->setTitle(QStringLiteral("Labels"));
   }
   QPagedPaintDevice& Device() override { return *writer_; }
   void Send() override {
     writer_.reset();
-    if (!file_.commit()) RaiseFault(kDeviceFault);
+    if (!file_.commit()) Refuse(kDeviceFault);
   }
   void Drop() override { file_.cancelWriting(); }
+  bool Failed() const override { return file_.error() != QFileDevice::NoError; }
 
  private:
+  [[noreturn]] void Refuse(int fault) const {
+    RaiseFault(fault, "The file " + path_ +
+                          " cannot be written: " + file_.errorString().toStdString() + ".");
+  }
+
+  std::string path_;
   QSaveFile file_;
   std::optional<QPdfWriter> writer_;
 };
@@ -79,20 +116,40 @@ void KeepSize(QPrinter& printer) {
   printer.printEngine()->setProperty(kServiceOptions, options);
 }
 
+// The queue is looked up anew: it may have gone since it was chosen.
+QPrinterInfo QueueNamed(const std::string& name) {
+  QPrinterInfo info = QPrinterInfo::printerInfo(QString::fromStdString(name));
+  if (info.isNull()) RaiseFault(kPrinterFault, "The printer " + name + " is not there any more.");
+  return info;
+}
+
 class QueueSpool : public Spool {
  public:
-  QueueSpool(const QPrinterInfo& info, int resolution) : printer_(info, QPrinter::HighResolution) {
-    printer_.setResolution(resolution);
+  explicit QueueSpool(const std::string& name)
+      : name_(name), printer_(QueueNamed(name), QPrinter::HighResolution) {
+    printer_.setResolution(kUnitsPerInch);
     printer_.setDocName(QStringLiteral("Labels"));
     KeepSize(printer_);
   }
   QPagedPaintDevice& Device() override { return printer_; }
+  // The toolkit hands the job over and does not ask what became of it; the service's library knows.
   void Send() override {
-    if (printer_.printerState() == QPrinter::Error) RaiseFault(kPrinterFault);
+    if (Failed()) Refuse("");
+    if (cupsLastError() > IPP_STATUS_OK_EVENTS_COMPLETE) Refuse(cupsLastErrorString());
   }
   void Drop() override { printer_.abort(); }
+  bool Failed() const override {
+    return printer_.printerState() == QPrinter::Error ||
+           printer_.printerState() == QPrinter::Aborted;
+  }
 
  private:
+  [[noreturn]] void Refuse(const std::string& reason) const {
+    RaiseFault(kPrinterFault, "The printer " + name_ + " does not take the job" +
+                                  (reason.empty() ? "." : ": " + reason));
+  }
+
+  std::string name_;
   QPrinter printer_;
 };
 
@@ -104,10 +161,10 @@ int FinestResolution(const QPrinterInfo& info) {
 
 // --- a printer ----------------------------------------------------------------------------------
 
-enum class JobState { kNone, kPageOpen, kPageDone, kRefused };
+enum class JobState { kNone, kStarted, kPageOpen, kPageDone, kRefused };
 
-// The state of a job moves with what is painted: the first thing opens the job and its page, a page
-// feed ends the page, and the next page opens only when something is painted on it.
+// The state of a job moves with what is painted: the first thing opens its page, a page feed ends
+// the page, and the next page opens only when something is painted on it.
 class ToolkitPrinter : public PrinterDevice {
  public:
   using OpenSpool = std::function<std::unique_ptr<Spool>()>;
@@ -115,7 +172,7 @@ class ToolkitPrinter : public PrinterDevice {
   ToolkitPrinter(std::string name, int resolution, OpenSpool open_spool)
       : name_(std::move(name)),
         open_spool_(std::move(open_spool)),
-        page_(resolution, [this]() -> QPainter& { return OpenPage(); }) {
+        page_(resolution, kUnitsPerInch, [this]() -> QPainter& { return OpenPage(); }) {
     FitPage();
   }
   ~ToolkitPrinter() override { KillDoc(); }
@@ -128,17 +185,20 @@ class ToolkitPrinter : public PrinterDevice {
   void SetPaperSize(int value) override;
   double Width() const override { return page_.Scale().WidthTwips(); }
   double Height() const override { return page_.Scale().HeightTwips(); }
+  void StartDoc() override;
   void NewPage() override;
   void EndDoc() override;
   void KillDoc() override;
+  bool JobLost() const override;
 
  private:
   QPainter& OpenPage();
-  void BeginJob();
+  void BeginPages();
   void FollowPage();
   void ForgetJob();
+  [[noreturn]] void Refuse(const Fault& fault);
   void FitPage();
-  QPageLayout Layout() const;
+  void LayOutPage();
 
   std::string name_;
   OpenSpool open_spool_;
@@ -163,12 +223,12 @@ void ToolkitPrinter::SetPaperSize(int value) {
   FitPage();
 }
 
-QPageLayout ToolkitPrinter::Layout() const {
-  QPageLayout layout(QPageSize(paper_ == kA4 ? QPageSize::A4 : QPageSize::Letter),
-                     orientation_ == kPortrait ? QPageLayout::Portrait : QPageLayout::Landscape,
-                     QMarginsF());
-  layout.setMode(QPageLayout::FullPageMode);
-  return layout;
+// One by one: a queue refuses a layout as a whole when that has no margins and the queue has some.
+void ToolkitPrinter::LayOutPage() {
+  QPagedPaintDevice& device = spool_->Device();
+  device.setPageSize(QPageSize(paper_ == kA4 ? QPageSize::A4 : QPageSize::Letter));
+  device.setPageOrientation(orientation_ == kPortrait ? QPageLayout::Portrait
+                                                      : QPageLayout::Landscape);
 }
 
 // The paper's own size, not the toolkit's, which is in whole points.
@@ -179,54 +239,62 @@ void ToolkitPrinter::FitPage() {
   page_.Scale().Resize(width, height);
 }
 
-QPainter& ToolkitPrinter::OpenPage() {
-  switch (state_) {
-    case JobState::kNone:
-      BeginJob();
-      break;
-    case JobState::kPageDone:
-      FollowPage();
-      break;
-    case JobState::kRefused:
-      throw refusal_;
-    case JobState::kPageOpen:
-      break;
-  }
-  return painter_;
-}
-
-void ToolkitPrinter::BeginJob() {
+void ToolkitPrinter::StartDoc() {
+  if (state_ == JobState::kRefused) throw refusal_;
+  if (state_ != JobState::kNone) return;
   try {
     spool_ = open_spool_();
   } catch (const Fault& fault) {
-    refusal_ = fault;  // once asked, not again for each thing that is painted
-    state_ = JobState::kRefused;
-    throw;
+    Refuse(fault);
   }
-  spool_->Device().setPageLayout(Layout());
-  if (!painter_.begin(&spool_->Device())) {
-    spool_.reset();
-    RaiseFault(kPrinterFault);
-  }
+  state_ = JobState::kStarted;
+}
+
+// Said once and kept, so that nobody is asked or told again for each thing that is painted.
+void ToolkitPrinter::Refuse(const Fault& fault) {
+  refusal_ = fault;
+  state_ = JobState::kRefused;
+  TellOf(fault);
+  throw refusal_;
+}
+
+QPainter& ToolkitPrinter::OpenPage() {
+  if (state_ == JobState::kPageOpen) return painter_;
+  StartDoc();
+  state_ == JobState::kStarted ? BeginPages() : FollowPage();
   state_ = JobState::kPageOpen;
+  return painter_;
+}
+
+void ToolkitPrinter::BeginPages() {
+  LayOutPage();
+  if (!painter_.begin(&spool_->Device())) Refuse(NoPageOf(name_));
 }
 
 void ToolkitPrinter::FollowPage() {
-  spool_->Device().setPageLayout(Layout());
-  if (!spool_->Device().newPage()) RaiseFault(kPrinterFault);
-  state_ = JobState::kPageOpen;
+  LayOutPage();
+  if (!spool_->Device().newPage()) Refuse(NoPageOf(name_));
 }
 
 void ToolkitPrinter::NewPage() {
   OpenPage();
+  page_.Flush();
   state_ = JobState::kPageDone;
 }
 
 void ToolkitPrinter::EndDoc() {
-  if (painter_.isActive()) painter_.end();
+  const bool has_pages = state_ == JobState::kPageOpen || state_ == JobState::kPageDone;
+  if (!has_pages) return KillDoc();
+  if (state_ == JobState::kPageOpen) page_.Flush();
+  painter_.end();
   const std::unique_ptr<Spool> spool = std::move(spool_);
   ForgetJob();
-  if (spool) spool->Send();
+  try {
+    spool->Send();
+  } catch (const Fault& fault) {
+    TellOf(fault);
+    throw;
+  }
 }
 
 void ToolkitPrinter::KillDoc() {
@@ -237,8 +305,12 @@ void ToolkitPrinter::KillDoc() {
 
 void ToolkitPrinter::ForgetJob() {
   spool_.reset();
-  page_.ForgetPictures();
+  page_.ForgetJob();
   state_ = JobState::kNone;
+}
+
+bool ToolkitPrinter::JobLost() const {
+  return state_ == JobState::kRefused || (spool_ && spool_->Failed());
 }
 
 // --- the list -----------------------------------------------------------------------------------
@@ -248,13 +320,16 @@ std::unique_ptr<PrinterDevice> OpenFilePrinter() {
                                           [] { return std::make_unique<FileSpool>(AskForFile()); });
 }
 
+// Who chooses a queue that has gone meanwhile keeps the former one, and is told.
 std::unique_ptr<PrinterDevice> OpenQueue(const std::string& name) {
-  const QPrinterInfo info = QPrinterInfo::printerInfo(QString::fromStdString(name));
-  if (info.isNull()) RaiseFault(kPrinterFault);
-  const int resolution = FinestResolution(info);
-  return std::make_unique<ToolkitPrinter>(name, resolution, [info, resolution] {
-    return std::make_unique<QueueSpool>(info, resolution);
-  });
+  try {
+    const int resolution = FinestResolution(QueueNamed(name));
+    return std::make_unique<ToolkitPrinter>(name, resolution,
+                                            [name] { return std::make_unique<QueueSpool>(name); });
+  } catch (const Fault& fault) {
+    TellOf(fault);
+    throw;
+  }
 }
 
 class ToolkitPrinterService : public PrinterService {

@@ -398,20 +398,32 @@ class LabelView : public WidgetView {
     RenderAll();
   }
 
+  bool eventFilter(QObject* object, QEvent* event) override {
+    if (event->type() == QEvent::Resize && Shortens()) ShowText();
+    return WidgetView::eventFilter(object, event);
+  }
+
  protected:
   void Render(Aspect aspect) override {
-    if (aspect != Aspect::kText) return;
-    text_.setText(label_.Caption().empty() ? designed_ : ToQt(label_.Caption()));
-    // Long paths do not fit: the whole text stands in the tool tip.
-    if (text_.sizePolicy().horizontalPolicy() == QSizePolicy::Ignored) {
-      text_.setToolTip(text_.text());
-    }
+    if (aspect == Aspect::kText) ShowText();
   }
   void Released(bool inside) override {
     if (inside) label_.Press();
   }
 
  private:
+  // Long paths do not fit their place.
+  bool Shortens() const { return text_.sizePolicy().horizontalPolicy() == QSizePolicy::Ignored; }
+
+  // The end of a path tells it from others; the whole stands in the tool tip.
+  void ShowText() {
+    const QString whole = label_.Caption().empty() ? designed_ : ToQt(label_.Caption());
+    text_.setAccessibleDescription(whole);
+    if (!Shortens()) return text_.setText(whole);
+    text_.setToolTip(whole);
+    text_.setText(text_.fontMetrics().elidedText(whole, Qt::ElideLeft, text_.width()));
+  }
+
   Label& label_;
   QLabel& text_;
   QString designed_ = text_.text();

@@ -13,8 +13,10 @@
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QPointer>
+#include <QScreen>
 #include <QTimer>
 #include <QWindow>
+#include <algorithm>
 #include <cmath>
 #include <map>
 #include <utility>
@@ -44,6 +46,10 @@ bool IsEditingKey(const QKeyEvent& event) {
   return event.matches(QKeySequence::Copy) || event.matches(QKeySequence::Cut) ||
          event.matches(QKeySequence::Paste) || event.matches(QKeySequence::SelectAll);
 }
+
+// Twice what all screens show: room for every window of use, wherever it lies. A damaged file can
+// ask for far more, and the toolkit would take memory for each pixel of it.
+QSize LargestWindow() { return QGuiApplication::primaryScreen()->virtualSize() * 2; }
 
 bool MenuIsOpen() { return qobject_cast<QMenu*>(QApplication::activePopupWidget()) != nullptr; }
 
@@ -84,6 +90,7 @@ class FormWindow : public QObject, public ControlView {
  private:
   // --- size and state ---
   void FitToHints();
+  void FitOnScreen();
   void TakeGeometry();
   void Report();
   void ClaimFrame(const QMargins& frame);
@@ -130,6 +137,14 @@ void FormWindow::FitToHints() {
   }
 }
 
+// A window that nobody has placed comes up whole, also on a screen that is smaller than its design.
+void FormWindow::FitOnScreen() {
+  if (IsLaidOut() || form_.IsPlaced() || window_->isVisible()) return;
+  const QSize room = window_->screen()->availableSize();
+  form_.SetWidth(std::min(form_.Width(), Twips(room.width())));
+  form_.SetHeight(std::min(form_.Height(), Twips(room.height())));
+}
+
 WindowState FormWindow::StateNow() const {
   if (window_->isMinimized()) return WindowState::kMinimized;
   return window_->isMaximized() ? WindowState::kMaximized : WindowState::kNormal;
@@ -140,7 +155,7 @@ void FormWindow::TakeGeometry() {
   if (IsLaidOut()) return;  // a dialog is as large as its form file makes it
   applying_ = true;
   // A form without a place of its own gets one from the window manager when it comes up.
-  placed_ = form_.Left() != 0 || form_.Top() != 0 || window_->isVisible();
+  placed_ = form_.IsPlaced() || window_->isVisible();
   FitInFrame(window_->windowHandle()->frameMargins());
   if (form_.State() != StateNow()) {
     window_->setWindowState(form_.State() == WindowState::kMinimized   ? Qt::WindowMinimized
@@ -153,8 +168,8 @@ void FormWindow::TakeGeometry() {
 
 void FormWindow::FitInFrame(const QMargins& frame) {
   frame_owed_ = frame.isNull();
-  window_->resize(Pixels(form_.Width()) - frame.left() - frame.right(),
-                  Pixels(form_.Height()) - frame.top() - frame.bottom());
+  const QSize size(Pixels(form_.Width()), Pixels(form_.Height()));
+  window_->resize(size.boundedTo(LargestWindow()).shrunkBy(frame));
   unframed_size_ = window_->size();
   if (placed_) window_->move(Pixels(form_.Left()), Pixels(form_.Top()));
 }
@@ -218,6 +233,7 @@ void FormWindow::Changed(const Control& control, Aspect aspect) {
 // The model's window is active as soon as it is shown, whatever the window manager thinks of it
 // later.
 void FormWindow::Show() {
+  FitOnScreen();
   window_->show();
   window_->raise();
   window_->activateWindow();
@@ -299,8 +315,9 @@ bool FormWindow::eventFilter(QObject* object, QEvent* event) {
       break;
     case QEvent::Close:
       if (object != window_.get()) break;
-      event->ignore();  // the form decides, and takes the window along
+      // The form decides, and takes the window along. The session's end asks who has stayed.
       UserClose(form_);
+      event->setAccepted(!IsLoaded(form_));
       return true;
     default:
       break;

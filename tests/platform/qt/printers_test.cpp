@@ -1,4 +1,5 @@
 // The printers of the toolkit, above all the one that writes files.
+#include <signal.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -202,6 +203,152 @@ TEST_F(PrintersTest, AFileThatCannotBeWrittenFaultsAtTheStart) {
   EXPECT_EQ(FaultOf([] { Printer().Page().Print("x"); }), 75);
   EXPECT_EQ(FaultOf([] { Printer().Page().Print("x"); }), 75);
   EXPECT_EQ(dialogs.requests.size(), 1u);
+}
+
+TEST_F(PrintersTest, TheStartOfAJobAsksAndPaintingDoesNotAskAgain) {
+  WriteTo("label.pdf");
+  Printer().StartDoc();
+  EXPECT_EQ(dialogs.requests.size(), 1u);
+  Printer().StartDoc();
+  Printer().Page().Print("x");
+  EXPECT_EQ(dialogs.requests.size(), 1u);
+  Printer().EndDoc();
+  EXPECT_EQ(Read("label.pdf").count, 1);
+}
+
+TEST_F(PrintersTest, PaperChosenAfterTheStartIsThePages) {
+  WriteTo("letter.pdf");
+  Printer().StartDoc();
+  Printer().SetPaperSize(1);
+  Printer().Page().Print("x");
+  Printer().EndDoc();
+  EXPECT_NEAR(Read("letter.pdf").width, 215.9, 0.2);
+}
+
+TEST_F(PrintersTest, AJobWithoutAPageLeavesTheFormerFileAlone) {
+  WriteFile(folder.File("label.pdf"), "former");
+  WriteTo("label.pdf");
+  Printer().StartDoc();
+  Printer().EndDoc();
+  EXPECT_EQ(ReadFile(folder.File("label.pdf")), "former");
+  EXPECT_EQ(FilesInFolder(), 1);
+}
+
+// --- what a printer says itself ---
+
+TEST_F(PrintersTest, WhoBacksOutIsToldNothing) {
+  EXPECT_EQ(FaultOf([] { Printer().StartDoc(); }), 32755);
+  EXPECT_TRUE(Printer().JobLost());
+  EXPECT_TRUE(dialogs.messages.empty());
+  Printer().EndDoc();
+  EXPECT_FALSE(Printer().JobLost());
+}
+
+TEST_F(PrintersTest, AFileThatCannotBeWrittenIsToldOnce) {
+  WriteTo("no/such/folder/label.pdf");
+  EXPECT_EQ(FaultOf([] { Printer().StartDoc(); }), 75);
+  EXPECT_EQ(FaultOf([] { Printer().Page().Print("x"); }), 75);
+  Printer().EndDoc();
+  ASSERT_EQ(dialogs.messages.size(), 1u);
+  EXPECT_NE(dialogs.messages[0].text.find("no/such/folder/label.pdf"), std::string::npos);
+}
+
+TEST_F(PrintersTest, AQueueThatIsNotThereIsToldOnce) {
+  EXPECT_EQ(FaultOf([] { ChoosePrinter("no such queue 4711"); }), 482);
+  ASSERT_EQ(dialogs.messages.size(), 1u);
+  EXPECT_EQ(dialogs.messages[0].text, "The printer no such queue 4711 is not there any more.");
+}
+
+// As on a disk without room: files of this process may not grow beyond a limit meanwhile.
+class FullDisk {
+ public:
+  explicit FullDisk(rlim_t bytes) {
+    signal(SIGXFSZ, SIG_IGN);
+    getrlimit(RLIMIT_FSIZE, &before_);
+    const rlimit limit{bytes, before_.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &limit);
+  }
+  ~FullDisk() {
+    setrlimit(RLIMIT_FSIZE, &before_);
+    signal(SIGXFSZ, SIG_DFL);
+  }
+  FullDisk(const FullDisk&) = delete;
+  FullDisk& operator=(const FullDisk&) = delete;
+
+ private:
+  rlimit before_{};
+};
+
+TEST_F(PrintersTest, AFullDiskKeepsTheFormerFileAndIsToldOnce) {
+  WriteFile(folder.File("label.pdf"), "former");
+  WriteTo("label.pdf");
+  int fault = 0;
+  {
+    const FullDisk disk(20000);
+    Printer().StartDoc();
+    for (int page = 0; page < 2000 && !Printer().JobLost(); ++page) {
+      Printer().Page().Print("page " + std::to_string(page));
+      Printer().NewPage();
+    }
+    EXPECT_TRUE(Printer().JobLost()) << "two thousand pages do not fit";
+    fault = FaultOf([] { Printer().EndDoc(); });
+  }
+  EXPECT_EQ(fault, 57);
+  EXPECT_EQ(ReadFile(folder.File("label.pdf")), "former");
+  EXPECT_EQ(FilesInFolder(), 1);
+  EXPECT_EQ(dialogs.messages.size(), 1u);
+}
+
+// --- boxes painted together ---
+
+TEST_F(PrintersTest, WhatIsPaintedLaterLiesOnTop) {
+  WriteTo("order.pdf");
+  Surface& page = Printer().Page();
+  page.Scale().SetScaleMode(kMillimetres);
+  const auto box = [&](double x, Color color) { page.Line(x, 10, x + 5, 20, color); };
+  box(10, Rgb(1, 0, 0));
+  box(20, Rgb(1, 0, 0));
+  box(30, Rgb(2, 0, 0));
+  page.Font = {"Arial", 10, false, false};
+  page.CurrentX = 10;
+  page.CurrentY = 10;
+  page.Print("over");
+  box(40, Rgb(2, 0, 0));
+  Printer().NewPage();
+  box(50, Rgb(3, 0, 0));
+  Printer().EndDoc();
+  std::vector<Color> colors;
+  std::vector<int> pages;
+  for (const PdfMark& mark : Read("order.pdf").marks) {
+    colors.push_back(mark.what == PdfMark::What::kText ? -1 : mark.color);
+    pages.push_back(mark.page);
+  }
+  EXPECT_EQ(colors, (std::vector<Color>{1, 1, 2, -1, 2, 3}));
+  EXPECT_EQ(pages, (std::vector<int>{1, 1, 1, 1, 1, 2}));
+}
+
+TEST_F(PrintersTest, BoxesOfAPageThatIsDroppedAreNotOnTheNextJobs) {
+  WriteTo("dropped.pdf");
+  WriteTo("next.pdf");
+  Surface& page = Printer().Page();
+  page.Scale().SetScaleMode(kMillimetres);
+  page.Line(10, 10, 20, 20, 0);
+  Printer().KillDoc();
+  page.Line(50, 10, 60, 20, 0);
+  Printer().EndDoc();
+  const auto boxes = Read("next.pdf").Of(PdfMark::What::kFill);
+  ASSERT_EQ(boxes.size(), 1u);
+  EXPECT_NEAR(boxes[0].x1, 50, 0.02);
+}
+
+TEST_F(PrintersTest, ABoxWithoutAnAreaPaintsNothing) {
+  WriteTo("empty.pdf");
+  Surface& page = Printer().Page();
+  page.Scale().SetScaleMode(kMillimetres);
+  page.Line(10, 10, 10, 20, 0);
+  page.Line(10, 10, 20, 10, 0);
+  Printer().EndDoc();
+  EXPECT_TRUE(Read("empty.pdf").Of(PdfMark::What::kFill).empty());
 }
 
 // --- long jobs ----------------------------------------------------------------------------------

@@ -98,6 +98,33 @@ TEST_F(TextTest, TenStringsMeasureTheSameOnTheBoardAtEveryZoom) {
   }
 }
 
+// Plain characters are shaped one by one and kept; any other among them has the line shaped as a
+// whole. Both give the same, or a character more would move all before it.
+TEST_F(TextTest, PlainTextIsShapedAsItIsInOtherCompany) {
+  const std::string other = "\u2026";  // an ellipsis
+  for (const Sample& sample : kSamples) {
+    const QList<QPointF> alone = ShapeText(sample.text, sample.font).runs.at(0).positions();
+    const double width = Fonts().Width(sample.text, sample.font);
+    const QList<QPointF> joined =
+        ShapeText(sample.text + other, sample.font).runs.at(0).positions();
+    ASSERT_LE(alone.size(), joined.size()) << sample.text;
+    for (qsizetype i = 0; i < alone.size(); ++i) {
+      EXPECT_NEAR(joined[i].x(), alone[i].x(), 0.1) << sample.text << ", mark " << i;
+    }
+    EXPECT_NEAR(Fonts().Width(sample.text + other, sample.font),
+                width + Fonts().Width(other, sample.font), width / 1000)
+        << sample.text;
+  }
+}
+
+// Every alphabet of the plain ones, and what only looks like them: marks are no letters.
+TEST_F(TextTest, MarksJoinTheLetterBeforeThem) {
+  const FontSpec font{"DejaVu Sans", 10, false, false};
+  EXPECT_GT(Fonts().Width("\u0416\u03A9\u00C5", font), Fonts().Width("\u0416\u03A9", font));
+  EXPECT_NEAR(Fonts().Width("e\u0301", font), Fonts().Width("e", font), 0.01);
+  EXPECT_NEAR(Fonts().Width("a\u00A0b", font), Fonts().Width("a b", font), 1e-9);
+}
+
 // A page of the given resolution, written and read back.
 PdfPages PrintSamples(const std::string& path, int resolution) {
   QPdfWriter writer(QString::fromStdString(path));
@@ -243,6 +270,12 @@ TEST_F(TextTest, AnEmptyOrUnknownFamilyFallsBackToASansSerif) {
 
 TEST_F(TextTest, CharactersThatAFontLacksComeFromAnother) {
   EXPECT_GT(Fonts().Width("\u0416\u4E2D", {"Courier New", 20, false, false}), 10);
+}
+
+TEST_F(TextTest, ANameThatAMetricTwinAnswersToCanBeChosen) {
+  const std::vector<std::string> families = Fonts().Families();
+  EXPECT_EQ(std::count(families.begin(), families.end(), "Liberation Sans"), 1);
+  EXPECT_EQ(std::count(families.begin(), families.end(), "Arial"), 1);
 }
 
 TEST_F(TextTest, FamiliesAreListedOnceAndWithoutTheirMakers) {

@@ -27,6 +27,17 @@ TEST_F(BinderTest, TheAboutWindowMatchesBothWays) {
   EXPECT_EQ(Joined(WidgetsWithoutControl(frmAbout, *window)), "");
 }
 
+TEST_F(BinderTest, TheWindowOfSerialNumbersMatchesBothWaysAndSpeaks) {
+  const auto window = BuildWindow(frmSerialNumber, nullptr);
+  EXPECT_EQ(Joined(ControlsWithoutWidget(frmSerialNumber, *window)), "");
+  EXPECT_EQ(Joined(WidgetsWithoutControl(frmSerialNumber, *window)), "");
+  for (const Control* control : frmSerialNumber.AllControls()) {
+    const auto* widget = window->findChild<QWidget*>(ObjectName(*control));
+    ASSERT_NE(widget, nullptr) << ObjectName(*control).toStdString();
+    EXPECT_FALSE(widget->accessibleName().isEmpty()) << ObjectName(*control).toStdString();
+  }
+}
+
 TEST_F(BinderTest, AMissingWidgetAndAStrangerAreNamed) {
   Find("cmdLine").setObjectName("cmdLime");
   EXPECT_EQ(Joined(ControlsWithoutWidget(frmMain, Window())), "cmdLine");

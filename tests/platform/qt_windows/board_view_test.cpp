@@ -199,6 +199,15 @@ TEST_F(BoardViewTest, AMessageInsideAPressDoesNotLeaveItHanging) {
   EXPECT_EQ(log, Log({"down", "up"})) << "nor does a late release count again";
 }
 
+TEST_F(BoardViewTest, TheButtonsBesideTheThreeAreNoPress) {
+  frmMain.picBoard.Events().MouseDown = [this](int button, int, double, double) {
+    log.push_back(std::to_string(button));
+  };
+  QTest::mouseClick(Screen(), Qt::BackButton, Qt::NoModifier, At(300, 300));
+  QTest::mouseClick(Screen(), Qt::MiddleButton, Qt::NoModifier, At(300, 300));
+  EXPECT_EQ(log, Log({"4"}));
+}
+
 TEST_F(BoardViewTest, AButtonFoundUpEndsThePress) {
   frmMain.picBoard.Events().MouseUp = [this](int, int, double, double) { log.push_back("up"); };
   QMouseEvent press(QEvent::MouseButtonPress, QPointF(300, 300),

@@ -45,6 +45,23 @@ TEST_F(KeyboardTest, EachCharacterIsAskedForOnce) {
   EXPECT_EQ(Find<QLineEdit>("txtNoCopies").text(), "12");
 }
 
+// Most of these keys have no code that handlers would know them by.
+TEST_F(KeyboardTest, PunctuationAndAccentsArriveWhetherOrNotTheWindowListens) {
+  const QString signs = "1.5-,;:+/*%_#'\"\\!?()[]{}<>=@&$~^|` ";
+  const auto type_all = [&] {
+    Type(signs);
+    QTest::sendKeyEvent(QTest::Click, Screen(), Qt::Key_Adiaeresis, QStringLiteral("\u00E4"),
+                        Qt::NoModifier);
+  };
+  const std::string expected = signs.toStdString() + "\u00E4";
+  type_all();
+  EXPECT_EQ(frmMain.txtNoCopies.Text(), expected);
+  frmMain.txtNoCopies.SetText("");
+  frmMain.WindowEvents().KeyDown = [](int&, int) {};
+  type_all();
+  EXPECT_EQ(frmMain.txtNoCopies.Text(), expected);
+}
+
 TEST_F(KeyboardTest, AHandlerSwallowsOrReplacesACharacter) {
   frmMain.txtNoCopies.Events().KeyPress = [](int& key) {
     if (key == 'x') key = 0;

@@ -44,6 +44,17 @@ TEST(LocaleQtTest, BritishYearsAreWrittenInFull) {
   EXPECT_EQ(All("en_GB.UTF-8").short_date, "dd/MM/yyyy");
 }
 
+TEST(LocaleQtTest, TimesHaveTheirSecondsAndNoZone) {
+  EXPECT_EQ(All("de_DE.UTF-8").time, "HH:mm:ss");
+  EXPECT_EQ(All("en_US.UTF-8").time, "h:mm:ss tt");
+  EXPECT_EQ(All("en_US.UTF-8").after_noon, "PM");
+  EXPECT_EQ(All("en_GB.UTF-8").time, "HH:mm:ss");
+  EXPECT_EQ(All("es_ES.UTF-8").time, "H:mm:ss") << "the zone stood in parentheses";
+  EXPECT_EQ(All("zh_CN.UTF-8").time, "HH:mm:ss") << "the zone stood in front";
+  EXPECT_EQ(All("ko_KR.UTF-8").time, "tt h시 m분 s초");
+  EXPECT_EQ(All("fr_CA.UTF-8").time, "HH 'h' mm 'min' ss 's'") << "what is quoted stays";
+}
+
 TEST(LocaleQtTest, JapaneseMoneyHasNoDecimals) { EXPECT_EQ(All("ja_JP.UTF-8").currency_digits, 0); }
 
 TEST(LocaleQtTest, PolishAndRussianHaveTheirCodePages) {
@@ -57,6 +68,14 @@ TEST(LocaleQtTest, EachCategoryCountsForItself) {
   EXPECT_EQ(mixed.currency, "$");
   EXPECT_EQ(mixed.short_date, "dd/MM/yyyy");
   EXPECT_EQ(mixed.code_page, 1250);
+}
+
+// The script stands behind the territory, where numbers and dates have no use for it.
+TEST(LocaleQtTest, TheScriptOfALanguageDecidesItsCodePage) {
+  EXPECT_EQ(LocaleOf({"", "", "", "sr_RS.UTF-8"}).code_page, 1251);
+  EXPECT_EQ(LocaleOf({"", "", "", "sr_RS.UTF-8@latin"}).code_page, 1250);
+  EXPECT_EQ(LocaleOf({"", "", "", "uz_UZ.UTF-8@cyrillic"}).code_page, 1251);
+  EXPECT_EQ(LocaleOf({"", "", "", "de_DE@euro"}).code_page, 1252);
 }
 
 class Environment : public testing::Test {
@@ -91,6 +110,11 @@ TEST_F(Environment, LcAllComesBeforeItsPartsAndLangComesLast) {
 TEST(NameFiltersTest, DescriptionsAndPatternsComeInPairs) {
   const QStringList filters = NameFilters("All Picture Formats |*.jpg;*.jpeg;*.gif|Labels|*.twp");
   EXPECT_EQ(filters, QStringList({"All Picture Formats (*.jpg *.jpeg *.gif)", "Labels (*.twp)"}));
+}
+
+TEST(NameFiltersTest, ADescriptionThatNamesItsPatternDoesNotNameItTwice) {
+  EXPECT_EQ(NameFilters("Tagwright Project (*.twp)|*.twp"),
+            QStringList("Tagwright Project (*.twp)"));
 }
 
 TEST(NameFiltersTest, ADescriptionAloneShowsEverything) {

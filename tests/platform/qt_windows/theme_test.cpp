@@ -52,6 +52,14 @@ TEST_F(ThemeTest, IconsTakeTheColoursOfTheTheme) {
   EXPECT_TRUE(Holds(Drawn("order-front"), DarkTheme().accent));
 }
 
+// It stands on a ground of its own, where the light ink of the dark look would not be seen.
+TEST_F(ThemeTest, TheProgramsOwnIconIsTheSameInBothLooks) {
+  UseTheme(Toolkit(), LightTheme());
+  const QImage light = Drawn("application");
+  UseTheme(Toolkit(), DarkTheme());
+  EXPECT_EQ(Drawn("application"), light);
+}
+
 TEST_F(ThemeTest, AnUnknownIconIsNull) { EXPECT_TRUE(ThemedIcon("no-such-icon").isNull()); }
 
 TEST_F(ThemeTest, TextIsReadableInBothLooks) {
@@ -65,7 +73,8 @@ TEST_F(ThemeTest, TextIsReadableInBothLooks) {
 }
 
 TEST_F(ThemeTest, PointersAreSharpOnADenseScreen) {
-  for (const char* name : {"pointer-zoom-in", "pointer-zoom-out", "pointer-barcode", "pointer-field"}) {
+  for (const char* name :
+       {"pointer-zoom-in", "pointer-zoom-out", "pointer-barcode", "pointer-field"}) {
     const QCursor pointer = IconPointer(name, 2.0);
     EXPECT_EQ(pointer.pixmap().size(), QSize(48, 48)) << name;
     EXPECT_EQ(pointer.pixmap().devicePixelRatio(), 2.0) << name;

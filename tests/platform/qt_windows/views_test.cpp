@@ -81,6 +81,23 @@ TEST_F(ViewsTest, AnEmptyCaptionKeepsThatOfTheForm) {
   EXPECT_EQ(Find<QLabel>("lblFName_1").text(), "Table");
 }
 
+TEST_F(ViewsTest, ALongPathLosesItsBeginningAndIsWholeInItsToolTip) {
+  Front(frmMain.picFields);
+  Settle();
+  auto& label = Find<QLabel>("lblFileName");
+  frmMain.lblFileName.SetCaption("/a/b.csv");
+  EXPECT_EQ(label.text(), "/a/b.csv");
+  const std::string path = "/" + std::string(200, 'x') + "/people.csv";
+  frmMain.lblFileName.SetCaption(path);
+  EXPECT_TRUE(label.text().startsWith("…")) << label.text().toStdString();
+  EXPECT_TRUE(label.text().endsWith("/people.csv")) << label.text().toStdString();
+  EXPECT_LE(label.fontMetrics().horizontalAdvance(label.text()), label.width());
+  EXPECT_EQ(label.toolTip().toStdString(), path);
+  EXPECT_EQ(label.accessibleDescription().toStdString(), path);
+  label.resize(4000, label.height());
+  EXPECT_EQ(label.text().toStdString(), path);
+}
+
 TEST_F(ViewsTest, APickListShowsATextThatIsNoRow) {
   frmMain.cboPrinter.AddItem("Print to PDF");
   frmMain.cboPrinter.SetText("Old printer");

@@ -30,6 +30,7 @@ WindowTest::WindowTest() {
   frmMain.vS1.Move(17320, 0, 260, 8140);
   frmMain.hS1.Move(20, 8140, 17300, 260);
   frmMain.cmdXC.Move(17320, 8140, 260, 260);
+  frmMain.Move(0, 0);  // or it would shrink to the screen, which is a small one
   Show(frmMain);
   (void)QTest::qWaitForWindowActive(window_);
 }

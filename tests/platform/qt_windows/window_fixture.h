@@ -13,6 +13,7 @@
 
 #include "forms/frmAbout.h"
 #include "forms/frmMain.h"
+#include "forms/frmSerialNumber.h"
 #include "platform/windows.h"
 #include "support/test_support.h"
 

@@ -2,6 +2,7 @@
 
 #include <QPointer>
 #include <QPushButton>
+#include <QScreen>
 #include <QTimer>
 
 #include "platform/qt/views.h"
@@ -75,6 +76,36 @@ TEST_F(WindowsQtTest, AWindowGoesWhereTheModelPutsItEvenOffTheScreen) {
   EXPECT_NEAR(Window().frameGeometry().y(), 260, 2);
 }
 
+TEST_F(WindowsQtTest, AWindowThatNobodyHasPlacedComesUpWithinItsScreen) {
+  const QSize screen = QGuiApplication::primaryScreen()->availableSize();
+  Unload(frmMain);
+  Load(frmMain);
+  ASSERT_GT(frmMain.Width(), Twips(screen.width())) << "or there is nothing to see here";
+  Show(frmMain);
+  EXPECT_EQ(frmMain.Width(), Twips(screen.width()));
+  EXPECT_LE(frmMain.Height(), Twips(screen.height()));
+  EXPECT_EQ(WindowOf(frmMain)->frameGeometry().width(), screen.width());
+}
+
+TEST_F(WindowsQtTest, AWindowIsNeverMuchLargerThanAllScreens) {
+  const QSize screens = QGuiApplication::primaryScreen()->virtualSize();
+  frmMain.SetWidth(300000);
+  frmMain.SetHeight(300000);
+  Settle();
+  EXPECT_EQ(Window().frameGeometry().size(), screens * 2);
+  EXPECT_EQ(frmMain.Width(), Twips(screens.width() * 2)) << "the model hears what came of it";
+  EXPECT_EQ(frmMain.Height(), Twips(screens.height() * 2));
+}
+
+// A place of 0, 0 that somebody has given is none to be left to the window manager.
+TEST_F(WindowsQtTest, AWindowThatIsSentToTheVeryCornerIsPlacedThere) {
+  Unload(frmMain);
+  Load(frmMain);
+  EXPECT_FALSE(WindowOf(frmMain)->testAttribute(Qt::WA_Moved));
+  frmMain.Move(0, 0);
+  EXPECT_TRUE(WindowOf(frmMain)->testAttribute(Qt::WA_Moved));
+}
+
 TEST_F(WindowsQtTest, StatesAreReported) {
   Window().showMinimized();
   Settle();
@@ -100,6 +131,15 @@ TEST_F(WindowsQtTest, ClosingAsksTheForm) {
   EXPECT_FALSE(IsLoaded(frmMain));
   EXPECT_FALSE(window && window->isVisible());
   EXPECT_EQ(log.size(), 2U);
+}
+
+TEST_F(WindowsQtTest, TheSessionsEndHearsWhetherTheWindowStays) {
+  bool stays = true;
+  frmMain.WindowEvents().Unload = [&](bool& stay) { stay = stays; };
+  QWidget* window = &Window();
+  EXPECT_FALSE(window->close());
+  stays = false;
+  EXPECT_TRUE(window->close());
 }
 
 TEST_F(WindowsQtTest, AClosedWindowComesBackFresh) {
@@ -154,6 +194,25 @@ TEST_F(WindowsQtTest, AModalWindowThatHidesItselfLetsTheProgramGoOn) {
   QTimer::singleShot(0, [] { frmAbout.SetVisible(false); });
   ShowModal(frmAbout);
   EXPECT_TRUE(IsLoaded(frmAbout));
+}
+
+TEST_F(WindowsQtTest, ReturnSavesTheSerialNumbersFromAField) {
+  int saved = 0;
+  Load(frmSerialNumber);
+  frmSerialNumber.cmdSave.Events().Click = [&] {
+    ++saved;
+    Unload(frmSerialNumber);
+  };
+  QTimer::singleShot(0, [&] {
+    QWindow* window = WindowOf(frmSerialNumber)->windowHandle();
+    EXPECT_TRUE(frmSerialNumber.txtSerPref.HasFocus());
+    EXPECT_TRUE(QTest::qWaitForWindowActive(window));
+    frmSerialNumber.txtSerIncr.UserFocus();
+    QTest::keyClick(window, Qt::Key_Return);
+  });
+  ShowModal(frmSerialNumber);
+  EXPECT_EQ(saved, 1);
+  EXPECT_FALSE(IsLoaded(frmSerialNumber));
 }
 
 TEST_F(WindowsQtTest, ADialogOpensOverTheMainWindow) {

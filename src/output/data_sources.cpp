@@ -1,0 +1,148 @@
+#include "output/data_sources.h"
+
+#include <string>
+
+#include "common/diagnostics.h"
+#include "document/objects.h"
+#include "document/project_file.h"
+#include "forms/frmMain.h"
+#include "output/database_source.h"
+#include "output/text_source.h"
+#include "platform/dialogs.h"
+#include "platform/fault.h"
+
+namespace tagwright {
+namespace {
+
+constexpr std::int16_t kFieldPointer = 99;
+
+// What the file dialog offers, by kind.
+constexpr const char* kFilters[] = {
+    "Microsoft Access 97 Database *.mdb|*.mdb",
+    "Comma Separated Text *.csv;*.txt|*.csv;*.txt",
+    "Tab delimited Text *.txt|*.txt",
+};
+
+int ChosenKind() { return frmMain.cboImportType.ListIndex(); }
+
+// Returns false when the user cancels.
+bool AskForDataFile() {
+  CommonDialog& dialog = frmMain.cd1;
+  if (ChosenKind() >= kDatabaseSource && ChosenKind() <= kTabSource)
+    dialog.Filter = kFilters[ChosenKind()];
+  dialog.FileName.clear();
+  dialog.CancelError = true;
+  return CarryOn([&] { dialog.ShowOpen(); }) && !dialog.FileName.empty();
+}
+
+void OpenSource() {
+  switch (ChosenKind()) {
+    case kDatabaseSource:
+      return OpenDatabaseSource();
+    case kCommaSource:
+      return OpenTextSource(true);
+    case kTabSource:
+      return OpenTextSource(false);
+    default:
+      return;
+  }
+}
+
+void RefusePassword() {
+  MessageBox("Not a Valid Password", MessageButtons::kOk, MessageIcon::kNone);
+  DatabasePassword.clear();
+}
+
+// Returns false where the source is a database that refuses the password.
+bool SourceOpens() {
+  try {
+    OpenSource();
+  } catch (const Fault& fault) {
+    if (fault.number == kPasswordNeeded) {
+      RefusePassword();
+      return false;
+    }
+    MarkerTail(fault);
+  }
+  return true;
+}
+
+}  // namespace
+
+std::string& FieldValueAt(std::size_t slot) {
+  if (slot >= FieldValues.size()) RaiseFault(kOutOfBounds);
+  return FieldValues[slot];
+}
+
+void cmdBrowse_Click() {
+  if (!AskForDataFile()) return;
+  const std::string path = frmMain.cd1.FileName;
+  FieldUB = -1;
+  if (!SourceOpens()) return;
+  frmMain.lblFName(1).SetVisible(frmMain.cboRSet.Visible());
+  frmMain.lblFileName.SetCaption(path);
+}
+
+void FillFieldList() {
+  frmMain.lstFields.Clear();
+  Traced([] {
+    for (std::int16_t i = 0; i <= FieldUB; ++i) {
+      frmMain.lstFields.AddItem(FieldValueAt(static_cast<std::size_t>(i)));
+    }
+  });
+}
+
+void ShowRecordCount() { frmMain.lblRCount.SetCaption("Records: " + std::to_string(RecordCount)); }
+
+void cboImportType_Click() {
+  if (ChosenKind() == -1 || LoadingProject) return;
+  frmMain.cmdBrowse.Press();
+}
+
+void chkFirstRow_Click() { DirtyFlag = kTrue; }
+
+void lstFields_DblClick() {
+  CurrentTool = kDataField;
+  CursorShape = kFieldPointer;
+  frmMain.SetMouseIcon(frmMain.Image2.Icon());
+  frmMain.SetMousePointer(kFieldPointer);
+}
+
+void OpenMergeSource() {
+  switch (ChosenKind()) {
+    case kDatabaseSource:
+      return OpenDatabaseRows();
+    case kCommaSource:
+      return OpenTextRows(true);
+    case kTabSource:
+      return OpenTextRows(false);
+    default:
+      return;
+  }
+}
+
+void NextMergeRecord(bool& More) {
+  More = false;
+  switch (ChosenKind()) {
+    case kDatabaseSource:
+      return NextDatabaseRow(More);
+    case kCommaSource:
+    case kTabSource:
+      return NextTextRow(More);
+    default:
+      return;
+  }
+}
+
+void CloseMergeSource() {
+  if (ChosenKind() == kCommaSource || ChosenKind() == kTabSource) SourceFile.reset();
+}
+
+void ResetDataSources() {
+  FieldSeparator.clear();
+  SourceTable = {};
+  SourceRecordset.reset();
+  SourceFile.reset();
+}
+
+}  // namespace tagwright

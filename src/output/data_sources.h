@@ -1,0 +1,85 @@
+// Data sources: the one external table that a label can draw on. Choosing it, its columns and its
+// rows, and the cursor that a print job drives.
+//
+// While designing FieldValues holds the names of the columns, while printing the row under the
+// cursor. RecordCount, CurrentTable, DatabasePassword and SourceDatabase travel with a project and
+// are declared in document/project_file.h.
+//
+// A fault in these routines goes through the marker tail, what it would have set keeps its old
+// value, and the next step runs. Where it says so below it ends there instead.
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/database.h"
+#include "platform/line_reader.h"
+
+namespace tagwright {
+
+// The kinds of source: the rows of cboImportType.
+enum SourceKind : int { kDatabaseSource = 0, kCommaSource = 1, kTabSource = 2 };
+
+// A table as its database describes it.
+struct TableDef {
+  std::string Name;
+  std::vector<std::string> Fields;  // names of the columns
+};
+
+inline std::string FieldSeparator;                  // "," or a tab
+inline TableDef SourceTable;                        // the chosen table
+inline std::unique_ptr<Recordset> SourceRecordset;  // the open rows, null none
+inline std::unique_ptr<LineReader> SourceFile;      // the open text source of a print, null none
+
+// --- choosing a source --------------------------------------------------------------------------
+
+// Asks for a file of the kind that cboImportType shows and opens it as the source: its columns go
+// to FieldValues and lstFields, its path to lblFileName. A cancelled dialog changes nothing. A
+// database whose password stays wrong ends the command with a message and an empty
+// DatabasePassword.
+void cmdBrowse_Click();
+
+// Reads the columns and counts the rows, the first line included, of the text file cd1.FileName.
+// The columns are added behind FieldUB. A file that cannot be read has one column without a name
+// and no rows.
+void OpenTextSource(bool Comma);
+
+// Opens the database cd1.FileName, asking for a password if it wants one, and lists its tables in
+// cboRSet. An empty answer ends the routine. Faults 3031 for a wrong one, after saying so.
+void OpenDatabaseSource();
+
+// FieldValues(slot). Faults 9 past the last slot.
+std::string& FieldValueAt(std::size_t slot);
+
+// lstFields shows FieldValues(0) to FieldValues(FieldUB).
+void FillFieldList();
+
+// lblRCount shows RecordCount.
+void ShowRecordCount();
+
+void cboImportType_Click();  // opens the file dialog, unless a project is being loaded
+void cboRSet_Click();        // takes the columns and counts the rows of the chosen table
+void chkFirstRow_Click();    // sets DirtyFlag, nothing else
+void lstFields_DblClick();   // arms tool 20 with its pointer
+
+// --- the cursor of a print job ------------------------------------------------------------------
+
+// Opens the source that lblFileName, cboImportType and cboRSet name and stands on its first row,
+// which is passed over: the first NextMergeRecord gives the second one.
+void OpenMergeSource();
+
+// Moves to the next row and fills FieldValues with it. `More` is false at the end of the data, and
+// where no source is open. A row of a text source shorter than the one before keeps the values of
+// that one in the columns that it does not reach, and sets FieldUB to its own last column; columns
+// past the last slot are dropped.
+void NextMergeRecord(bool& More);
+
+// Closes a text source. A database stays open.
+void CloseMergeSource();
+
+// The state above back to program start, with no source open.
+void ResetDataSources();
+
+}  // namespace tagwright

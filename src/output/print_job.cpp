@@ -1,0 +1,235 @@
+#include "output/print_job.h"
+
+#include <cstdint>
+#include <limits>
+#include <string>
+
+#include "common/diagnostics.h"
+#include "common/public_functions.h"
+#include "document/objects.h"
+#include "document/redraw.h"
+#include "forms/frmMain.h"
+#include "layouts/label_layouts.h"
+#include "output/data_sources.h"
+#include "platform/printer.h"
+#include "platform/progress.h"
+
+namespace tagwright {
+namespace {
+
+constexpr int kPortrait = 1;
+constexpr int kLetter = 1;
+constexpr int kA4 = 9;
+
+// How far a step wants the loops around it to be left.
+enum class Leave { kNothing, kCopy, kJob };
+
+struct Job {
+  Progress& progress;
+  double margin_x = 0;    // dead margins of the printer, millimetres
+  double margin_y = 0;    // likewise
+  std::int64_t page = 1;  // runs on across copies
+};
+
+// --- what the boxes say -------------------------------------------------------------------------
+
+double Shown(int box) { return ToNumber(frmMain.txtLabLayout(box).Text()); }
+
+double Across() { return Shown(0); }
+double Down() { return Shown(1); }
+double PitchX() { return Shown(2) + Shown(6); }
+double PitchY() { return Shown(3) + Shown(7); }
+double LeftMargin() { return Shown(4); }
+double TopMargin() { return Shown(5); }
+
+double FirstPage() { return ToNumber(frmMain.txtPrintFrom.Text()); }
+double LastPage() { return ToNumber(frmMain.txtPrintTo.Text()); }
+bool IsAsked(std::int64_t page) {
+  const auto number = static_cast<double>(page);
+  return FirstPage() <= number && number <= LastPage();
+}
+
+// A number of copies that no counter holds is none.
+std::int32_t Copies() {
+  std::int32_t copies = 0;
+  Traced([&] { copies = ToInt32(ToNumber(frmMain.txtNoCopies.Text())); });
+  return copies;
+}
+
+bool Merges() { return frmMain.chkMailshot.Value() == 1; }
+bool PassesTitles() { return frmMain.chkFirstRow.Value() == 1; }
+
+// --- one cell -----------------------------------------------------------------------------------
+
+bool PrinterLostJob() {
+  bool lost = false;
+  CarryOn([&] { lost = !PreviewMode && Printer().JobLost(); });
+  return lost;
+}
+
+bool GoesOn(Job& job) { return job.progress.GoesOn() && !PrinterLostJob(); }
+
+bool NextRecord() {
+  bool more = false;
+  Traced([&] { NextMergeRecord(more); });
+  return more;
+}
+
+// The dead margin is in millimetres and counts as display units: in inches it moves the label 25
+// times too far.
+void PaintCell(const Job& job, int col, int row) {
+  const double x = LeftMargin() + PitchX() * col - job.margin_x;
+  const double y = TopMargin() + PitchY() * row - job.margin_y;
+  RedrawBoard(x * UnitScale, y * UnitScale, true);
+}
+
+// By 1 always: the increment of the serial dialog is kept, but does not act here.
+void RaiseSerial() {
+  if (SerialValue == std::numeric_limits<std::int32_t>::max()) RaiseFault(kOverflow);
+  ++SerialValue;
+}
+
+Leave PrintCell(Job& job, int col, int row) {
+  if (!GoesOn(job)) return Leave::kJob;
+  if (Merges() && !NextRecord()) return Leave::kCopy;
+  SerialUsed = false;
+  if (IsAsked(job.page)) Traced([&] { PaintCell(job, col, row); });
+  if (SerialUsed) Traced(RaiseSerial);
+  return Leave::kNothing;
+}
+
+// --- sheets and copies --------------------------------------------------------------------------
+
+// Down the first column, then down the second: labels come off the sheet in strips.
+Leave PrintSheet(Job& job) {
+  const double last_col = Across() - 1;
+  for (int col = 0; col <= last_col; ++col) {
+    const double last_row = Down() - 1;
+    for (int row = 0; row <= last_row; ++row) {
+      const Leave leave = PrintCell(job, col, row);
+      if (leave != Leave::kNothing) return leave;
+    }
+  }
+  return Leave::kNothing;
+}
+
+void TellPages(Job& job) {
+  const std::int64_t done = job.page - 1;
+  const double last = LastPage();
+  job.progress.Tell("Pages done: " + std::to_string(done),
+                    last >= 1 ? static_cast<double>(done) / last : kUnknownShare);
+}
+
+// A page is fed after each sheet, the last one included; paper goes out with the first mark on it,
+// so none follows.
+Leave PrintPages(Job& job) {
+  do {
+    TellPages(job);
+    if (!GoesOn(job)) return Leave::kJob;
+    const Leave leave = PrintSheet(job);
+    if (leave != Leave::kNothing || PreviewMode) return leave;
+    if (IsAsked(job.page)) Traced([] { Printer().NewPage(); });
+    ++job.page;
+  } while (static_cast<double>(job.page) <= LastPage());
+  return Leave::kNothing;
+}
+
+Leave PrintCopy(Job& job) {
+  if (Merges()) Traced(OpenMergeSource);
+  if (PassesTitles()) NextRecord();
+  const Leave leave = PrintPages(job);
+  if (Merges()) Traced(CloseMergeSource);
+  return leave;
+}
+
+void PrintCopies(Job& job) {
+  const std::int32_t copies = Copies();
+  for (std::int32_t copy = 1; copy <= copies; ++copy) {
+    if (PrintCopy(job) == Leave::kJob) return;
+  }
+}
+
+// --- the job ------------------------------------------------------------------------------------
+
+void MeasureDeadMargins(Job& job) {
+  PrinterDevice& printer = Printer();
+  const Surface& page = printer.Page();
+  const double width = page.ScaleX(printer.Width(), kTwips, kMillimetres);
+  const double height = page.ScaleY(printer.Height(), kTwips, kMillimetres);
+  job.margin_x = (width - page.ScaleWidth()) / 2;
+  job.margin_y = (height - page.ScaleHeight()) / 2;
+}
+
+void DrawOnBoard() { DrawTarget = &frmMain.picBoard.Canvas(); }
+
+// A cell whose picture could not be read has left the factor of its page.
+void RestoreScreen(double zoom) {
+  DrawOnBoard();
+  PreviewMode = false;
+  ZoomFactor = zoom;
+  RedrawBoard();
+}
+
+void PrintLabels(Progress& progress) {
+  const double zoom = ZoomFactor;
+  Job job{progress};
+  Traced([&] { MeasureDeadMargins(job); });
+  PrintCopies(job);
+  RestoreScreen(zoom);
+}
+
+bool job_under_way = false;
+
+class JobUnderWay {
+ public:
+  JobUnderWay() { job_under_way = true; }
+  ~JobUnderWay() { job_under_way = false; }
+  JobUnderWay(const JobUnderWay&) = delete;
+  JobUnderWay& operator=(const JobUnderWay&) = delete;
+};
+
+bool OpenJob() {
+  if (Copies() < 1) return true;
+  try {
+    Printer().StartDoc();
+    return true;
+  } catch (const Fault& fault) {
+    if (fault.number != kDialogCancelled) MarkerTail(fault);
+    CarryOn([] { Printer().KillDoc(); });  // or its refusal would stand for the next job as well
+    return false;
+  }
+}
+
+int PaperOfLayout() {
+  const int index = frmMain.cboLabelLayout.ListIndex();
+  if (index < 0 || index > LabelLayoutTop) RaiseFault(kOutOfBounds);
+  return LabelLayouts[static_cast<std::size_t>(index)].Paper == kPaperA4 ? kA4 : kLetter;
+}
+
+}  // namespace
+
+// The window of the job stands until it has been sent: what is pressed meanwhile prints nothing.
+void cmdPrint_Click() {
+  if (job_under_way) return;
+  const JobUnderWay mark;
+  if (!OpenJob()) return;
+  Progress progress("Printing");
+  PreparePrinter();
+  Traced([] { DrawTarget = &Printer().Page(); });
+  PrintLabels(progress);
+  Traced([] { Printer().EndDoc(); });
+  DrawOnBoard();
+}
+
+void PreparePrinter() {
+  Traced([] { Printer().Page().Scale().SetScaleMode(kMillimetres); });
+  Traced([] { Printer().SetOrientation(kPortrait); });
+  Traced([] { Printer().SetPaperSize(PaperOfLayout()); });
+}
+
+void PrintLabels() {
+  Progress progress("Printing");
+  PrintLabels(progress);
+}
+
+}  // namespace tagwright

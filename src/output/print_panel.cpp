@@ -1,0 +1,78 @@
+#include "output/print_panel.h"
+
+#include <cstdint>
+#include <limits>
+#include <string>
+
+#include "common/diagnostics.h"
+#include "common/public_functions.h"
+#include "document/objects.h"
+#include "document/project_file.h"
+#include "forms/frmMain.h"
+#include "platform/locale.h"
+#include "platform/printer.h"
+#include "platform/text.h"
+#include "tools/panels.h"
+
+namespace tagwright {
+namespace {
+
+bool HasDataFile() { return !frmMain.lblFileName.Caption().empty(); }
+
+std::int16_t CellsOfSheet() {
+  return ToInt16(ToNumber(frmMain.txtLabLayout(0).Text()) *
+                 ToNumber(frmMain.txtLabLayout(1).Text()));
+}
+
+// Ten times the quotient as text, without its last character: whole pages where the quotient has
+// one decimal at most. A longer one only loses its last digit and keeps the factor of ten.
+std::int16_t PagesByText(std::int16_t cells) {
+  if (cells == 0) RaiseFault(kDivisionByZero);
+  const std::string text = FormatNumber(static_cast<double>(RecordCount) / cells * 10);
+  const auto number = ParseNumber(Left(text, Length(text) - 1));
+  if (!number) RaiseFault(kTypeMismatch);
+  return ToInt16(*number);
+}
+
+void AddPageForRest(std::int16_t& pages, std::int16_t cells) {
+  if (cells == 0) RaiseFault(kDivisionByZero);
+  if (std::int64_t{RecordCount} % cells != 0) pages = ToInt16(pages + 1.0);
+}
+
+void ProposeLastPage() {
+  std::int16_t cells = 0, pages = 0;
+  Traced([&] { cells = CellsOfSheet(); });
+  Traced([&] { pages = PagesByText(cells); });
+  Traced([&] { AddPageForRest(pages, cells); });
+  frmMain.txtPrintTo.SetText(std::to_string(pages));
+}
+
+void ProposeFirstPageOnly() {
+  frmMain.txtPrintFrom.SetText("1");
+  frmMain.txtPrintTo.SetText("1");
+}
+
+void OfferMerge(bool possible) {
+  frmMain.chkMailshot.SetVisible(possible);
+  if (possible) frmMain.chkMailshot.SetValue(1);
+}
+
+}  // namespace
+
+void mnuFilePrint_Click() {
+  if (frmMain.txtPrintFrom.Text().empty()) frmMain.txtPrintFrom.SetText("1");
+  HasDataFile() ? ProposeLastPage() : ProposeFirstPageOnly();
+  ShowPanel(frmMain.picPrint);
+  OfferMerge(HasDataFile());
+  HideFontBoxes();
+}
+
+void cboPrinter_Click() {
+  Traced([] { ChoosePrinter(frmMain.cboPrinter.Text()); });
+}
+
+void txtNoCopies_KeyPress() { TextEntryActive = true; }
+void txtPrintFrom_KeyPress() { TextEntryActive = true; }
+void txtPrintTo_KeyPress() { TextEntryActive = true; }
+
+}  // namespace tagwright

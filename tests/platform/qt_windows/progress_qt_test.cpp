@@ -1,0 +1,116 @@
+#include "platform/qt/progress_qt.h"
+
+#include <QDialog>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QTimer>
+
+#include "platform/qt_windows/window_fixture.h"
+
+namespace tagwright {
+namespace {
+
+constexpr qint64 kLongEnough = 60'000;  // milliseconds: no machine is as slow
+
+class ProgressQtTest : public WindowTest {
+ protected:
+  ProgressQtTest() { SetProgressService(service_.get()); }
+  ~ProgressQtTest() override { SetProgressService(nullptr); }
+
+  static QDialog* Shown() {
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+      auto* dialog = qobject_cast<QDialog*>(widget);
+      if (dialog && dialog->isVisible() && dialog->windowTitle() == "Printing") return dialog;
+    }
+    return nullptr;
+  }
+
+  // Lets a job run in a handler until `done`, looking at its window at each step. Returns whether
+  // it has been let to run that far.
+  template <class Step>
+  static bool RunJob(Step&& step) {
+    bool reached = false;
+    RunHandler([&] {
+      Progress progress("Printing");
+      QElapsedTimer since;
+      since.start();
+      progress.Tell("Pages done: 3", 0.25);
+      while (!reached && since.elapsed() < kLongEnough) {
+        const bool goes_on = progress.GoesOn();
+        reached = step(goes_on);
+      }
+    });
+    return reached;
+  }
+
+ private:
+  std::unique_ptr<ProgressService> service_ = MakeProgressService();
+};
+
+TEST_F(ProgressQtTest, ALongJobSaysHowFarItIs) {
+  EXPECT_TRUE(RunJob([](bool) {
+    if (!Shown()) return false;
+    EXPECT_EQ(Shown()->findChild<QLabel*>()->text(), "Pages done: 3");
+    EXPECT_EQ(Shown()->findChild<QProgressBar*>()->value(), 250);
+    return true;
+  }));
+  EXPECT_EQ(Shown(), nullptr) << "it goes with its job";
+}
+
+TEST_F(ProgressQtTest, ItsButtonCancels) {
+  EXPECT_TRUE(RunJob([](bool goes_on) {
+    if (Shown() && goes_on) Shown()->findChild<QPushButton*>()->click();
+    return !goes_on;
+  }));
+}
+
+TEST_F(ProgressQtTest, ClosingItCancelsAndItStaysUntilTheJobEnds) {
+  EXPECT_TRUE(RunJob([](bool goes_on) {
+    if (Shown() && goes_on) Shown()->close();
+    EXPECT_TRUE(goes_on || Shown());
+    return !goes_on;
+  }));
+}
+
+TEST_F(ProgressQtTest, PressesAndKeysOnTheMainWindowGoNowhere) {
+  int presses = 0;
+  Front(frmMain.picPrint);
+  frmMain.cmdPrint.Events().Click = [&] { ++presses; };
+  bool pressed = false;
+  EXPECT_TRUE(RunJob([&](bool) {
+    if (!Shown()) return false;
+    if (pressed) return true;
+    // In the midst of the window's own events, as the user's do.
+    QTimer::singleShot(0, this->Screen(), [&] {
+      Click("cmdPrint");
+      Key(Qt::Key_P, Qt::ControlModifier);
+      pressed = true;
+    });
+    return false;
+  }));
+  Settle();
+  EXPECT_TRUE(pressed);
+  EXPECT_EQ(presses, 0);
+  Click("cmdPrint");
+  EXPECT_EQ(presses, 1) << "afterwards it works again";
+}
+
+TEST_F(ProgressQtTest, ClosingTheMainWindowWaitsForTheJob) {
+  bool closed = false;
+  EXPECT_TRUE(RunJob([&](bool goes_on) {
+    EXPECT_TRUE(goes_on) << "it is no cancel";
+    EXPECT_TRUE(IsLoaded(frmMain));
+    if (Shown() && !closed) {
+      Window().close();
+      closed = true;
+      return false;
+    }
+    return closed;
+  }));
+  EXPECT_FALSE(IsLoaded(frmMain));
+}
+
+}  // namespace
+}  // namespace tagwright
