@@ -85,11 +85,9 @@ void cmdBrowse_Click() {
 
 void FillFieldList() {
   frmMain.lstFields.Clear();
-  Traced([] {
-    for (std::int16_t i = 0; i <= FieldUB; ++i) {
-      frmMain.lstFields.AddItem(FieldValueAt(static_cast<std::size_t>(i)));
-    }
-  });
+  for (int i = 0; i <= FieldUB; ++i) {
+    Traced([&] { frmMain.lstFields.AddItem(FieldValueAt(static_cast<std::size_t>(i))); });
+  }
 }
 
 void ShowRecordCount() { frmMain.lblRCount.SetCaption("Records: " + std::to_string(RecordCount)); }

@@ -90,7 +90,7 @@ void TakeTable(int row) {
 void StoreColumnNames() {
   FieldUB = static_cast<std::int16_t>(SourceTable.Fields.size() - 1);
   for (std::size_t i = 0; i < SourceTable.Fields.size(); ++i) {
-    FieldValueAt(i) = SourceTable.Fields[i];
+    Traced([&] { FieldValueAt(i) = SourceTable.Fields[i]; });
   }
 }
 
@@ -113,7 +113,7 @@ void cboRSet_Click() {
   const int row = frmMain.cboRSet.ListIndex();
   if (row == -1) return;
   Traced([&] { TakeTable(row); });
-  Traced(StoreColumnNames);
+  StoreColumnNames();
   CurrentTable = frmMain.cboRSet.Text();
   Traced([] { SourceRecordset = OpenedDatabase().OpenRecordset(Query(SourceTable.Name)); });
   RecordCount = 0;

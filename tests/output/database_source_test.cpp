@@ -182,6 +182,17 @@ TEST_F(DatabaseSourceTest, ATableOfMoreColumnsThanSlotsFillsTheSlots) {
   EXPECT_EQ(Merged(100), (Texts{"v100"}));
 }
 
+TEST_F(DatabaseSourceTest, TheMarkerTellsOfEachColumnPastTheLastSlot) {
+  LeaveMarker();
+  FakeTable wide{"Wide", {}, {}};
+  for (int i = 0; i < 103; ++i) wide.fields.push_back("f" + std::to_string(i));
+  wide.rows = {FakeRow(103, "v")};
+  databases.files["wide.mdb"] = {{wide}};
+  Browse(kDatabaseSource, "wide.mdb");
+  ChooseTable("Wide");
+  EXPECT_EQ(Messages(), Texts(4, "9 - " + FaultDescription(9))) << "stored and listed, two each";
+}
+
 // --- merging ---
 
 TEST_F(DatabaseSourceTest, TheFirstRowIsPassedOver) {

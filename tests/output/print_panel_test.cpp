@@ -100,6 +100,18 @@ TEST_F(PrintPanelTest, MergingIsOfferedAndTickedOnlyWithADataFile) {
   EXPECT_EQ(frmMain.chkMailshot.Value(), 1);
 }
 
+// Hidden with its tick: a job still merges, from nothing.
+TEST_F(PrintPanelTest, ATickThatIsHiddenStaysAndPrintsNothing) {
+  OpenWith(14);
+  AddSerial();
+  frmMain.lblFileName.SetCaption("");
+  frmMain.mnuFilePrint.Press();
+  EXPECT_FALSE(frmMain.chkMailshot.Visible());
+  EXPECT_EQ(frmMain.chkMailshot.Value(), 1);
+  Print();
+  EXPECT_TRUE(Log().pages.empty());
+}
+
 TEST_F(PrintPanelTest, ItPrintsNothing) {
   frmMain.mnuFilePrint.Press();
   EXPECT_TRUE(Log().calls.empty());
