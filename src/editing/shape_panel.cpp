@@ -33,11 +33,17 @@ void OutlineSelected() {
   RedrawAsChanged();
 }
 
-// Returns false when the user cancels; the colour is in cd1 otherwise.
+// Returns false when the user cancels; the colour is in cd1 otherwise. A dialog that fails in any
+// other way is passed over and leaves the sample's own colour there.
 bool AskForColor(const Label& sample) {
   frmMain.cd1.Color = sample.BackColor();
   frmMain.cd1.CancelError = true;
-  return CarryOn([] { frmMain.cd1.ShowColor(); });
+  try {
+    frmMain.cd1.ShowColor();
+  } catch (const Fault& fault) {
+    return fault.number != kDialogCancelled;
+  }
+  return true;
 }
 
 void ColorSelectedText() {

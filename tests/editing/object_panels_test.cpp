@@ -675,6 +675,22 @@ TEST_F(ObjectPanelsTest, ACancelledColourChangesNothing) {
   EXPECT_EQ(DirtyFlag, kFalse);
 }
 
+// Only a cancel ends the command: the steps after a dialog that fails are taken with the sample.
+TEST_F(ObjectPanelsTest, AColourDialogThatFailsIsPassedOver) {
+  class FailingDialogs : public ScriptedDialogs {
+    std::optional<std::int32_t> ChooseColor(std::int32_t) override { RaiseFault(kOutOfMemory); }
+  } failing;
+  PutKind(kRectangle);
+  SelectedObject = 0;
+  frmMain.lblBCol(6).SetBackColor(0x010101);
+  SetDialogs(&failing);
+  frmMain.cmdColor.Press();
+  SetDialogs(&dialogs);
+  EXPECT_EQ(Object().FillColor, 0x010101);
+  EXPECT_EQ(frmMain.lblBCol(6).BackColor(), 0x010101);
+  EXPECT_EQ(DirtyFlag, kTrue);
+}
+
 TEST_F(ObjectPanelsTest, AFillFromTheDialogLeavesTheBoxTicked) {
   PutKind(kRectangle, -1);
   SelectByMouse(0);
