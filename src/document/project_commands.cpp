@@ -45,6 +45,7 @@ void ForgetSelection() {
   SelectedObject = -1;
   SelectedUpper = -1;
   HideHandles();
+  ShowNoPlace();
 }
 
 void ForgetSource() {

@@ -20,6 +20,7 @@ void DropSelection() {
   SelectedObject = -1;
   SelectedUpper = -1;
   HideHandles();
+  ShowNoPlace();
 }
 
 // Only the file's length tells how many records there are; a remainder counts from half a record.

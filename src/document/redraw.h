@@ -51,6 +51,8 @@ void ShowGroupBox();
 void PlaceHandlesAroundFrame(double gap);
 // Hides shpBox and the handles.
 void HideHandles();
+// txtDSize at 0.00 throughout: nothing is selected whose place it could show.
+void ShowNoPlace();
 
 // The rulers along the board's top and left side; nothing with mnuFileRulers unchecked. Ticks stand
 // every RulerScale millimetres from the label's corner, numbers at every tenth. A label too far

@@ -76,10 +76,6 @@ void EndText(int index) {
   RedrawBoard();
 }
 
-void ShowNoPlace() {
-  for (const auto& [index, field] : frmMain.txtDSize) field->SetText("0.00");
-}
-
 // --- group ---------------------------------------------------------------------------------------
 
 void Put(int index) {
@@ -183,6 +179,7 @@ void DropSelection() {
   SelectedUpper = -1;
   SelectedObject = -1;
   HideHandles();
+  ShowNoPlace();
 }
 
 // The fields are left while the record still stands in its place: what was typed there must not

@@ -39,7 +39,7 @@ void DisableSelectionCommands();
 // the present zoom, and stores text and font name back trimmed. Nothing for other kinds.
 void FitHoldToText(int index);
 
-// Nothing selected, without the steps of DeselectObject: state, frame and handles.
+// Nothing selected, without the steps of DeselectObject: state, frame, handles and txtDSize.
 void DropSelection();
 
 // ControlHeld, ModifierHeld and CopyPropsPending as at program start.

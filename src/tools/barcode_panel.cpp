@@ -138,6 +138,7 @@ void chkPriCharacter_Click() {
 
 void cmdBCode_Click() {
   SelectedObject = -1;
+  ShowNoPlace();
   CurrentTool = kBarcode;
   CursorShape = kBarcodePointer;
   frmMain.SetMouseIcon(frmMain.Image5.Icon());

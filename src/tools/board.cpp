@@ -43,6 +43,7 @@ void EndSelection() {
   if (SelectedUpper < 0) return;
   SelectedUpper = -1;
   HideHandles();
+  ShowNoPlace();
 }
 
 void EndEntry() {

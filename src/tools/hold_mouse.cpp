@@ -52,11 +52,16 @@ void ShowGroup() {
   CarryOn(ShowGroupBox);
 }
 
+void HideGroup() {
+  HideHandles();
+  ShowNoPlace();
+}
+
 void EditGroup(int index) {
   if (SelectedObject >= 0) HoldAt(SelectedObject).SetAutoSize(false);
   ToggleInSelection(index);
   SelectedObject = -1;
-  SelectedUpper < 0 ? HideHandles() : ShowGroup();
+  SelectedUpper < 0 ? HideGroup() : ShowGroup();
 }
 
 // --- the menus of objects -----------------------------------------------------------------------

@@ -49,6 +49,8 @@ void AppendRecord() {
   SelectedUpper = -1;
 }
 
+bool NothingIsSelected() { return SelectedObject < 0 && SelectedUpper < 0; }
+
 Extent BoxExtent() { return {frmMain.shpBox.Width(), frmMain.shpBox.Height()}; }
 
 void SetBoxExtent(const Extent& extent) {
@@ -419,6 +421,7 @@ void BeginTool(double X, double Y) {
   AnchorRubber(X, Y);
 }
 
+// A zoom and a refused barcode leave nothing selected, and the size fields still at their box.
 void PlaceObject() {
   EnableSelectionCommands(false);
   UsePanelFont();
@@ -429,6 +432,7 @@ void PlaceObject() {
   } else {
     Traced(CompleteGesture);
   }
+  if (NothingIsSelected()) ShowNoPlace();
 }
 
 void CreateTextObject() {

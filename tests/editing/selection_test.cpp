@@ -454,11 +454,13 @@ TEST_F(SelectionTest, DroppingTheSelectionLeavesNothingSelectedOrShown) {
   PutBox(40, 10);
   SelectGroup({0, 1});
   EnableSelectionCommands(true);
+  frmMain.txtDSize(0).SetText("10.00");
   DropSelection();
   EXPECT_EQ(SelectedUpper, -1);
   EXPECT_EQ(SelectedObject, -1);
   EXPECT_FALSE(frmMain.shpBox.Visible());
   EXPECT_EQ(CommandsEnabled(), "-------");
+  EXPECT_EQ(frmMain.txtDSize(0).Text(), "0.00");
 }
 
 }  // namespace

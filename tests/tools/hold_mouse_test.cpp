@@ -562,6 +562,14 @@ TEST_F(HoldMouseTest, ObjectsMayLeaveTheLabelAndTheBoard) {
   ExpectRecord(1, 395, 320, 20, 10);
 }
 
+TEST_F(HoldMouseTest, APostNetBarcodeCanBeMoved) {
+  ObjectRecord barcode = ShapeObject(kBarcode, 10, 10, 20, 10);
+  barcode.Param = 12;
+  Put(barcode);
+  Drag(115, 90, 120, 95);
+  ExpectRecord(0, 15, 15, 20, 10);
+}
+
 TEST_F(HoldMouseTest, AMoveOfLessThanHalfAMillimetreOnBothAxesJumpsBack) {
   const struct {
     double dx, dy;

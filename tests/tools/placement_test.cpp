@@ -712,6 +712,72 @@ TEST_F(PlacementTest, ATextOverAnObjectToo) {
   EXPECT_TRUE(frmMain.txtTool.HasFocus());
 }
 
+// Only a rubber box or line ends in a placement there: a column lands beside what is on the label.
+TEST_F(PlacementTest, ADataFieldIsNotPlacedOverAnObject) {
+  PutBox(10, 10, 40, 30);
+  CurrentTool = kDataField;
+  ClickOnLabel(20, 20);
+  EXPECT_EQ(ObjectUB, 0);
+  EXPECT_EQ(CurrentTool, kDataField);
+  ClickOnLabel(60, 20);
+  EXPECT_EQ(ObjectUB, 1);
+}
+
+// The object under the press is selected for as long as the box is drawn, and a selected line keeps
+// any box thin.
+TEST_F(PlacementTest, ABoxThatBeginsOverALineIsAsThinAsALine) {
+  Put(ShapeObject(kLine, 10, 10, 40, 3));
+  frmMain.cmdRect.Press();
+  DragOnLabel(20, 11, 50, 40);
+  ASSERT_EQ(ObjectUB, 1);
+  EXPECT_EQ(Newest().ObjType, kRectangle);
+  ExpectRecord(1, 20, 11, 30, 0.5);
+}
+
+// --- size fields --------------------------------------------------------------------------------
+
+TEST_F(PlacementTest, SizeFieldsShowNoPlaceOnceTheGroupIsGone) {
+  PutBox(10, 10);
+  PutBox(40, 10);
+  ClickOnLabel(15, 15);
+  KeyDown(17, kCtrl);
+  ClickOnLabel(45, 15);
+  KeyUp(17);
+  ASSERT_EQ(SelectedUpper, 1);
+  ASSERT_EQ(SizeFields(), "10.00 10.00 20.00 10.00 ");
+  Click(200, 150);
+  EXPECT_EQ(SizeFields(), "0.00 0.00 0.00 0.00 ");
+}
+
+TEST_F(PlacementTest, SizeFieldsShowNoPlaceOnceTheLastMemberHasLeft) {
+  PutBox(10, 10);
+  ClickOnLabel(15, 15);
+  KeyDown(17, kCtrl);
+  ClickOnLabel(15, 15);  // in the list twice
+  ClickOnLabel(15, 15);
+  ASSERT_EQ(SizeFields(), "10.00 10.00 20.00 10.00 ");
+  ClickOnLabel(15, 15);
+  EXPECT_EQ(SelectedUpper, -1);
+  EXPECT_EQ(SizeFields(), "0.00 0.00 0.00 0.00 ");
+}
+
+TEST_F(PlacementTest, SizeFieldsShowNoPlaceAfterAGestureThatSelectsNothing) {
+  frmMain.cmdTools(5).Press();
+  DragOnLabel(10, 10, 60, 40);
+  EXPECT_EQ(SizeFields(), "0.00 0.00 0.00 0.00 ") << "a zoom";
+  frmMain.cmdTools(0).Press();
+  frmMain.cmdBCode.Press();
+  ClickOnLabel(20, 20);
+  EXPECT_EQ(SizeFields(), "0.00 0.00 0.00 0.00 ") << "a refused barcode";
+}
+
+TEST_F(PlacementTest, SizeFieldsShowNoPlaceOnceTheBarcodeToolHasTakenTheSelection) {
+  PutBox(10, 10);
+  ClickOnLabel(15, 15);
+  frmMain.cmdBCode.Press();
+  EXPECT_EQ(SizeFields(), "0.00 0.00 0.00 0.00 ");
+}
+
 // --- state --------------------------------------------------------------------------------------
 
 TEST_F(PlacementTest, ResetForgetsPictureAndGesture) {
