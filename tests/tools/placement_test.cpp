@@ -712,6 +712,25 @@ TEST_F(PlacementTest, ATextOverAnObjectToo) {
   EXPECT_TRUE(frmMain.txtTool.HasFocus());
 }
 
+// The press shows the font of what lies there, and the end of typing reads the size box.
+TEST_F(PlacementTest, ATextOverAnotherTakesThatOnesSizeAsTypingEnds) {
+  ObjectRecord below = TextObject("below", 10, 10);
+  below.FontName = "Arial";
+  below.FontSize = 20;
+  below.Width = 40;
+  below.Height = 30;
+  Put(below);
+  frmMain.cmdTools(3).Press();
+  ChooseFontAndSize(1, "12");
+  ClickOnLabel(20, 30);
+  EXPECT_EQ(Newest().FontSize, 12);
+  EXPECT_EQ(frmMain.cboSize.Text(), "20");
+  frmMain.txtTool.UserType("on top");
+  Click(250, 180);
+  EXPECT_EQ(Newest().FontName.Trimmed(), "Courier New");
+  EXPECT_EQ(Newest().FontSize, 20);
+}
+
 // Only a rubber box or line ends in a placement there: a column lands beside what is on the label.
 TEST_F(PlacementTest, ADataFieldIsNotPlacedOverAnObject) {
   PutBox(10, 10, 40, 30);
