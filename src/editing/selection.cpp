@@ -165,7 +165,7 @@ void DeselectObject() {
   if (ModifierHeld) return;
   DisableSelectionCommands();
   SelectedUpper = -1;
-  if (SelectedObject == -1) return;
+  if (SelectedObject == -1) return ShowNoPlace();
   LeaveFields();
   frmMain.sB1.SetPanelText(2, "");
   if (IsText(SelectedObject)) CarryOn([] { EndText(SelectedObject); });

@@ -64,12 +64,14 @@ TEST_F(SelectionTest, AGroupIsDroppedWithItsCommandsAndItsBoxStays) {
   SelectGroup({0, 1});
   EnableSelectionCommands(true);
   frmMain.sB1.SetPanelText(2, "kept");
+  frmMain.txtDSize(0).SetText("10.00");  // of the first, before the second joined it
   const auto redraws = RedrawCount;
   DeselectObject();
   EXPECT_EQ(SelectedUpper, -1);
   EXPECT_EQ(CommandsEnabled(), "-------");
   EXPECT_TRUE(frmMain.shpBox.Visible());
   EXPECT_EQ(frmMain.sB1.PanelText(2), "kept");
+  EXPECT_EQ(frmMain.txtDSize(0).Text(), "0.00");
   EXPECT_EQ(RedrawCount, redraws);
 }
 
