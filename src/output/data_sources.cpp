@@ -25,14 +25,19 @@ constexpr const char* kFilters[] = {
 
 int ChosenKind() { return frmMain.cboImportType.ListIndex(); }
 
-// Returns false when the user cancels.
+// Returns false when the user cancels or names no file.
 bool AskForDataFile() {
   CommonDialog& dialog = frmMain.cd1;
   if (ChosenKind() >= kDatabaseSource && ChosenKind() <= kTabSource)
     dialog.Filter = kFilters[ChosenKind()];
   dialog.FileName.clear();
   dialog.CancelError = true;
-  return CarryOn([&] { dialog.ShowOpen(); }) && !dialog.FileName.empty();
+  try {
+    dialog.ShowOpen();
+  } catch (const Fault& fault) {
+    if (fault.number != kDialogCancelled) MarkerTail(fault);
+  }
+  return !dialog.FileName.empty();
 }
 
 void OpenSource() {

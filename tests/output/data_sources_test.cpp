@@ -50,6 +50,24 @@ TEST_F(DataSourcesTest, ACancelledDialogChangesNothing) {
   EXPECT_TRUE(dialogs.messages.empty());
 }
 
+// Only a cancel goes without a word.
+TEST_F(DataSourcesTest, TheMarkerTellsOfADialogThatFails) {
+  class FailingDialogs : public ScriptedDialogs {
+    std::optional<std::string> OpenFile(const FileDialogRequest&) override {
+      RaiseFault(kOutOfMemory);
+    }
+  } failing;
+  BrowseCsv("Name\n");
+  LeaveMarker();
+  SetDialogs(&failing);
+  frmMain.cmdBrowse.Press();
+  SetDialogs(&dialogs);
+  ASSERT_EQ(failing.messages.size(), 1U);
+  EXPECT_EQ(failing.messages[0].text, "7 - " + FaultDescription(7));
+  EXPECT_EQ(FieldUB, 0);
+  EXPECT_EQ(frmMain.lblFileName.Caption(), folder.File("data.csv"));
+}
+
 TEST_F(DataSourcesTest, ADialogThatGivesNoNameChangesNothing) {
   BrowseCsv("Name\n");
   dialogs.files.push_back("");
