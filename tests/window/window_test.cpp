@@ -115,10 +115,10 @@ TEST_F(Window, ALabelIsAsLargeAsTheScreensScaleMakesAMillimetre) {
 
 TEST_F(Window, AFieldTakesADecimalPointFromTheKeyboard) {
   Program program(folder);
-  Click(Find(program, "Left", "text").box);
+  Click(Find(program, "Left Margin", "text").box);
   Key("ctrl+a");
   Type("12.5");
-  WaitForText(program, "Left", "12.5");
+  WaitForText(program, "Left Margin", "12.5");
 }
 
 TEST_F(Window, InchesAndMillimetresChangeWhatIsShownButNotTheLabel) {
