@@ -9,7 +9,7 @@
 
 namespace tagwright::window_test {
 
-// Told whenever there is something to be seen: "text", "drawn", "data", "printed".
+// Told whenever there is something to be seen: "text", "drawn", "data".
 using Chapter = std::function<void(const std::string& name)>;
 
 // Places on the label, millimetres.
@@ -29,6 +29,6 @@ constexpr double kCityBase = 31;
 void MakeFirstLabel(const Program& program, const Chapter& chapter);
 
 // Prints it to PDF, a label for each address.
-void PrintFirstLabel(const Program& program, const std::string& sheet, const Chapter& chapter);
+void PrintFirstLabel(const Program& program, const std::string& sheet);
 
 }  // namespace tagwright::window_test

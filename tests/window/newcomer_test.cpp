@@ -70,14 +70,13 @@ class Newcomer : public testing::Test {
 };
 
 TEST_F(Newcomer, MakesALabelSavesItAndPrintsASheet) {
-  const auto quietly = [](const std::string&) {};
   cell_left = Margin("Left Margin");
   cell_top = Margin("Top Margin");
   const double label_width = Margin("Label Width"), label_height = Margin("Label Height");
   const double next_cell = label_width + Margin("Horiz. Gutter");
   const double next_row = label_height + Margin("Vert. Gutter");
 
-  MakeFirstLabel(program, quietly);
+  MakeFirstLabel(program, [](const std::string&) {});
   const auto saved = SavedAs(program, folder + "/museum.twp");
   ASSERT_EQ(saved.size(), 6U);
   const SavedObject &title = saved[0], &frame = saved[1], &picture = saved[2];
@@ -92,7 +91,7 @@ TEST_F(Newcomer, MakesALabelSavesItAndPrintsASheet) {
   EXPECT_EQ(name.text, "Name");
   EXPECT_EQ(city.text, "City");
 
-  PrintFirstLabel(program, sheet, quietly);
+  PrintFirstLabel(program, sheet);
   const PdfPages pages = ReadPdf(sheet);
   EXPECT_EQ(pages.count, 1);
   const auto pictures = pages.Of(PdfMark::What::kPicture);

@@ -87,7 +87,7 @@ void TakeFirstLabel(const std::string& folder) {
     Picture(program, folder, "first-label-" + name);
   };
   MakeFirstLabel(program, chapter);
-  PrintFirstLabel(program, sheet, chapter);
+  PrintFirstLabel(program, sheet);
   Shell("pdftoppm -r 75 -png -singlefile '" + sheet + "' '" + folder + "/first-label-sheet'");
 }
 
