@@ -53,7 +53,7 @@ TEST_F(DataSourceWindow, ATextFileShowsItsColumnsAndItsCount) {
   EXPECT_EQ(ListedFields(program), (std::vector<std::string>{"Name", "Town"}));
   EXPECT_TRUE(Shows(program, "First Row contains Field Names"));
   EXPECT_TRUE(Shows(program, "Remove Quote Marks"));
-  EXPECT_FALSE(Shows(program, "Recordset caption"));
+  EXPECT_FALSE(Shows(program, "Recordset", "label"));
 }
 
 TEST_F(DataSourceWindow, ACancelledDialogKeepsTheSource) {

@@ -19,10 +19,6 @@ constexpr std::size_t kRecordSize = 333;
 constexpr std::size_t kTextSize = 250;
 constexpr std::size_t kFontSize = 35;
 
-int Pixels(double millimetres) {
-  return static_cast<int>(std::lround(millimetres * kPixelsPerMillimetre));
-}
-
 int LabelTop(const Program& program) {
   const Span span = LabelSpan(program);
   Box middle = Board(program);
@@ -86,10 +82,18 @@ bool IsWhole(const std::string& project) {
 
 // --- the label on the screen --------------------------------------------------------------------
 
-Paper::Paper(const Program& program) : left_(LabelSpan(program).left), top_(LabelTop(program)) {}
+Paper::Paper(const Program& program, double zoom)
+    : pixels_per_millimetre_(kPixelsPerMillimetre * zoom),
+      left_(LabelSpan(program).left),
+      top_(LabelTop(program)) {}
 
-int Paper::X(double millimetres) const { return left_ + Pixels(millimetres); }
-int Paper::Y(double millimetres) const { return top_ + Pixels(millimetres); }
+int Paper::X(double millimetres) const {
+  return left_ + static_cast<int>(std::lround(millimetres * pixels_per_millimetre_));
+}
+
+int Paper::Y(double millimetres) const {
+  return top_ + static_cast<int>(std::lround(millimetres * pixels_per_millimetre_));
+}
 
 void Paper::Click(double x, double y, int button) const { window_test::Click(X(x), Y(y), button); }
 
@@ -156,6 +160,12 @@ void ArmPicture(const Program& program, const std::string& path) {
   Type(path);
   Key("Return");
   WaitForWindow("Tagwright");
+}
+
+void ChooseColumn(const Program& program, const std::string& column) {
+  const Box row = Find(program, column, "list item").box;
+  MoveMouse(row.x + row.width / 2, row.y + row.height / 2);
+  Shell("xdotool click --repeat 2 --delay 60 1");
 }
 
 void Retype(const Program& program, const std::string& field, const std::string& text) {

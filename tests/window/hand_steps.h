@@ -10,25 +10,26 @@
 
 namespace tagwright::window_test {
 
-// Where the label lies on the screen at 100 per cent.
+// Where the label lies on the screen, at a zoom of 1 for 100 per cent.
 class Paper {
  public:
   // To be made while the label is empty: it is found by its white.
-  explicit Paper(const Program& program);
+  explicit Paper(const Program& program, double zoom = 1);
 
   int X(double millimetres) const;
   int Y(double millimetres) const;
 
   void Click(double x, double y, int button = 1) const;
   void Drag(double x, double y, double to_x, double to_y) const;
-  // Drags the middle of a handle of the selected object, whose box is told: 0 top left, 1 top
-  // right, 2 bottom left, 3 bottom right.
+  // Drags the middle of a handle of the selected object, whose box is told, at 100 per cent: 0 top
+  // left, 1 top right, 2 bottom left, 3 bottom right.
   void DragHandle(int handle, double left, double top, double width, double height, double by_x,
                   double by_y) const;
 
  private:
-  int left_ = 0;
-  int top_ = 0;
+  double pixels_per_millimetre_;
+  int left_;
+  int top_;
 };
 
 // One object of a saved label, from its 333 bytes.
@@ -61,6 +62,9 @@ void ArmBarcode(const Program& program, const std::string& format, const std::st
 
 // Chooses a picture for the picture tool, which is armed then.
 void ArmPicture(const Program& program, const std::string& path);
+
+// Chooses a column of the table for the next data field, with two quick clicks.
+void ChooseColumn(const Program& program, const std::string& column);
 
 // Puts other text into a field and leaves it.
 void Retype(const Program& program, const std::string& field, const std::string& text);

@@ -47,7 +47,7 @@ class GermanKeyboard {
 
 // --- drawing ------------------------------------------------------------------------------------
 
-TEST_F(HandWindow, EachKindOfObjectIsDrawn) {
+TEST_F(HandWindow, EachOfTheEightKindsIsDrawn) {
   DrawShape(program, paper, "Line", 5, 5, 45, 7);
   DrawShape(program, paper, "Rectangle", 5, 10, 25, 20);
   DrawShape(program, paper, "Rounded Rectangle", 30, 10, 50, 20);
@@ -59,11 +59,14 @@ TEST_F(HandWindow, EachKindOfObjectIsDrawn) {
   PressOn(program, "Text Tool");
   paper.Click(45, 32);
   Type("Fig jam");
-  paper.Click(95, 34);
+  PressOn(program, "Import Data");
+  BrowseToData(program, "Comma Separated Text File", SampleLabel("addresses.csv"));
+  ChooseColumn(program, "City");
+  paper.Click(70, 32);
 
   const auto objects = Saved();
-  ASSERT_EQ(objects.size(), 7U);
-  const int kinds[] = {10, 11, 12, 13, 1, 2, 3};
+  ASSERT_EQ(objects.size(), 8U);
+  const int kinds[] = {10, 11, 12, 13, 1, 2, 3, 20};
   for (std::size_t i = 0; i < objects.size(); ++i) EXPECT_EQ(objects[i].kind, kinds[i]) << i;
   ExpectBox(objects[0], 5, 5, 40, 0.1);
   ExpectBox(objects[1], 5, 10, 20, 10);
@@ -76,6 +79,8 @@ TEST_F(HandWindow, EachKindOfObjectIsDrawn) {
   EXPECT_EQ(objects[6].text, "Fig jam");
   EXPECT_NEAR(objects[6].left, 45, kPixel);
   EXPECT_NEAR(objects[6].top + objects[6].height, 32, 3 * kPixel);  // the text stands on the click
+  EXPECT_EQ(objects[7].text, "City");
+  EXPECT_NEAR(objects[7].left, 70, kPixel);
 }
 
 TEST_F(HandWindow, ATinyBarcodeIsRefusedAndTheToolStaysArmed) {

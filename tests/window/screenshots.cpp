@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <iostream>
 
-#include "window/steps.h"
+#include "window/first_label.h"
 
 using namespace tagwright::window_test;
 
@@ -78,6 +78,19 @@ void TakeJob(const std::string& folder) {
   Shell("pdftoppm -r 75 -png -singlefile '" + sheet + "' '" + folder + "/address-sheet'");
 }
 
+// Somebody's first label, from the empty board to the sheet.
+void TakeFirstLabel(const std::string& folder) {
+  Program program(FreshFolder());
+  const std::string sheet = FreshFolder() + "/sheet.pdf";
+  PlaceWindow(program, kWindow);
+  const Chapter chapter = [&](const std::string& name) {
+    Picture(program, folder, "first-label-" + name);
+  };
+  MakeFirstLabel(program, chapter);
+  PrintFirstLabel(program, sheet);
+  Shell("pdftoppm -r 75 -png -singlefile '" + sheet + "' '" + folder + "/first-label-sheet'");
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -90,6 +103,7 @@ int main(int argc, char** argv) {
     TakeLabels(argv[1]);
     TakeRefusals(argv[1]);
     TakeJob(argv[1]);
+    TakeFirstLabel(argv[1]);
   } catch (const std::exception& problem) {
     std::cerr << problem.what() << '\n';
     return 1;

@@ -490,10 +490,10 @@ class ButtonView : public WidgetView {
 class CheckView : public WidgetView {
  public:
   CheckView(CheckBox& box, QCheckBox& widget) : WidgetView(box, widget), box_(box), tick_(widget) {
+    connect(&widget, &QCheckBox::pressed, this, [this] { turned_ = false; });
+    connect(&widget, &QCheckBox::toggled, this, &CheckView::Turn);
     connect(&widget, &QCheckBox::clicked, this, [this] {
-      Render(Aspect::kValue);  // the model turns it over, not the toolkit
-      box_.UserFocus();
-      box_.Press();
+      if (!turned_) Turn();
     });
     RenderAll();
   }
@@ -509,8 +509,17 @@ class CheckView : public WidgetView {
   }
 
  private:
+  // Assistive tools turn the tick over without a click; a click on a grey one turns none.
+  void Turn() {
+    turned_ = true;
+    Render(Aspect::kValue);  // the model turns it over, not the toolkit
+    box_.UserFocus();
+    box_.Press();
+  }
+
   CheckBox& box_;
   QCheckBox& tick_;
+  bool turned_ = false;  // since it was pressed
 };
 
 class ScrollView : public WidgetView {

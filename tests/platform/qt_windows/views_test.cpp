@@ -251,6 +251,21 @@ TEST_F(ViewsTest, AQuickSecondPressIsAPress) {
   EXPECT_EQ(log.size(), 3U);
 }
 
+// As assistive tools do it.
+TEST_F(ViewsTest, ACheckBoxThatIsTurnedWithoutAClickIsPressedOnce) {
+  int presses = 0;
+  frmMain.chkItalic.Events().Click = [&] { ++presses; };
+  auto& tick = Find<QCheckBox>("chkItalic");
+  tick.toggle();
+  EXPECT_EQ(frmMain.chkItalic.Value(), 1);
+  EXPECT_TRUE(tick.isChecked());
+  EXPECT_EQ(presses, 1);
+  tick.click();
+  EXPECT_EQ(frmMain.chkItalic.Value(), 0);
+  EXPECT_FALSE(tick.isChecked());
+  EXPECT_EQ(presses, 2);
+}
+
 TEST_F(ViewsTest, ACheckBoxIsTurnedByTheModel) {
   Note(frmMain.chkXHair.Events(), "hairs");
   Click("chkXHair");
