@@ -127,7 +127,7 @@ std::vector<SavedObject> ObjectsIn(const std::string& project) {
 
 std::vector<SavedObject> SavedAs(const Program& program, const std::string& project) {
   if (std::filesystem::remove(project)) {
-    Key("ctrl+s");
+    ChooseMenu(program, {"File", "Save"});
   } else {
     SaveProjectAs(program, project);
   }
