@@ -492,13 +492,14 @@ void WaitForWindow(const std::string& title_part) {
 
 void ChooseMenu(const Program& program, const std::vector<std::string>& path) {
   for (const std::string& name : path) {
-    Box box = Find(program, name, "menu item").box;
-    // A menu may still be unfolding: click where the entry has come to rest.
-    WaitFor("the menu to rest", [&] {
-      const Box before = std::exchange(box, Find(program, name, "menu item").box);
-      return before == box;
+    Spoken entry = Find(program, name, "menu item");
+    // A menu may still be unfolding, and Save is enabled by a tick after a change: click when
+    // the entry can be chosen and has come to rest.
+    WaitFor("the menu to rest with \"" + name + "\" to choose", [&] {
+      const Spoken before = std::exchange(entry, Find(program, name, "menu item"));
+      return before.box == entry.box && entry.enabled;
     });
-    Click(box);
+    Click(entry.box);
   }
 }
 

@@ -112,7 +112,8 @@ std::vector<std::string> WindowTitles();
 // Waits until a window with this in its title has the keyboard.
 void WaitForWindow(const std::string& title_part);
 
-// Opens a menu and clicks through its entries: {"File", "Open"}. Names are without marks.
+// Opens a menu and clicks through its entries: {"File", "Open"}. Names are without marks. Waits for
+// an entry to be enabled.
 void ChooseMenu(const Program& program, const std::vector<std::string>& path);
 
 // The unfolding list on the right of a caption; its name is the row that it shows.
