@@ -21,8 +21,8 @@ struct FakeTable {
 
 struct FakeFile {
   std::vector<FakeTable> tables;
-  std::string password = "";  // empty: opens without one
-  bool damaged = false;       // does not open at all
+  std::string password{};  // empty: opens without one
+  bool damaged = false;    // does not open at all
 };
 
 // Every database that the program opens, from construction to destruction. Recordsets read the

@@ -131,6 +131,7 @@ RecordingSurface& ProgramTest::Board() {
 }  // namespace tagwright
 
 // The font configuration keeps what it has read until the process ends: not a leak of ours.
+// NOLINTNEXTLINE(bugprone-reserved-identifier): the name is the sanitizer's.
 extern "C" const char* __lsan_default_suppressions() { return "leak:libfontconfig"; }
 
 int main(int argc, char** argv) {
