@@ -5,8 +5,10 @@
 #include <QFontMetricsF>
 #include <QPaintEngine>
 #include <QPainter>
+#include <QPainterPath>
 #include <QRawFont>
 #include <QTextLayout>
+#include <QTransform>
 #include <algorithm>
 #include <cmath>
 #include <optional>
@@ -398,6 +400,29 @@ bool PaintsPixels(const QPainter& painter) {
   return painter.paintEngine() && painter.paintEngine()->type() == QPaintEngine::Raster;
 }
 
+// Metafiles can draw text out far more one way than the other. The toolkit finds no bitmap for such
+// glyphs, and reads it all the same.
+bool IsDrawnOut(const QTransform& to_device) {
+  constexpr double kMost = 8;
+  const double across = std::hypot(to_device.m11(), to_device.m12());
+  const double down = std::hypot(to_device.m21(), to_device.m22());
+  return std::max(across, down) > kMost * std::min(across, down);
+}
+
+void PaintOutlines(QPainter& painter, const QPointF& start, const ShapedText& shape,
+                   double pixels) {
+  painter.save();
+  painter.translate(start);
+  painter.scale(pixels / kReferencePixels, pixels / kReferencePixels);
+  for (const QGlyphRun& run : shape.runs) {
+    for (qsizetype i = 0; i < run.glyphIndexes().size(); ++i) {
+      const QPainterPath outline = run.rawFont().pathForGlyph(run.glyphIndexes()[i]);
+      painter.fillPath(outline.translated(run.positions()[i]), painter.pen().color());
+    }
+  }
+  painter.restore();
+}
+
 // --- service ------------------------------------------------------------------------------------
 
 class ToolkitFontService : public FontService {
@@ -461,6 +486,10 @@ void PaintText(QPainter& painter, double x, double y_baseline, std::string_view 
   const QPointF start(x, y_baseline);
   if (!PaintsPixels(painter)) {
     PaintReference(painter, start, shape.reference, pixels);
+    return;
+  }
+  if (IsDrawnOut(painter.deviceTransform())) {
+    PaintOutlines(painter, start, shape.reference, pixels);
     return;
   }
   for (const QGlyphRun& run : SizedRuns(shape, pixels, 0)) painter.drawGlyphRun(start, run);

@@ -272,6 +272,24 @@ TEST_F(TextTest, CharactersThatAFontLacksComeFromAnother) {
   EXPECT_GT(Fonts().Width("\u0416\u4E2D", {"Courier New", 20, false, false}), 10);
 }
 
+TEST_F(TextTest, TextDrawnOutFarOneWayIsPaintedAllTheSame) {
+  const struct {
+    double across, down;
+  } scales[] = {{0.5, 10}, {10, 0.5}, {0.002, 60}, {60, 0.002}, {0.0001, 500}, {0, 10}};
+  for (const auto& [across, down] : scales) {
+    QImage image(400, 400, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.translate(100, 200);
+    painter.scale(across, down);
+    PaintText(painter, 0, 0, "Hamburg", {"Arial", 12, false, false}, 0, 72);
+    painter.end();
+    if (std::min(across, down) >= 0.5) {
+      EXPECT_GT(InkColumns(image).Width(), 10) << across << " by " << down;
+    }
+  }
+}
+
 TEST_F(TextTest, ANameThatAMetricTwinAnswersToCanBeChosen) {
   const std::vector<std::string> families = Fonts().Families();
   EXPECT_EQ(std::count(families.begin(), families.end(), "Liberation Sans"), 1);
