@@ -332,7 +332,9 @@ TEST_F(TextSourceTest, Long_AMillionRowsAreReadOneByOne) {
   while (Next()) ASSERT_EQ(FieldValues[0], std::to_string(++row));
   CloseMergeSource();
   EXPECT_EQ(row, kRows - 1);
+#ifndef __SANITIZE_ADDRESS__  // which keeps what is freed, to catch who still reads it
   EXPECT_LT(Memory() - before, 4096);
+#endif
 }
 
 }  // namespace
