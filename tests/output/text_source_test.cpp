@@ -324,7 +324,7 @@ TEST_F(TextSourceTest, Long_AMillionRowsAreReadOneByOne) {
   file << "Number,Name,Street,Town\n";
   for (int i = 1; i < kRows; ++i) file << i << ",Name " << i << ",Long Street " << i << ",Leeds\n";
   file.close();
-  const long before = Memory();
+  [[maybe_unused]] const long before = Memory();
   Browse(kCommaSource, path);
   EXPECT_EQ(RecordCount, kRows);
   OpenMergeSource();
