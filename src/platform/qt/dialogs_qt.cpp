@@ -1,5 +1,6 @@
 #include "platform/qt/dialogs_qt.h"
 
+#include <QApplication>
 #include <QColorDialog>
 #include <QDir>
 #include <QFileDialog>
@@ -120,9 +121,9 @@ class ToolkitDialogs : public DialogService {
     dialog.setDefaultSuffix(ToQt(request.default_extension));
     if (!request.file_name.empty()) Preselect(dialog, ToQt(request.file_name));
     GiveRoom(dialog);
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
-      return std::nullopt;
-    }
+    const int result = dialog.exec();
+    CloseCompletions();
+    if (result != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
     folder_ = dialog.directory().absolutePath();
     return QDir::toNativeSeparators(dialog.selectedFiles().front()).toStdString();
   }
@@ -134,6 +135,12 @@ class ToolkitDialogs : public DialogService {
     if (auto* parts = dialog.findChild<QSplitter*>()) {
       parts->setSizes({kPlaces, dialog.width() - kPlaces});
     }
+  }
+
+  // A name accepted while its completions hang open leaves them holding the mouse until the dialog
+  // is gone, which waits for the thread that lists the folder: a quick drag on the board was lost.
+  static void CloseCompletions() {
+    if (QWidget* completions = QApplication::activePopupWidget()) completions->close();
   }
 
   static void Preselect(QFileDialog& dialog, const QString& file) {

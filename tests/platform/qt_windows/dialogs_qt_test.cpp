@@ -4,8 +4,11 @@
 #include <QColorDialog>
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QLineEdit>
 #include <QMessageBox>
+#include <QPointer>
 #include <QTimer>
+#include <fstream>
 #include <functional>
 
 #include "platform/qt_windows/window_fixture.h"
@@ -107,6 +110,49 @@ TEST_F(DialogsQtTest, ACancelledFileDialogIsAFaultForThoseWhoAsked) {
     number = fault.number;
   }
   EXPECT_EQ(number, kDialogCancelled);
+}
+
+// Notes whether the dialog stood yet when the list of completions went. One that is being taken
+// down is no file dialog any more.
+class PopupWatcher : public QObject {
+ public:
+  PopupWatcher(QWidget* popup, QFileDialog* dialog) : QObject(popup), dialog_(dialog) {
+    popup->installEventFilter(this);
+  }
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::Hide) {
+      dialog_stood = qobject_cast<QFileDialog*>(dialog_.data()) != nullptr;
+    }
+    return QObject::eventFilter(watched, event);
+  }
+  static inline bool dialog_stood = false;
+
+ private:
+  QPointer<QObject> dialog_;
+};
+
+// While they hang open they hold the mouse, and a dialog takes its time to go.
+TEST_F(DialogsQtTest, TheCompletionsOfANameGoBeforeTheDialogDoes) {
+  const TempFolder folder;
+  std::ofstream(folder.File("wine.twp")) << "label";
+  PopupWatcher::dialog_stood = false;
+  CommonDialog dialog;
+  Meanwhile<QFileDialog>([&](QFileDialog& box) {
+    box.setDirectory(QString::fromStdString(folder.Path()));
+    auto* name = box.findChild<QLineEdit*>();
+    ASSERT_TRUE(QTest::qWaitFor([&] {
+      name->clear();
+      QTest::keyClicks(name, "wine.tw");
+      return QApplication::activePopupWidget() != nullptr;
+    }));
+    QTest::keyClicks(name, "p");
+    ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+    new PopupWatcher(QApplication::activePopupWidget(), &box);
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
+  });
+  dialog.ShowOpen();
+  EXPECT_EQ(dialog.FileTitle, "wine.twp");
+  EXPECT_TRUE(PopupWatcher::dialog_stood);
 }
 
 TEST_F(DialogsQtTest, AColourComesAsTheProgramHoldsColours) {
