@@ -168,6 +168,14 @@ std::string Quoted(const std::string& text) {
 
 void Xdotool(const std::string& arguments) { Shell("xdotool " + arguments); }
 
+// Keeps a picture of the screen on which something did not come, for who reads the failure.
+std::string ScreenAtFailure() {
+  const std::string file =
+      TAGWRIGHT_FAILURES "/waited-in-vain-" + std::to_string(getpid()) + ".png";
+  Shell("import -window root " + Quoted(file), false);
+  return "; the screen was " + file;
+}
+
 // A value that xwininfo prints after `label`.
 int Printed(const std::string& report, const std::string& label) {
   const std::size_t at = report.find(label);
@@ -330,7 +338,7 @@ std::string Shell(const std::string& command, bool must) {
 void WaitFor(const std::string& what, const std::function<bool()>& holds, double seconds) {
   const auto end = Clock::now() + std::chrono::duration<double>(seconds);
   while (!holds()) {
-    if (Clock::now() > end) Fail("waited in vain for " + what);
+    if (Clock::now() > end) Fail("waited in vain for " + what + ScreenAtFailure());
     Pause(20);
   }
 }

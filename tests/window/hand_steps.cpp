@@ -176,8 +176,16 @@ void Retype(const Program& program, const std::string& field, const std::string&
 }
 
 void WaitToHear(const Program& program, const std::string& name, const std::string& text) {
-  WaitFor("\"" + text + "\" from " + name,
-          [&] { return Find(program, name).description.find(text) != std::string::npos; });
+  std::string heard;
+  const auto hears = [&] {
+    heard = Find(program, name).description;
+    return heard.find(text) != std::string::npos;
+  };
+  try {
+    WaitFor("\"" + text + "\" from " + name, hears);
+  } catch (const std::runtime_error& vain) {
+    throw std::runtime_error(vain.what() + ("; it said \"" + heard + "\""));
+  }
 }
 
 }  // namespace tagwright::window_test
