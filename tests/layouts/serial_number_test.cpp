@@ -10,6 +10,7 @@
 #include "forms/frmSerialNumber.h"
 #include "platform/locale.h"
 #include "platform/windows.h"
+#include "shell/wiring.h"
 #include "support/test_support.h"
 
 namespace tagwright {
@@ -17,29 +18,9 @@ namespace {
 
 namespace sn = serial_number;
 
-void Bind(FrmSerialNumber& f) {
-  f.WindowEvents().Load = sn::Form_Load;
-  f.txtSerPref.Events().Change = sn::txtSerPref_Change;
-  f.txtSerIncr.Events().KeyPress = sn::txtSerIncr_KeyPress;
-  f.cboInc.Events().Click = sn::cboInc_Click;
-  f.cboInc.Events().GotFocus = sn::cboInc_GotFocus;
-  f.cboInc.Events().KeyPress = sn::cboInc_KeyPress;
-  f.cboInc.Events().LostFocus = sn::cboInc_LostFocus;
-  f.chkBCode.Events().Click = sn::chkBCode_Click;
-  f.cboBCode.Events().Click = sn::cboBCode_Click;
-  f.cboBCode.Events().GotFocus = sn::cboBCode_GotFocus;
-  f.cboBCode.Events().KeyPress = sn::cboBCode_KeyPress;
-  f.cboBCode.Events().LostFocus = sn::cboBCode_LostFocus;
-  f.txtBCodeWid.Events().Change = sn::txtBCodeWid_Change;
-  f.txtBCodeWid.Events().KeyPress = sn::txtBCodeWid_KeyPress;
-  f.chkTxt.Events().Click = sn::chkTxt_Click;
-  f.cmdSave.Events().Click = sn::cmdSave_Click;
-  f.cmdCancel.Events().Click = sn::cmdCancel_Click;
-}
-
 class SerialNumberTest : public ProgramTest {
  protected:
-  SerialNumberTest() { WireForm<FrmSerialNumber> = Bind; }
+  SerialNumberTest() { WireForm<FrmSerialNumber> = WireSerialNumberWindow; }
   ~SerialNumberTest() override { WireForm<FrmSerialNumber> = nullptr; }
 
   static FrmSerialNumber& Opened() {
