@@ -46,29 +46,23 @@ class SheetTest : public JobTest, public testing::WithParamInterface<int> {
   int across_ = 0, down_ = 0;
 };
 
-TEST_P(SheetTest, TwoSheetsOfNumbersRunDownTheColumnsInMillimetres) {
-  Choose(1);
-  AddSerial();
-  SetRange("1", "2");
-  Print();
-  const auto pages = Pages();
-  ASSERT_EQ(pages.size(), 2U);
-  ExpectPage(pages[0], Run("", 1001, 1000 + Cells()));
-  ExpectPage(pages[1], Run("", 1001 + Cells(), 1000 + 2 * Cells()));
-  ExpectOnLayout(pages[1]);
-  EXPECT_EQ(SerialValue, 1001 + 2 * Cells());
-}
-
-TEST_P(SheetTest, TwoSheetsOfNumbersRunDownTheColumnsInInches) {
-  Choose(25.4);
-  AddSerial();
-  SetRange("1", "2");
-  Print();
-  const auto pages = Pages();
-  ASSERT_EQ(pages.size(), 2U);
-  ExpectPage(pages[0], Run("", 1001, 1000 + Cells()));
-  ExpectPage(pages[1], Run("", 1001 + Cells(), 1000 + 2 * Cells()));
-  ExpectOnLayout(pages[1]);
+TEST_P(SheetTest, TwoSheetsOfNumbersRunDownTheColumnsInEitherUnit) {
+  for (const double unit : {1.0, 25.4}) {
+    SCOPED_TRACE(unit);
+    FakePrinterList::Reset();
+    Choose(unit);
+    ObjectUB = -1;
+    SerialValue = 1001;
+    AddSerial();
+    SetRange("1", "2");
+    Print();
+    const auto pages = Pages();
+    ASSERT_EQ(pages.size(), 2U);
+    ExpectPage(pages[0], Run("", 1001, 1000 + Cells()));
+    ExpectPage(pages[1], Run("", 1001 + Cells(), 1000 + 2 * Cells()));
+    ExpectOnLayout(pages[1]);
+    EXPECT_EQ(SerialValue, 1001 + 2 * Cells());
+  }
 }
 
 TEST_P(SheetTest, AMergeEndsOnTheCellOfItsLastRow) {
