@@ -39,6 +39,12 @@ const Names kEverywhere = {"Select Tool",
                            "Selection",
                            "Notes"};
 
+// The panel that a group brings with it.
+const Names kGroup = {"Align objects left",     "Align objects centre",  "Align objects right",
+                      "Align objects top",      "Align objects middle",  "Align objects bottom",
+                      "Make same size: height", "Make same size: width", "Make same size: both",
+                      "Space evenly across",    "Space evenly down"};
+
 // A panel, by the keys that bring it to the front or the tool that does.
 struct Panel {
   const char* keys;
@@ -112,6 +118,30 @@ class SpokenWindow : public testing::Test {
     for (const std::string& name : names) EXPECT_TRUE(heard.contains(name)) << name;
   }
 
+  void SelectTwoShapes() const {
+    const Paper paper(program);
+    DrawShape(program, paper, "Rectangle", 10, 5, 20, 10);
+    DrawShape(program, paper, "Ellipse", 40, 5, 50, 10);
+    Key("ctrl+a");
+    Find(program, "Space evenly down");
+  }
+
+  // Presses those of `names` that are buttons and enabled. Returns how many there were.
+  int PressEach(const Names& names) const {
+    const std::set<std::string> buttons = {"push button", "toggle button", "check box"};
+    int pressed = 0;
+    for (const Spoken& control : Shown()) {
+      if (!buttons.contains(control.role) || !control.enabled) continue;
+      if (std::ranges::count(names, control.name) == 0) continue;
+      SCOPED_TRACE(control.name);
+      PressBySpeech(program, control.name, control.role);
+      CloseWhatOpened();
+      EXPECT_TRUE(program.Running());
+      ++pressed;
+    }
+    return pressed;
+  }
+
   // Closes whatever a button has opened. It shows that it is pressed for a moment before it acts.
   void CloseWhatOpened() const {
     Shell("sleep 0.3");
@@ -140,30 +170,56 @@ TEST_F(SpokenWindow, EveryControlOfEveryPanelHasANameOfItsOwn) {
 }
 
 TEST_F(SpokenWindow, EveryControlOfTheGroupHasANameOfItsOwn) {
-  const Paper paper(program);
-  DrawShape(program, paper, "Rectangle", 10, 5, 20, 10);
-  DrawShape(program, paper, "Ellipse", 40, 5, 50, 10);
-  Key("ctrl+a");
-  Find(program, "Space evenly down");
-  ExpectNames({"Align objects left", "Align objects centre", "Align objects right",
-               "Align objects top", "Align objects middle", "Align objects bottom",
-               "Make same size: height", "Make same size: width", "Make same size: both",
-               "Space evenly across", "Space evenly down"});
+  SelectTwoShapes();
+  ExpectNames(kGroup);
 }
 
 TEST_F(SpokenWindow, EveryButtonIsPressedByItsName) {
-  const std::set<std::string> buttons = {"push button", "toggle button", "check box"};
   for (const Panel& panel : kPanels) {
     BringToFront(panel);
-    for (const Spoken& control : Shown()) {
-      if (!buttons.contains(control.role) || !control.enabled) continue;
-      if (std::ranges::count(panel.names, control.name) == 0) continue;
-      SCOPED_TRACE(control.name);
-      PressBySpeech(program, control.name, control.role);
-      CloseWhatOpened();
-    }
-    ASSERT_TRUE(program.Running());
+    PressEach(panel.names);
   }
+}
+
+TEST_F(SpokenWindow, EveryButtonOfTheToolColumnIsPressedByItsName) {
+  EXPECT_EQ(PressEach(kEverywhere), 13);
+}
+
+TEST_F(SpokenWindow, EveryButtonOfTheGroupIsPressedByItsName) {
+  SelectTwoShapes();
+  EXPECT_EQ(PressEach(kGroup), 11);
+}
+
+TEST_F(SpokenWindow, APictureSaysItsFileAndItsSize) {
+  const Paper paper(program);
+  ArmPicture(program, SampleLabel("lighthouse.jpg"));
+  paper.Drag(10, 5, 20, 15);
+  WaitToHear(program, "Label", "Picture \"lighthouse");
+  Names names = kEverywhere;
+  names.insert(names.end(), {"Filename", "Original X", "Original Y"});
+  ExpectNames(names);
+}
+
+TEST_F(SpokenWindow, AMessageIsAnsweredByTheNameOfItsButton) {
+  const Paper paper(program);
+  DrawShape(program, paper, "Rectangle", 10, 5, 20, 10);
+  ChooseMenu(program, {"File", "New"});
+  PressBySpeech(program, Find(program, "No", "push button").name, "push button");
+  WaitToHear(program, "Label", "Nothing selected");
+  EXPECT_TRUE(program.Running());
+}
+
+TEST_F(SpokenWindow, TheWindowOfNumbersIsFilledInByItsNames) {
+  Key("ctrl+p");
+  Find(program, "Serial Numbers", "push button");
+  PressBySpeech(program, "Serial Numbers", "push button");
+  WaitForWindow("Serial Numbers");
+  PressBySpeech(program, "Print as Barcode", "check box");
+  ExpectNames({"Prefix", "Incrementing Number", "Incrementation", "Print as Barcode",
+               "Barcode Format", "Barcode Width", "Barcode Height",
+               "Print Serial Number on Barcode", "Save", "Cancel"});
+  PressBySpeech(program, "Cancel", "push button");
+  WaitForWindow("Tagwright");
 }
 
 // A shape is chosen, and its fill, without a mouse.
