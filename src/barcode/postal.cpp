@@ -1,5 +1,6 @@
 #include "barcode/postal.h"
 
+#include <algorithm>
 #include <array>
 
 #include "platform/scale.h"
@@ -24,6 +25,15 @@ constexpr std::string_view kPostNetFrame = "2";
 constexpr std::array<std::string_view, 10> kPostNet = {
     "22111", "11122", "11212", "11221", "12112",   // 0 to 4
     "12121", "12211", "21112", "21121", "21211"};  // 5 to 9
+
+constexpr bool TwoOfFiveAreTall() {
+  for (const std::string_view bars : kPostNet) {
+    if (bars.size() != 5 || std::ranges::count(bars, '2') != 2) return false;
+    if (std::ranges::count(bars, '1') != 3) return false;
+  }
+  return true;
+}
+static_assert(TwoOfFiveAreTall());
 
 constexpr double Inches(double inches) { return inches * kMillimetresPerInch; }
 
@@ -59,6 +69,19 @@ constexpr std::array<std::string_view, 36> kRoyalMailBars = {
     "2301", "2121", "2103", "0321", "0303", "0123",   // O to T
     "2211", "2031", "2013", "0231", "0213", "0033"};  // U to Z
 static_assert(kCharacters.size() == kRoyalMailBars.size());
+
+// Half of the four bars reach up (states 0 and 2) and half of them down (0 and 1).
+constexpr bool TwoOfFourReachEachWay() {
+  for (const std::string_view bars : kRoyalMailBars) {
+    const auto count = [&](char state) { return std::ranges::count(bars, state); };
+    if (bars.size() != 4 || count('0') + count('2') != 2 || count('0') + count('1') != 2) {
+      return false;
+    }
+    if (count('0') != count('3')) return false;
+  }
+  return true;
+}
+static_assert(TwoOfFourReachEachWay());
 
 constexpr std::size_t kSide = 6;  // rows and columns of the check table, numbered 1 to 5 and 0
 
