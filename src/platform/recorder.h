@@ -1,6 +1,7 @@
 // A surface that keeps what was painted as plain data: the program's tests read it back.
 #pragma once
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -8,22 +9,36 @@
 
 namespace tagwright {
 
-// One thing painted. Coordinates are device pixels; text lies with its top left at x1, y1.
+// One thing painted. Coordinates are device pixels; text lies with its top left at x1, y1. A label
+// is boxes for the most part, thousands of them: what only texts and shapes have lies apart.
 struct Painted {
   enum class What { kClear, kOpen, kText, kBox, kShape, kLine, kPicture };
-  What what = What::kClear;
-  double x1 = 0, y1 = 0, x2 = 0, y2 = 0;  // for pictures the box; for text x2, y2 are its extent
-  std::string text;
-  FontSpec font;
-  Color color = 0;  // of clear, text and box
-  ShapeKind shape = ShapeKind::kRectangle;
-  double corner_width = 0, corner_height = 0;
-  Pen pen;
-  Brush brush;
-  int draw_mode = kCopyPen;
+  struct Details {
+    std::string text;
+    FontSpec font;
+    ShapeKind shape = ShapeKind::kRectangle;
+    double corner_width = 0, corner_height = 0;
+    Pen pen;
+    Brush brush;
+  };
 
-  // Written out: a defaulted one wipes the whole entry before it fills it in.
-  Painted() {}
+  What what = What::kClear;
+  int draw_mode = kCopyPen;
+  double x1 = 0, y1 = 0, x2 = 0, y2 = 0;  // for pictures the box; for text x2, y2 are its extent
+  Color color = 0;                        // of clear, text and box
+  std::shared_ptr<const Details> details;
+
+  // Those of its sort; what another sort has is as a fresh one.
+  const std::string& Text() const { return Own().text; }
+  const FontSpec& Font() const { return Own().font; }
+  ShapeKind Shape() const { return Own().shape; }
+  double CornerWidth() const { return Own().corner_width; }
+  double CornerHeight() const { return Own().corner_height; }
+  const Pen& UsedPen() const { return Own().pen; }
+  const Brush& UsedBrush() const { return Own().brush; }
+
+ private:
+  const Details& Own() const;
 };
 
 class RecordingSurface : public Surface {
@@ -51,8 +66,11 @@ class RecordingSurface : public Surface {
                      double height) override;
 
  private:
-  Painted& Append(Painted::What what, double x1, double y1, double x2, double y2);
-  Painted& Add(Painted::What what, double x1, double y1, double x2, double y2);  // opens first
+  void Append(Painted::What what, double x1, double y1, double x2, double y2, Color color = 0);
+  // Both open first.
+  void Add(Painted::What what, double x1, double y1, double x2, double y2, Color color = 0);
+  Painted::Details& AddDetailed(Painted::What what, double x1, double y1, double x2, double y2,
+                                Color color = 0);
 };
 
 }  // namespace tagwright

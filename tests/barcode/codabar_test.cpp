@@ -78,7 +78,7 @@ TEST_F(CodabarTest, NoMessageWhateverTheDataAndNoAInTheText) {
     Symbol symbol{data, 11};
     symbol.text = true;
     Draw(symbol);
-    for (const Painted& text : Texts()) EXPECT_EQ(text.text, data);
+    for (const Painted& text : Texts()) EXPECT_EQ(text.Text(), data);
   }
   EXPECT_TRUE(dialogs.messages.empty());
 }

@@ -71,7 +71,7 @@ TEST_F(Code128Test, AnOddLastDigitIsAValueOfItsOwn) {
   symbol.text = true;
   Draw(symbol);
   ASSERT_EQ(Texts().size(), 1U);
-  EXPECT_EQ(Texts()[0].text, "123");
+  EXPECT_EQ(Texts()[0].Text(), "123");
 }
 
 // Both edges: 63 and 103 (the start) have patterns, 64 and 102 have none.

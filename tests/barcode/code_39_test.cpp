@@ -56,7 +56,7 @@ TEST_F(Code39Test, TheTextHasNoStars) {
   symbol.text = true;
   Draw(symbol);
   ASSERT_EQ(Texts().size(), 1U);
-  EXPECT_EQ(Texts()[0].text, "AB");
+  EXPECT_EQ(Texts()[0].Text(), "AB");
 }
 
 // --- extended ---

@@ -77,7 +77,7 @@ TEST_F(DispatcherTest, AnEmptyFontNameKeepsTheOneLastSet) {
   symbol.text = true;
   Draw(symbol);
   ASSERT_EQ(Texts().size(), 1U);
-  EXPECT_EQ(Texts()[0].font.Name, "Courier New");
+  EXPECT_EQ(Texts()[0].Font().Name, "Courier New");
 }
 
 TEST_F(DispatcherTest, ACommaIsRefusedByCode128AndTakenByCode39Extended) {
@@ -195,10 +195,10 @@ TEST_F(DispatcherTest, TheClosingTextStandsCentredRightBelowTheBars) {
     Draw(symbol);
     ASSERT_EQ(Texts().size(), 1U) << each.format;
     const Painted text = Texts()[0];
-    EXPECT_EQ(text.text, each.data);
+    EXPECT_EQ(text.Text(), each.data);
     EXPECT_NEAR(text.x1, 10 + 60 / 2 - 2.0 * symbol.data.size() / 2, 1e-9) << each.format;
     EXPECT_NEAR(text.y1, 20 + 15 - 0.85 * 4.4, 1e-9) << each.format;
-    EXPECT_NEAR(text.font.Size, 4 * kMillimetreFont, 1e-9);
+    EXPECT_NEAR(text.Font().Size, 4 * kMillimetreFont, 1e-9);
     EXPECT_EQ(text.color, 0);
   }
 }
@@ -228,7 +228,7 @@ TEST_F(BarPainterTest, ElementsAlternateFromABarAndTheTextStandsUnderTheFirst) {
   EXPECT_DOUBLE_EQ(Bars()[1].right, 20);
   EXPECT_FLOAT_EQ(CursorX, 24);
   ASSERT_EQ(Texts().size(), 1U);
-  EXPECT_EQ(Texts()[0].text, "7");
+  EXPECT_EQ(Texts()[0].Text(), "7");
   EXPECT_DOUBLE_EQ(Texts()[0].x1, 10);
   EXPECT_DOUBLE_EQ(Texts()[0].y1, 25.25);
 }

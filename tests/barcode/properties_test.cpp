@@ -57,7 +57,7 @@ TEST_F(BarcodePropertiesTest, NoFaultGetsOutAndTheSameCallPaintsTheSame) {
       ASSERT_EQ(first[k].y1, page.painted[k].y1) << data;
       ASSERT_EQ(first[k].x2, page.painted[k].x2) << data;
       ASSERT_EQ(first[k].y2, page.painted[k].y2) << data;
-      ASSERT_EQ(first[k].text, page.painted[k].text) << data;
+      ASSERT_EQ(first[k].Text(), page.painted[k].Text()) << data;
     }
   }
 }
@@ -119,7 +119,7 @@ TEST_F(BarcodePropertiesTest, TextOfFormats4To11StandsCentredBelowTheBars) {
     const double text_width = 0.5 * letter * static_cast<double>(symbol.data.size());
     const auto texts = Texts();
     ASSERT_EQ(texts.size(), 1U) << symbol.data;
-    EXPECT_EQ(texts[0].text, symbol.data);
+    EXPECT_EQ(texts[0].Text(), symbol.data);
     EXPECT_NEAR(texts[0].x1, symbol.x + symbol.width / 2 - text_width / 2, 1e-9) << symbol.data;
     EXPECT_NEAR(texts[0].y1, symbol.y + symbol.height - 0.85 * 1.1 * letter, 1e-9) << symbol.data;
   }
@@ -144,7 +144,7 @@ TEST_F(BarcodePropertiesTest, DigitsOfUpcAndEan8StandUnderTheirBars) {
     for (int k = 0; k < digits; ++k) {
       const Painted& text = texts[static_cast<std::size_t>(k)];
       const double modules = 3 + 7 * k + (2 * k < digits ? 1 : 5);
-      EXPECT_EQ(text.text, symbol.data.substr(static_cast<std::size_t>(k), 1));
+      EXPECT_EQ(text.Text(), symbol.data.substr(static_cast<std::size_t>(k), 1));
       EXPECT_NEAR(text.x1, symbol.x + modules * ModuleWidth, 1e-3) << symbol.data;
       EXPECT_NEAR(text.y1, symbol.y + symbol.height - 0.65 * 1.1 * letter - 1.5 + 0.25, 1e-9);
     }

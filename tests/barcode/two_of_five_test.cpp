@@ -66,7 +66,7 @@ TEST_F(InterleavedTest, DoubleZeroVanishesAndIsPrintedAllTheSame) {
   Draw(symbol);
   EXPECT_EQ(PatternSum, 4 + 14 + 4);
   ASSERT_EQ(Texts().size(), 1U);
-  EXPECT_EQ(Texts()[0].text, "1200");
+  EXPECT_EQ(Texts()[0].Text(), "1200");
 }
 
 TEST_F(InterleavedTest, DoubleZeroAloneIsAStartAndAStop) {

@@ -220,7 +220,7 @@ TEST_F(UpcEanTest, ADigitIsPrintedBetweenItsTwoBars) {
   std::string order;
   for (const Painted& entry : page.painted) {
     if (entry.what == Painted::What::kBox) order += '|';
-    if (entry.what == Painted::What::kText) order += entry.text;
+    if (entry.what == Painted::What::kText) order += entry.Text();
   }
   EXPECT_EQ(order, "|||1||||");
 }
@@ -237,7 +237,7 @@ TEST_F(UpcEanTest, EachDigitStandsUnderItsOwnBars) {
   // Modules are 1 wide. The left digits' text stands one module right of their leading space.
   const std::array<double, 8> lefts = {4, 11, 18, 25, 36, 43, 50, 57};
   for (std::size_t i = 0; i < texts.size(); ++i) {
-    EXPECT_EQ(texts[i].text, std::string(1, "12345670"[i]));
+    EXPECT_EQ(texts[i].Text(), std::string(1, "12345670"[i]));
     EXPECT_NEAR(texts[i].x1, lefts[i], 1e-9) << i;
     EXPECT_NEAR(texts[i].y1, 15 - 0.65 * 4.4 - 1.5 + 0.25, 1e-9) << i;
   }
@@ -252,11 +252,11 @@ TEST_F(UpcEanTest, TheFirstDigitOfAnEan13MovesItsBarsAndAnArrowEndsIt) {
   const auto texts = Texts();
   ASSERT_EQ(texts.size(), 14U);
   const double line = 20 + 15 - 0.65 * 4.4 - 1.5 + 0.25;
-  EXPECT_EQ(texts.front().text, "4");
+  EXPECT_EQ(texts.front().Text(), "4");
   EXPECT_NEAR(texts.front().x1, 10, 1e-9);
   EXPECT_NEAR(texts.front().y1, line, 1e-9);
   EXPECT_NEAR(Bars().front().left, 10 + 2 + 0.5, 1e-6);
-  EXPECT_EQ(texts.back().text, ">");
+  EXPECT_EQ(texts.back().Text(), ">");
   EXPECT_NEAR(texts.back().x1, 12.5 + (95 + 2) * ModuleWidth, 1e-4);
   EXPECT_NEAR(texts.back().y1, line, 1e-9);
 }
@@ -275,7 +275,23 @@ TEST_F(UpcEanTest, AFontSizeOfZeroPrintsSixPointsBelowBarsMeasuredWithoutThem) {
   Draw(symbol);
   EXPECT_DOUBLE_EQ(BarHeight, 15 - 1.5);
   ASSERT_EQ(Texts().size(), 8U);
-  EXPECT_DOUBLE_EQ(Texts()[0].font.Size, 6);
+  EXPECT_DOUBLE_EQ(Texts()[0].Font().Size, 6);
+}
+
+// The size is set before the module is measured, which takes in the width of a digit.
+TEST_F(UpcEanTest, AnEan13OfFontSizeZeroIsMeasuredAtSixPoints) {
+  FontSpec six = page.Font;
+  six.Size = 6;
+  for (const bool text : {false, true}) {
+    Symbol symbol{"4006381333931", 2};
+    symbol.text = text;
+    symbol.font_size = 0;
+    Draw(symbol);
+    const double digit = page.TextWidth("4");
+    EXPECT_EQ(page.Font.Size, 6);
+    EXPECT_NEAR(ModuleWidth, 95 / (2 * digit + 13 * 7 + 14), 1e-9) << text;
+    EXPECT_NEAR(Bars().front().left, text ? 10 + digit + 0.5 : 10, 1e-5) << text;
+  }
 }
 
 TEST_F(UpcEanTest, AWidthOfMinusOneMeansModulesOfThreeInAllFour) {

@@ -417,11 +417,11 @@ TEST_F(ObjectTextTest, MarkerIsBlueHalfSizedBehindTheNameAndLeavesFontAndColourA
   ASSERT_EQ(page_.Texts(), (Lines{"ab", "S", "cd", "S"}));
   const Painted marker = Texts()[1];
   EXPECT_EQ(marker.color, Rgb(0, 0, 255));
-  EXPECT_NEAR(marker.font.Size, kTenMillimetres / 2, 1e-9);
+  EXPECT_NEAR(marker.Font().Size, kTenMillimetres / 2, 1e-9);
   EXPECT_NEAR(Mm(marker.x1), 20 + 10 + 2 * kCharacter, 1e-9);
   EXPECT_NEAR(Mm(marker.y1), 32, 1e-9);
   EXPECT_EQ(Texts()[2].color, Rgb(200, 0, 0));
-  EXPECT_NEAR(Texts()[2].font.Size, kTenMillimetres, 1e-9);
+  EXPECT_NEAR(Texts()[2].Font().Size, kTenMillimetres, 1e-9);
   EXPECT_NEAR(page_.Font.Size, kTenMillimetres, 1e-9);
 }
 

@@ -104,11 +104,11 @@ TEST_F(RedrawTest, EmptyDocumentPaintsOnlyTheLabelsWhiteShapeAndTheRulers) {
   ASSERT_EQ(Board().painted.size(), 2u);
   EXPECT_EQ(Board().painted[0].what, What::kClear);
   const Painted& label = Board().painted[1];
-  EXPECT_EQ(label.shape, ShapeKind::kRoundRect);
-  EXPECT_EQ(label.pen.style, kPenNull);
-  EXPECT_FALSE(label.brush.null);
-  EXPECT_EQ(label.brush.color, 0xFFFFFF);
-  EXPECT_EQ(label.corner_width, 8);
+  EXPECT_EQ(label.Shape(), ShapeKind::kRoundRect);
+  EXPECT_EQ(label.UsedPen().style, kPenNull);
+  EXPECT_FALSE(label.UsedBrush().null);
+  EXPECT_EQ(label.UsedBrush().color, 0xFFFFFF);
+  EXPECT_EQ(label.CornerWidth(), 8);
   ExpectBox(label, 100, 75, 200, 125, kPixelsPerMillimetre);
   frmMain.mnuFileRulers.SetChecked(true);
   Redraw();
@@ -125,7 +125,7 @@ TEST_F(RedrawTest, LabelsCornersGrowWithTheZoom) {
   ZoomFactor = 2;
   ReadyBoard();
   Redraw();
-  EXPECT_EQ(Board().Of(What::kShape)[0].corner_width, 16);
+  EXPECT_EQ(Board().Of(What::kShape)[0].CornerWidth(), 16);
   // (150 - 100) / 2 = 25 and (100 - 50) / 2 = 25 board units.
   ExpectBox(Board().Of(What::kShape)[0], 25, 25, 125, 75, 2 * kPixelsPerMillimetre);
 }
@@ -171,13 +171,13 @@ TEST_F(RedrawTest, ShapesPaintPenFillAndBox) {
   Redraw();
   const auto shapes = Shapes();
   ASSERT_EQ(shapes.size(), 2u);
-  EXPECT_EQ(shapes[0].shape, ShapeKind::kRectangle);
-  EXPECT_EQ(shapes[1].shape, ShapeKind::kEllipse);
+  EXPECT_EQ(shapes[0].Shape(), ShapeKind::kRectangle);
+  EXPECT_EQ(shapes[1].Shape(), ShapeKind::kEllipse);
   for (const Painted& shape : shapes) {
-    EXPECT_EQ(shape.pen.style, kPenSolid);
-    EXPECT_EQ(shape.pen.width, 3);
-    EXPECT_EQ(shape.pen.color, Rgb(1, 2, 3));
-    EXPECT_EQ(shape.brush.color, Rgb(4, 5, 6));
+    EXPECT_EQ(shape.UsedPen().style, kPenSolid);
+    EXPECT_EQ(shape.UsedPen().width, 3);
+    EXPECT_EQ(shape.UsedPen().color, Rgb(1, 2, 3));
+    EXPECT_EQ(shape.UsedBrush().color, Rgb(4, 5, 6));
     ExpectBox(shape, 110, 80, 140, 100, kPixelsPerMillimetre);
   }
 }
@@ -189,8 +189,8 @@ TEST_F(RedrawTest, RoundedRectanglesCornerIsTwelvePixelsTimesTheZoomInWholePixel
     ZoomFactor = zoom;
     ReadyBoard();
     Redraw();
-    EXPECT_EQ(Shapes()[0].corner_width, corner) << zoom;
-    EXPECT_EQ(Shapes()[0].corner_height, corner) << zoom;
+    EXPECT_EQ(Shapes()[0].CornerWidth(), corner) << zoom;
+    EXPECT_EQ(Shapes()[0].CornerHeight(), corner) << zoom;
   }
 }
 
@@ -201,8 +201,8 @@ TEST_F(RedrawTest, ShapeWithoutPenAndFillPaintsNothingVisible) {
   Add(record);
   Redraw();
   ASSERT_EQ(Shapes().size(), 1u);
-  EXPECT_EQ(Shapes()[0].pen.style, kPenNull);
-  EXPECT_TRUE(Shapes()[0].brush.null);
+  EXPECT_EQ(Shapes()[0].UsedPen().style, kPenNull);
+  EXPECT_TRUE(Shapes()[0].UsedBrush().null);
 }
 
 TEST_F(RedrawTest, BlackFillIsAFill) {
@@ -210,7 +210,7 @@ TEST_F(RedrawTest, BlackFillIsAFill) {
   record.FillColor = 0;
   Add(record);
   Redraw();
-  EXPECT_FALSE(Shapes()[0].brush.null);
+  EXPECT_FALSE(Shapes()[0].UsedBrush().null);
 }
 
 TEST_F(RedrawTest, PenWidthsStayTheSameNumberOfPixelsAt50And200Percent) {
@@ -221,10 +221,10 @@ TEST_F(RedrawTest, PenWidthsStayTheSameNumberOfPixelsAt50And200Percent) {
     ZoomFactor = zoom;
     ReadyBoard();
     Redraw();
-    EXPECT_EQ(Shapes()[0].pen.width, 5) << zoom;
+    EXPECT_EQ(Shapes()[0].UsedPen().width, 5) << zoom;
     EXPECT_NEAR(Mm(Shapes()[0].x2 - Shapes()[0].x1), 10, 1e-9) << zoom;
   }
-  EXPECT_EQ(FirstOf(PageAfter(0, 0), What::kShape).pen.width, 5);
+  EXPECT_EQ(FirstOf(PageAfter(0, 0), What::kShape).UsedPen().width, 5);
 }
 
 struct LineRow {
@@ -263,8 +263,8 @@ TEST_F(RedrawTest, ObjectsPaintInArrayOrderAndPastTheLabelsEdge) {
   Add(ShapeObject(kEllipse, 90, 40, 50, 50));
   Add(ShapeObject(kRectangle, 0, 0, 1, 1));
   Redraw();
-  EXPECT_EQ(Shapes()[0].shape, ShapeKind::kEllipse);
-  EXPECT_EQ(Shapes()[1].shape, ShapeKind::kRectangle);
+  EXPECT_EQ(Shapes()[0].Shape(), ShapeKind::kEllipse);
+  EXPECT_EQ(Shapes()[1].Shape(), ShapeKind::kRectangle);
   ExpectBox(Shapes()[0], 190, 115, 240, 165, kPixelsPerMillimetre);
 }
 
@@ -363,7 +363,7 @@ TEST_F(RedrawTest, TextTakesItsFontTimesTheZoom) {
   ReadyBoard();
   Redraw();
   const Painted text = Board().Of(What::kText)[0];
-  EXPECT_EQ(text.font, (FontSpec{"Times New Roman", 24, true, true}));
+  EXPECT_EQ(text.Font(), (FontSpec{"Times New Roman", 24, true, true}));
   EXPECT_EQ(text.color, Rgb(9, 8, 7));
   EXPECT_NEAR(Mm(text.x1), 35, 1e-9);
   EXPECT_NEAR(Mm(text.y1), 30, 1e-9);
@@ -375,8 +375,8 @@ TEST_F(RedrawTest, DataFieldsAreNeverItalic) {
   record.Bold = kTrue;
   Add(record);
   Redraw();
-  EXPECT_FALSE(Board().Of(What::kText)[0].font.Italic);
-  EXPECT_TRUE(Board().Of(What::kText)[0].font.Bold);
+  EXPECT_FALSE(Board().Of(What::kText)[0].Font().Italic);
+  EXPECT_TRUE(Board().Of(What::kText)[0].Font().Bold);
 }
 
 TEST_F(RedrawTest, OpenFontComesFromThePanelAndThatSizeIsNotZoomed) {
@@ -389,8 +389,8 @@ TEST_F(RedrawTest, OpenFontComesFromThePanelAndThatSizeIsNotZoomed) {
   ZoomFactor = 2;
   ReadyBoard();
   Redraw();
-  EXPECT_EQ(Board().Of(What::kText)[0].font.Name, "Courier New");
-  EXPECT_EQ(Board().Of(What::kText)[0].font.Size, 14);
+  EXPECT_EQ(Board().Of(What::kText)[0].Font().Name, "Courier New");
+  EXPECT_EQ(Board().Of(What::kText)[0].Font().Size, 14);
 }
 
 TEST_F(RedrawTest, OpenFontWithoutANumberOnThePanelPaintsNothing) {
@@ -522,7 +522,7 @@ TEST_F(RedrawTest, SkippedObjectIsNeitherPaintedNorPlacedAndTheMarkIsConsumed) {
   RedrawSkip = 0;
   Redraw();
   ASSERT_EQ(Shapes().size(), 1u);
-  EXPECT_EQ(Shapes()[0].shape, ShapeKind::kEllipse);
+  EXPECT_EQ(Shapes()[0].Shape(), ShapeKind::kEllipse);
   EXPECT_EQ(HoldAt(0).Left(), 7);
   EXPECT_EQ(RedrawSkip, -1);
   Redraw();
@@ -681,14 +681,14 @@ TEST_F(RedrawTest, PreviewPaintsWhiteLabelsAtTheRatioOfItsPicture) {
   const double pixels = 3 * kPixelsPerMillimetre;
   const auto shapes = paper.Of(What::kShape);
   ASSERT_EQ(shapes.size(), 2u);
-  EXPECT_EQ(shapes[0].pen.style, kPenNull);
-  EXPECT_EQ(shapes[0].brush.color, 0xFFFFFF);
-  EXPECT_EQ(shapes[0].corner_width, 24);
+  EXPECT_EQ(shapes[0].UsedPen().style, kPenNull);
+  EXPECT_EQ(shapes[0].UsedBrush().color, 0xFFFFFF);
+  EXPECT_EQ(shapes[0].CornerWidth(), 24);
   // The background is rounded to whole millimetres, halves to the even one, without print offset.
   ExpectBox(shapes[0], 20, 32, 120, 82, pixels);
   ExpectBox(shapes[1], 34.5, 36.5, 64.5, 56.5, pixels);
   const Painted text = paper.Of(What::kText)[0];
-  EXPECT_NEAR(text.font.Size, 3 * kTenMillimetres, 1e-9);
+  EXPECT_NEAR(text.Font().Size, 3 * kTenMillimetres, 1e-9);
   EXPECT_NEAR(text.x1, 34.5 * pixels, 1e-6);
 }
 

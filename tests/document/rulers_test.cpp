@@ -86,11 +86,11 @@ TEST_F(RulersTest, At100PercentATickStandsAtEveryMillimetre) {
 
 TEST_F(RulersTest, TicksAndNumbersAreGreyInArial7) {
   Draw(1);
-  EXPECT_EQ(Board().Of(Painted::What::kLine).front().pen.color, kInk);
-  EXPECT_EQ(Board().Of(Painted::What::kLine).front().pen.width, 1);
+  EXPECT_EQ(Board().Of(Painted::What::kLine).front().UsedPen().color, kInk);
+  EXPECT_EQ(Board().Of(Painted::What::kLine).front().UsedPen().width, 1);
   const Painted number = Board().Of(Painted::What::kText).front();
   EXPECT_EQ(number.color, kInk);
-  EXPECT_EQ(number.font, (FontSpec{"Arial", 7, false, false}));
+  EXPECT_EQ(number.Font(), (FontSpec{"Arial", 7, false, false}));
 }
 
 TEST_F(RulersTest, At60PercentOnlyHalfAndMajorTicksRemain) {

@@ -751,7 +751,7 @@ TEST_F(ObjectPanelsTest, AWeightGoesIntoAShape) {
   DirtyFlag = kFalse;
   frmMain.cboWeight.SetListIndex(0);
   EXPECT_EQ(Object().Param, 0);
-  EXPECT_EQ(Board().Of(Painted::What::kShape).back().pen.style, kPenNull);
+  EXPECT_EQ(Board().Of(Painted::What::kShape).back().UsedPen().style, kPenNull);
   EXPECT_EQ(DirtyFlag, kTrue);
 }
 

@@ -88,7 +88,7 @@ class JobTest : public SourceTest {
       std::vector<Cell>& page = pages.emplace_back();
       for (const Painted& entry : painted) {
         if (entry.what != Painted::What::kText) continue;
-        page.push_back({entry.text, entry.x1 * pixel, entry.y1 * pixel});
+        page.push_back({entry.Text(), entry.x1 * pixel, entry.y1 * pixel});
       }
     }
     return pages;

@@ -46,7 +46,7 @@ TEST(Recorder, KeepsTheExtentOfText) {
   const Painted text = page.Of(What::kText)[0];
   EXPECT_NEAR(text.x2 - text.x1, 33, 1e-9);
   EXPECT_NEAR(text.y2 - text.y1, 22, 1e-9);
-  EXPECT_TRUE(text.font.Bold);
+  EXPECT_TRUE(text.Font().Bold);
 }
 
 TEST(Recorder, KeepsTheDrawingModeOfEverything) {

@@ -84,9 +84,9 @@ TEST_F(SurfaceTest, PrintsWithItsTopLeftAtTheCurrentPoint) {
   const Painted text = sheet.Of(What::kText)[0];
   EXPECT_NEAR(text.x1, 96, 1e-9);
   EXPECT_NEAR(text.y1, 192, 1e-9);
-  EXPECT_EQ(text.text, "abcd");
+  EXPECT_EQ(text.Text(), "abcd");
   EXPECT_EQ(text.color, 0x123456);
-  EXPECT_EQ(text.font, sheet.Font);
+  EXPECT_EQ(text.Font(), sheet.Font);
 }
 
 TEST_F(SurfaceTest, PrintMovesToTheStartOfTheNextLine) {
@@ -159,7 +159,7 @@ TEST_F(SurfaceTest, LinesGoOnFromWhereTheLastOneEnded) {
   EXPECT_EQ(lines[1].x1, 30);
   EXPECT_EQ(lines[1].y1, 20);
   EXPECT_EQ(lines[1].y2, 50);
-  EXPECT_EQ(lines[1].pen.width, 3);
+  EXPECT_EQ(lines[1].UsedPen().width, 3);
 }
 
 TEST_F(SurfaceTest, ShapesTakeDevicePixelsAndTheSelectedPenAndBrush) {
@@ -172,13 +172,13 @@ TEST_F(SurfaceTest, ShapesTakeDevicePixelsAndTheSelectedPenAndBrush) {
   const std::vector<Painted> shapes = sheet.Of(What::kShape);
   ASSERT_EQ(shapes.size(), 3u);
   EXPECT_EQ(shapes[0].x2, 30.25);
-  EXPECT_EQ(shapes[0].pen.color, 0xFF);
-  EXPECT_EQ(shapes[0].brush.color, 0xFF00);
-  EXPECT_FALSE(shapes[0].brush.null);
-  EXPECT_EQ(shapes[1].corner_width, 12);
-  EXPECT_EQ(shapes[1].corner_height, 8);
-  EXPECT_TRUE(shapes[1].brush.null);
-  EXPECT_EQ(shapes[2].shape, ShapeKind::kEllipse);
+  EXPECT_EQ(shapes[0].UsedPen().color, 0xFF);
+  EXPECT_EQ(shapes[0].UsedBrush().color, 0xFF00);
+  EXPECT_FALSE(shapes[0].UsedBrush().null);
+  EXPECT_EQ(shapes[1].CornerWidth(), 12);
+  EXPECT_EQ(shapes[1].CornerHeight(), 8);
+  EXPECT_TRUE(shapes[1].UsedBrush().null);
+  EXPECT_EQ(shapes[2].Shape(), ShapeKind::kEllipse);
 }
 
 TEST_F(SurfaceTest, APenKeepsItsPixelsWhateverTheScale) {
@@ -186,7 +186,7 @@ TEST_F(SurfaceTest, APenKeepsItsPixelsWhateverTheScale) {
     sheet.Scale().SetScaleWidth(units);
     sheet.SelectObject(CreatePen(kPenSolid, 4, 0));
     sheet.Rectangle(0, 0, 10, 10);
-    EXPECT_EQ(sheet.Of(What::kShape).back().pen.width, 4);
+    EXPECT_EQ(sheet.Of(What::kShape).back().UsedPen().width, 4);
   }
 }
 

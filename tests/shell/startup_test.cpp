@@ -228,8 +228,11 @@ TEST_F(StartUpTest, RowsOfTheLists) {
   EXPECT_EQ(rows(frmMain.cboPrinter), printers.names);
   EXPECT_EQ(rows(frmMain.cboFont),
             (std::vector<std::string>{"Arial", "Courier New", "Times New Roman"}));
-  EXPECT_EQ(frmMain.cboBCode.List(0), "UPC-A");
-  EXPECT_EQ(frmMain.cboBCode.List(13), "Royal Mail CBC");
+  EXPECT_EQ(rows(frmMain.cboBCode),
+            (std::vector<std::string>{"UPC-A", "UPC-E", "EAN-13", "EAN-8", "Code 2 of 5",
+                                      "Interleaved 2 of 5", "Code 128-A", "Code 128-B",
+                                      "Code 128-C", "Code 39", "Code 39 Extended", "Codabar",
+                                      "PostNet", "Royal Mail CBC"}));
 }
 
 TEST_F(StartUpTest, PaletteAndSamples) {

@@ -180,7 +180,20 @@ TEST_F(BarcodePanelTest, PostNetFixesTheSizeByBarsAndGaps) {
   EXPECT_NEAR(object.Height, 3.175, 1e-6);
   EXPECT_EQ(frmMain.shpBox.Width(), object.Width);
   EXPECT_EQ(frmMain.shpBox.Height(), object.Height);
-  EXPECT_EQ(RedrawCount, redraws + 1);  // before the size, and not again after it
+  EXPECT_EQ(RedrawCount, redraws + 1);
+}
+
+// What is redrawn is the symbol of the size before; the outline alone takes the new one.
+TEST_F(BarcodePanelTest, TheRedrawComesBeforeThePostalSize) {
+  const ObjectRecord& object = Select(kBarcode);
+  SetData("12345");
+  for (const int format : {12, 13}) {
+    const double width = object.Width, height = object.Height;
+    Choose(format);
+    EXPECT_NE(object.Width, width) << format;
+    EXPECT_NEAR(HoldAt(SelectedObject).Width(), width, 0.01) << format;
+    EXPECT_NEAR(HoldAt(SelectedObject).Height(), height, 0.01) << format;
+  }
 }
 
 TEST_F(BarcodePanelTest, RoyalMailFixesTheSizeByCharacters) {
@@ -310,6 +323,12 @@ TEST_F(BarcodePanelTest, ASwallowedKeyStillCountsAsEditing) {
   EXPECT_EQ(DirtyFlag, kFalse);
 }
 
+TEST_F(BarcodePanelTest, AKeyInTheListOfFormatsCountsForNothing) {
+  int key = 'C';
+  cboBCode_KeyPress(key);
+  EXPECT_EQ(key, 0);
+}
+
 TEST_F(BarcodePanelTest, NothingCanBeTypedIntoTheListOfFormats) {
   Choose(3);
   frmMain.cboBCode.UserType("Code 39");
@@ -373,9 +392,9 @@ TEST_F(BarcodePanelTest, ARedrawPaintsABarcodeObjectWithItsTrimmedDataAndItsBold
   EXPECT_NEAR(bars.front().y1, (5 + BoardOriginY) * dots, 1e-3);
   const auto texts = Board().Of(Painted::What::kText);
   ASSERT_EQ(texts.size(), 1U);
-  EXPECT_EQ(texts[0].text, "AB");
-  EXPECT_EQ(texts[0].font.Name, "Courier New");
-  EXPECT_FALSE(texts[0].font.Bold);
+  EXPECT_EQ(texts[0].Text(), "AB");
+  EXPECT_EQ(texts[0].Font().Name, "Courier New");
+  EXPECT_FALSE(texts[0].Font().Bold);
 }
 
 TEST_F(BarcodePanelTest, ASerialNumberAsBarcodePrintsSixPointsAndKeepsTheFont) {
@@ -393,8 +412,8 @@ TEST_F(BarcodePanelTest, ASerialNumberAsBarcodePrintsSixPointsAndKeepsTheFont) {
   ASSERT_FALSE(bars.empty());
   const auto texts = page.Of(Painted::What::kText);
   ASSERT_EQ(texts.size(), 1U);
-  EXPECT_EQ(texts[0].text, "1001");
-  EXPECT_EQ(texts[0].font, (FontSpec{"Courier New", 6, false, false}));
+  EXPECT_EQ(texts[0].Text(), "1001");
+  EXPECT_EQ(texts[0].Font(), (FontSpec{"Courier New", 6, false, false}));
 }
 
 TEST_F(BarcodePanelTest, AFieldAsBarcodePrintsItsValueWithTheItalicFlag) {

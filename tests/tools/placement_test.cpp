@@ -260,7 +260,7 @@ TEST_F(PlacementTest, ARectangleKeepsWeightZeroAndDrawsWithoutAPen) {
   DragOnLabel(10, 10, 40, 30);
   EXPECT_EQ(Newest().Param, 0);
   EXPECT_EQ(frmMain.cboWeight.ListIndex(), 0);
-  EXPECT_EQ(Board().Of(Painted::What::kShape).back().pen.style, kPenNull);
+  EXPECT_EQ(Board().Of(Painted::What::kShape).back().UsedPen().style, kPenNull);
 }
 
 TEST_F(PlacementTest, TheTinyBoxOfTheLastGestureIsForgotten) {
