@@ -82,9 +82,10 @@ void ListTables() {
 void TakeTable(int row) {
   const std::vector<std::string> tables = OpenedDatabase().TableNames();
   if (static_cast<std::size_t>(row) >= tables.size()) RaiseFault(kOutOfBounds);
-  const std::string& name = tables[static_cast<std::size_t>(row)];
-  SourceTable = {name, OpenedDatabase().FieldNames(name)};
+  SourceTable = {tables[static_cast<std::size_t>(row)], {}};
 }
+
+void ReadColumns() { SourceTable.Fields = OpenedDatabase().FieldNames(SourceTable.Name); }
 
 // A table may have more columns than there are slots: FieldUB counts them all the same.
 void StoreColumnNames() {
@@ -113,7 +114,7 @@ void cboRSet_Click() {
   const int row = frmMain.cboRSet.ListIndex();
   if (row == -1) return;
   Traced([&] { TakeTable(row); });
-  StoreColumnNames();
+  if (Traced(ReadColumns)) StoreColumnNames();
   CurrentTable = frmMain.cboRSet.Text();
   Traced([] { SourceRecordset = OpenedDatabase().OpenRecordset(Query(SourceTable.Name)); });
   RecordCount = 0;

@@ -158,6 +158,29 @@ TEST_F(DatabaseSourceTest, ATableThatFailsToOpenShowsTheCountOfTheOneBeforeIt) {
   EXPECT_EQ(Merged(), (Texts{"Bob"}));
 }
 
+TEST_F(DatabaseSourceTest, ATableWhoseColumnsCannotBeReadIsChosenWithoutThem) {
+  Browse(kDatabaseSource, "a.mdb");
+  ChooseTable("People");
+  databases.files["b.mdb"] = {{{"T", {"x"}, {{"1"}}}}};
+  Browse(kDatabaseSource, "b.mdb");
+  databases.columns_fail = true;
+  databases.log.clear();
+  ChooseTable("T");
+  EXPECT_EQ(SourceTable.Name, "T");
+  EXPECT_EQ(FieldUB, -1);
+  EXPECT_EQ(Columns(), Texts{});
+  EXPECT_EQ(databases.log.front(), "rows SELECT * FROM T");
+}
+
+// No table is chosen in the new database: what was open is still merged.
+TEST_F(DatabaseSourceTest, ANewDatabaseWithoutATableMergesTheRowsOfTheFormerOne) {
+  Browse(kDatabaseSource, "a.mdb");
+  ChooseTable("People");
+  databases.files["b.mdb"] = {{{"T", {"x"}, {{"1"}, {"2"}}}}};
+  Browse(kDatabaseSource, "b.mdb");
+  EXPECT_EQ(Merged(), (Texts{"Bob"}));
+}
+
 TEST_F(DatabaseSourceTest, NoTableChosenDoesNothing) {
   Browse(kDatabaseSource, "a.mdb");
   FieldUB = 7;

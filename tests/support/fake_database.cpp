@@ -67,6 +67,7 @@ class FakeOpened : public Database {
     return names;
   }
   std::vector<std::string> FieldNames(const std::string& table) override {
+    if (all_.columns_fail) RaiseFault(kDatabaseFault);
     return Named(table).fields;
   }
   std::unique_ptr<Recordset> OpenRecordset(const std::string& source) override {

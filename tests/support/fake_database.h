@@ -36,6 +36,7 @@ class FakeDatabases {
 
   std::map<std::string, FakeFile> files;  // by path; others are missing: fault 53
   bool rows_fail = false;                 // every call on a recordset faults
+  bool columns_fail = false;              // so does asking for a table's columns
   std::vector<std::string> log;           // "open PATH CONNECT", "rows SOURCE", moves
 };
 
