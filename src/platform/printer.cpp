@@ -13,6 +13,7 @@ class NoPrinters : public PrinterService {
 };
 
 PrinterService* service_in_force = nullptr;
+std::string expected;
 std::unique_ptr<PrinterDevice> chosen;
 
 }  // namespace
@@ -27,9 +28,11 @@ void SetPrinterList(PrinterService* service) { service_in_force = service; }
 std::vector<std::string> Printers() { return PrinterList().Names(); }
 
 PrinterDevice& Printer() {
-  if (!chosen) ChoosePrinter(PrinterList().DefaultName());
+  if (!chosen) ChoosePrinter(expected.empty() ? PrinterList().DefaultName() : expected);
   return *chosen;
 }
+
+void ExpectPrinter(const std::string& name) { expected = name; }
 
 // The former one stays chosen when the new one refuses.
 void ChoosePrinter(const std::string& name) {
@@ -37,6 +40,9 @@ void ChoosePrinter(const std::string& name) {
   chosen = PrinterList().Open(name);
 }
 
-void ResetPrinter() { chosen.reset(); }
+void ResetPrinter() {
+  expected.clear();
+  chosen.reset();
+}
 
 }  // namespace tagwright

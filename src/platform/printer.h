@@ -49,12 +49,15 @@ void SetPrinterList(PrinterService* service);  // not owned; null: none
 // The device names of all printers (`Printers`).
 std::vector<std::string> Printers();
 
-// The chosen printer (`Printer`): the default one until another is chosen. Faults 482 when there is
-// none.
+// The chosen printer (`Printer`): the expected or the default one until another is chosen. Faults
+// 482 when there is none.
 PrinterDevice& Printer();
+// Has the first use take the printer `name`, whichever is the default one by then. Opens nothing:
+// looking a queue up takes its time.
+void ExpectPrinter(const std::string& name);
 // Makes the printer `name` the chosen one. Faults 482 when it is gone.
 void ChoosePrinter(const std::string& name);
-// Forgets the chosen printer; the next use takes the default one again.
+// Forgets the chosen and the expected printer; the next use takes the default one again.
 void ResetPrinter();
 
 }  // namespace tagwright

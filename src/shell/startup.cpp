@@ -199,6 +199,7 @@ void ListPrinters() {
   list.SetVisible(true);
   CarryOn([&] { list.SetText(PrinterList().DefaultName()); });
   CarryOn([&] { list.SetToolTipText(PrinterList().DefaultName()); });
+  ExpectPrinter(list.Text());  // what is shown is what prints
 }
 
 void FillSizes() {

@@ -283,5 +283,17 @@ TEST_F(QueueTrouble, AQueueThatWasTakenAwayIsToldOnce) {
   EXPECT_EQ(SerialValue, 1001);
 }
 
+// The queue shown at the start, of which no row was chosen: nothing of it is open yet.
+TEST_F(QueueTrouble, AServiceThatIsGoneBeforeTheFirstJobIsToldOnce) {
+  ResetPrinter();
+  ExpectPrinter("margins");
+  Service().Stop();
+  frmMain.cmdPrint.Press();
+  ExpectToldOnce();
+  ExpectScreenRestored();
+  EXPECT_EQ(SerialValue, 1001);
+  Service().Start();
+}
+
 }  // namespace
 }  // namespace tagwright

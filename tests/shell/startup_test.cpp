@@ -552,6 +552,14 @@ TEST_F(StartUpTest, TheDefaultPrinterIsShownAsTextAndToolTip) {
   EXPECT_EQ(frmMain.cboPrinter.ToolTipText(), "Zebra");
 }
 
+TEST_F(StartUpTest, ThePrinterThatIsShownPrintsWhicheverIsTheDefaultByThen) {
+  printers.names = {"Zebra", "Alpha"};
+  StartProgram();
+  printers.names = {"Alpha", "Zebra"};
+  EXPECT_EQ(frmMain.cboPrinter.Text(), "Zebra");
+  EXPECT_EQ(Printer().DeviceName(), "Zebra");
+}
+
 TEST_F(StartUpTest, AFolderThatCannotBeWrittenStartsAndEndsWithoutAWord) {
   SetExecutableFolder(folder.File("gone"));
   StartProgram();
