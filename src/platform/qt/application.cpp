@@ -53,10 +53,14 @@ int OpenOnDesktop(const std::string& target, int) {
   return QDesktopServices::openUrl(url) ? kOpened : kNotFound;
 }
 
+// The desktop's own viewer of such files shows it.
 bool ShowHelpFile(const std::string& path) {
+  const bool there = FileExists(path);
+  if (there && QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(path))))
+    return true;
   const std::string name = FileBaseName(path);
-  MessageBox(FileExists(path) ? "The help file " + name + " cannot be shown on this system."
-                              : "The help file " + name + " is missing.",
+  MessageBox(there ? "The help file " + name + " cannot be shown on this system."
+                   : "The help file " + name + " is missing.",
              MessageButtons::kOk, MessageIcon::kInformation);
   return false;
 }
