@@ -77,7 +77,7 @@ bool NextRecord() {
 
 // The dead margin is in millimetres and counts as display units: in inches it moves the label 25
 // times too far.
-void PaintCell(const Job& job, int col, int row) {
+void PaintCell(const Job& job, double col, double row) {
   const double x = LeftMargin() + PitchX() * col - job.margin_x;
   const double y = TopMargin() + PitchY() * row - job.margin_y;
   RedrawBoard(x * UnitScale, y * UnitScale, true);
@@ -89,7 +89,7 @@ void RaiseSerial() {
   ++SerialValue;
 }
 
-Leave PrintCell(Job& job, int col, int row) {
+Leave PrintCell(Job& job, double col, double row) {
   if (!GoesOn(job)) return Leave::kJob;
   if (Merges() && !NextRecord()) return Leave::kCopy;
   SerialUsed = false;
@@ -103,10 +103,11 @@ Leave PrintCell(Job& job, int col, int row) {
 // Down the first column, then down the second: labels come off the sheet in strips.
 Leave PrintSheet(Job& job) {
   const double last_col = Across() - 1;
-  for (int col = 0; col <= last_col; ++col) {
+  for (std::int64_t col = 0; static_cast<double>(col) <= last_col; ++col) {
     const double last_row = Down() - 1;
-    for (int row = 0; row <= last_row; ++row) {
-      const Leave leave = PrintCell(job, col, row);
+    if (last_row < 0 && !GoesOn(job)) return Leave::kJob;  // there is no cell to ask at
+    for (std::int64_t row = 0; static_cast<double>(row) <= last_row; ++row) {
+      const Leave leave = PrintCell(job, static_cast<double>(col), static_cast<double>(row));
       if (leave != Leave::kNothing) return leave;
     }
   }
@@ -188,14 +189,17 @@ class JobUnderWay {
   JobUnderWay& operator=(const JobUnderWay&) = delete;
 };
 
+// A printer that is not there says so here, once, and is not asked for again.
 bool OpenJob() {
-  if (Copies() < 1) return true;
+  PrinterDevice* printer = nullptr;
   try {
-    Printer().StartDoc();
+    printer = &Printer();
+    if (Copies() > 0) printer->StartDoc();
     return true;
   } catch (const Fault& fault) {
     if (fault.number != kDialogCancelled) MarkerTail(fault);
-    CarryOn([] { Printer().KillDoc(); });  // or its refusal would stand for the next job as well
+    // Or its refusal would stand for the next job as well.
+    if (printer) CarryOn([&] { printer->KillDoc(); });
     return false;
   }
 }

@@ -249,6 +249,19 @@ TEST_F(PrintJobTest, ADatabaseMergesFromItsSecondRow) {
   EXPECT_EQ(Printed(), (std::vector<Texts>{{"Bob", "Cy"}}));
 }
 
+// The tick outlives its box, which a database hides.
+TEST_F(PrintJobTest, ATickForTitlesCostsADatabaseARowToo) {
+  Merge(1);
+  frmMain.chkFirstRow.SetValue(1);
+  databases.files["a.mdb"] = {{{"People", {"Name"}, {{"Ada"}, {"Bob"}, {"Cy"}, {"Di"}}}}};
+  Browse(kDatabaseSource, "a.mdb");
+  frmMain.cboRSet.UserChoose(0);
+  EXPECT_FALSE(frmMain.chkFirstRow.Visible());
+  AddField();
+  Print();
+  EXPECT_EQ(Printed(), (std::vector<Texts>{{"Cy", "Di"}}));
+}
+
 TEST_F(PrintJobTest, WithoutAMergeFieldsShowWhatIsThere) {
   Merge(3);
   AddField();
@@ -348,6 +361,26 @@ TEST_F(PrintJobTest, WithoutALayoutThePaperStays) {
 }
 
 // --- afterwards ---------------------------------------------------------------------------------
+
+// The first redraw of the job has taken the skip with it; the label is whole on page and screen.
+TEST_F(PrintJobTest, AnObjectSkippedBeforeTheJobIsOnTheScreenAfterIt) {
+  Add(kText, "whole");
+  SetCells(1, 2);
+  RedrawSkip = 0;
+  Print();
+  EXPECT_EQ(RedrawSkip, -1);
+  EXPECT_EQ(Board().Texts().back(), "whole");
+}
+
+// Without rows there is no cell at which the job could end.
+TEST_F(PrintJobTest, AJobOfColumnsWithoutRowsCanBeCancelled) {
+  AddSerial();
+  frmMain.txtLabLayout(0).SetText("99999999999");
+  frmMain.txtLabLayout(1).SetText("0");
+  progress.cancel_at = 10;
+  Print();
+  EXPECT_TRUE(Log().pages.empty());
+}
 
 TEST_F(PrintJobTest, TheScreenIsAsBefore) {
   AddSerial();
@@ -460,6 +493,30 @@ TEST_F(PrintJobTest, WithoutAnyPrinterNothingHappens) {
   Print();
   EXPECT_EQ(Board().painted.size(), painted);
   EXPECT_EQ(DrawTarget, &frmMain.picBoard.Canvas());
+}
+
+// Each look for a queue that has gone would be told anew.
+TEST_F(PrintJobTest, APrinterThatIsNotThereIsLookedForOnce) {
+  class CountedPrinters : public FakePrinterList {
+   public:
+    std::unique_ptr<PrinterDevice> Open(const std::string& name) override {
+      looked_for.push_back(name);
+      RaiseFault(kPrinterFault);
+    }
+    std::vector<std::string> looked_for;
+  };
+  for (const char* copies : {"1", "0"}) {
+    CountedPrinters counted;
+    SetPrinterList(&counted);
+    ResetPrinter();
+    ExpectPrinter("Gone");
+    AddSerial();
+    frmMain.txtNoCopies.SetText(copies);
+    Print();
+    EXPECT_EQ(counted.looked_for, Texts{"Gone"}) << copies;
+    EXPECT_EQ(SerialValue, 1001);
+    SetPrinterList(&printers);
+  }
 }
 
 TEST_F(PrintJobTest, AJobThatThePrinterHasLostEndsBetweenTwoCells) {
