@@ -1,8 +1,8 @@
 // A symbol through DrawBarcode, all fourteen formats with twelve characters of data where the
 // format takes them. "barcode" paints on a surface that records boxes and texts, beside another
 // library that lists rectangles and texts, with one symbol object reused (its UPC-E has 17 bars,
-// ours 21); "on the test recorder" on the surface that the tests read back, which keeps a good deal
-// more of each box; "on PDF" on a page, with text.
+// ours 21); "on the recording surface" on the one that the tests read back, which keeps more of
+// each box; "on PDF" on a page, with text.
 #include <benchmark/benchmark.h>
 #include <zint.h>
 
@@ -166,7 +166,7 @@ void Register(const Format& format) {
       [&](benchmark::State& s) { OnBoxes(s, format, true); });
   add("barcode with text/" + name + "/floor",
       [&](benchmark::State& s) { InOtherLibrary(s, format, true); });
-  add("barcode on the test recorder/" + name + "/ours",
+  add("barcode on the recording surface/" + name + "/ours",
       [&](benchmark::State& s) { OnRecorder(s, format); });
   add("barcode on PDF/" + name + "/ours", [&](benchmark::State& s) { OnPdf(s, format); });
 }
