@@ -142,9 +142,8 @@ class SpokenWindow : public testing::Test {
     return pressed;
   }
 
-  // Closes whatever a button has opened. It shows that it is pressed for a moment before it acts.
+  // Closes whatever a button has opened.
   void CloseWhatOpened() const {
-    Shell("sleep 0.3");
     const auto main_is_active = [&] {
       return Shell("xdotool getactivewindow", false) == program.Window();
     };

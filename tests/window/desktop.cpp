@@ -479,6 +479,7 @@ void PressBySpeech(const Program& program, const std::string& name, const std::s
     return true;
   });
   if (!pressed) Fail("\"" + name + "\" cannot be pressed");
+  Pause(300);
 }
 
 std::vector<std::string> WindowTitles() {

@@ -104,7 +104,8 @@ bool Shows(const Program& program, const std::string& name, const std::string& r
 
 // The one that has the keyboard; without a name when none has.
 Spoken Focused(const Program& program);
-// Presses it as an assistive tool does, without a mouse. Throws when it cannot be pressed so.
+// Presses it as an assistive tool does, without a mouse, and waits: a button shows for a moment
+// that it is pressed before it acts. Throws when it cannot be pressed so.
 void PressBySpeech(const Program& program, const std::string& name, const std::string& role);
 
 // Titles of all shown windows of the screen.

@@ -16,6 +16,7 @@
 #include "platform/qt/dialogs_qt.h"
 #include "platform/qt/locale_qt.h"
 #include "platform/qt/progress_qt.h"
+#include "platform/qt/spoken_qt.h"
 #include "platform/qt/surface_qt.h"
 #include "platform/qt/theme.h"
 #include "platform/qt/windows_qt.h"
@@ -90,6 +91,7 @@ Application::Application(int& argc, char** argv) : toolkit_(std::make_unique<Too
   toolkit_->application = StartToolkit(argc, argv);
   TakeUserLocale();
   FollowDesktopTheme(*toolkit_->application);
+  InstallSpokenButtons();
   InstallPaintServices();
   InstallDesktop();
   SetDatabaseEngine(MakeDatabaseEngine(ReaderBesideProgram()));
