@@ -137,6 +137,11 @@ Label& HoldAt(int index) {
   return hold;
 }
 
+void EndMeasuring(Label& hold) {
+  hold.SetAutoSize(false);
+  hold.SetCaption("");
+}
+
 void ResetDocumentState() {
   ResetDocument();
   ResetView();

@@ -156,6 +156,10 @@ void RemoveRecord(int index);
 // caption. Faults 9 outside 0 to 32,767.
 Label& HoldAt(int index);
 
+// A caption stands on a hit area only while it is measured, and on that of a text being edited: it
+// is emptied, and the size stays.
+void EndMeasuring(Label& hold);
+
 // The whole state of this folder (that of project_file.h and redraw.h too) back to program start.
 // Neither the form nor the barcode painter's slot is touched.
 void ResetDocumentState();

@@ -3,6 +3,7 @@
 #include "common/prog_settings.h"
 #include "document/project_file.h"
 #include "document/redraw.h"
+#include "document/selection_state.h"
 #include "forms/frmMain.h"
 #include "platform/dialogs.h"
 #include "platform/fault.h"
@@ -39,15 +40,6 @@ void EmptyPanels() {
   frmMain.txtTool.SetText("");
 }
 
-// The press of the first tool has ended the selection, but for a modifier that is held, as that of
-// this command's own shortcut is.
-void ForgetSelection() {
-  SelectedObject = -1;
-  SelectedUpper = -1;
-  HideHandles();
-  ShowNoPlace();
-}
-
 void ForgetSource() {
   frmMain.lblFileName.SetCaption("");
   ProjectPath.clear();
@@ -79,7 +71,7 @@ void mnuFileNew_Click() {
   DirtyFlag = kFalse;
   ForgetSource();
   frmMain.cmdTools(0).Press();
-  ForgetSelection();
+  DropSelection();  // the tool has not ended it where a modifier is held, as in this very shortcut
   frmMain.mnuFileSaveAs.SetEnabled(false);
   frmMain.SetCaption(ProductTitle + " [untitled]");
 }

@@ -5,6 +5,7 @@
 #include "common/public_functions.h"
 #include "document/project_file.h"
 #include "document/redraw.h"
+#include "document/selection_state.h"
 #include "forms/frmMain.h"
 #include "platform/dialogs.h"
 #include "platform/fault.h"
@@ -15,13 +16,6 @@ namespace tagwright {
 namespace {
 
 // --- records ------------------------------------------------------------------------------------
-
-void DropSelection() {
-  SelectedObject = -1;
-  SelectedUpper = -1;
-  HideHandles();
-  ShowNoPlace();
-}
 
 // Only the file's length tells how many records there are; a remainder counts from half a record.
 void RecreateObjects(const std::string& path) {
@@ -143,8 +137,7 @@ void TakeSerialTrailer() {
 
 // --- hit areas ----------------------------------------------------------------------------------
 
-// A caption stands on a hit area only while it is measured. A font that measures to no size at all
-// is passed over step by step.
+// A font that measures to no size at all is passed over step by step.
 void FitToText(Label& hold, const ObjectRecord& object) {
   CarryOn([&] { hold.SetAutoSize(true); });
   CarryOn([&] { hold.SetFontName(object.FontName.Trimmed()); });
@@ -152,8 +145,7 @@ void FitToText(Label& hold, const ObjectRecord& object) {
   CarryOn([&] { hold.SetFontBold(object.Bold != kFalse); });
   if (object.ObjType == kText) CarryOn([&] { hold.SetFontItalic(object.Italic != kFalse); });
   CarryOn([&] { hold.SetCaption(object.Text.Trimmed()); });
-  hold.SetAutoSize(false);
-  hold.SetCaption("");
+  EndMeasuring(hold);
 }
 
 void PlaceHold(int index) {

@@ -279,11 +279,6 @@ void PlaceHold(Label& hold, const ObjectRecord& object) {
   Step([&] { hold.SetHeight(object.Height); });
 }
 
-void EndMeasuring(Label& hold) {
-  hold.SetAutoSize(false);
-  hold.SetCaption("");
-}
-
 void RedrawObject(int index, const RedrawPass& pass) {
   Label& hold = HoldAt(index);
   if (index != SelectedObject) EndMeasuring(hold);

@@ -4,6 +4,7 @@
 
 #include "document/objects.h"
 #include "document/redraw.h"
+#include "document/selection_state.h"
 #include "editing/selection.h"
 #include "editing/undo.h"
 #include "forms/frmMain.h"

@@ -5,6 +5,7 @@
 
 #include "document/objects.h"
 #include "document/redraw.h"
+#include "document/selection_state.h"
 #include "editing/object_panels.h"
 #include "editing/panel_stack.h"
 #include "editing/selected_object.h"
@@ -45,8 +46,7 @@ void TakePlaceOfHold(ObjectRecord& text, const Label& hold) {
 // From here on the painter shows it again. Nothing may be selected when txtTool is emptied, or the
 // object would be emptied with it.
 void ReturnToPainter(ObjectRecord& text, Label& hold) {
-  hold.SetAutoSize(false);
-  hold.SetCaption("");
+  EndMeasuring(hold);
   hold.SetBackStyle(0);
   TakePlaceOfHold(text, hold);
   SelectedObject = -1;
@@ -140,25 +140,6 @@ void SelectGroup() {
 
 }  // namespace
 
-// --- commands that need a selection -------------------------------------------------------------
-
-void EnableSelectionCommands(bool group) {
-  for (Menu* entry : {&frmMain.mnuEditCopy, &frmMain.mnuEditCut, &frmMain.mnuAHoriz,
-                      &frmMain.mnuArrangeBTF, &frmMain.mnuArrangeSTB}) {
-    entry->SetEnabled(true);
-  }
-  frmMain.mnuArrAlign.SetEnabled(group);
-  frmMain.mnuArrSize.SetEnabled(group);
-}
-
-void DisableSelectionCommands() {
-  for (Menu* entry :
-       {&frmMain.mnuEditCopy, &frmMain.mnuEditCut, &frmMain.mnuArrAlign, &frmMain.mnuArrSize,
-        &frmMain.mnuAHoriz, &frmMain.mnuArrangeBTF, &frmMain.mnuArrangeSTB}) {
-    entry->SetEnabled(false);
-  }
-}
-
 // --- one object ---------------------------------------------------------------------------------
 
 void DeselectObject() {
@@ -172,14 +153,6 @@ void DeselectObject() {
   HideHandles();
   ShowNoPlace();
   SelectedObject = -1;
-}
-
-void DropSelection() {
-  DisableSelectionCommands();
-  SelectedUpper = -1;
-  SelectedObject = -1;
-  HideHandles();
-  ShowNoPlace();
 }
 
 // The fields are left while the record still stands in its place: what was typed there must not
@@ -213,8 +186,7 @@ void FitHoldToText(int index) {
     CarryOn([&] { hold.SetForeColor(object.ForeColor); });
   }
   CarryOn([&] { hold.SetCaption(object.Text.Trimmed()); });
-  hold.SetAutoSize(false);
-  hold.SetCaption("");
+  EndMeasuring(hold);
 }
 
 // --- the group ----------------------------------------------------------------------------------

@@ -30,17 +30,9 @@ void RemoveObject();
 // for more objects than a group can hold, with the selection unchanged.
 void mnuEditSelectAll_Click();
 
-// The commands that need a selection: copy, cut, centring and stacking; for `group` also aligning
-// and sizing, which are disabled for a single object.
-void EnableSelectionCommands(bool group);
-void DisableSelectionCommands();
-
 // Fits the hit area of a text, or of a data field that is shown as text, to the record's text at
 // the present zoom, and stores text and font name back trimmed. Nothing for other kinds.
 void FitHoldToText(int index);
-
-// Nothing selected, without the steps of DeselectObject: state, frame, handles and txtDSize.
-void DropSelection();
 
 // ControlHeld, ModifierHeld and CopyPropsPending as at program start.
 void ResetSelectionKeys();

@@ -4,6 +4,7 @@
 
 #include "document/objects.h"
 #include "document/redraw.h"
+#include "document/selection_state.h"
 #include "editing/drag.h"
 #include "editing/geometry.h"
 #include "editing/object_panels.h"

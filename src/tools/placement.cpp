@@ -6,6 +6,7 @@
 #include "common/diagnostics.h"
 #include "common/public_functions.h"
 #include "document/redraw.h"
+#include "document/selection_state.h"
 #include "editing/drag.h"
 #include "editing/object_panels.h"
 #include "editing/panel_stack.h"

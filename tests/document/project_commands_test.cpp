@@ -1,4 +1,5 @@
 #include "document/document_support.h"
+#include "document/selection_state.h"
 #include "platform/text.h"
 
 namespace tagwright {
@@ -40,6 +41,7 @@ TEST_F(ProjectCommandsTest, NewEmptiesTheLabelAndItsPanels) {
   SerialPrefix = "kept";
   int presses = 0;
   frmMain.cmdTools.Events().Click = [&](int index) { presses += index == 0 ? 1 : 100; };
+  EnableSelectionCommands(true);
   mnuFileNew_Click();
   EXPECT_EQ(ObjectUB, -1);
   EXPECT_EQ(RedrawSkip, -1);
@@ -50,6 +52,7 @@ TEST_F(ProjectCommandsTest, NewEmptiesTheLabelAndItsPanels) {
   EXPECT_EQ(SelectedUpper, -1);
   EXPECT_EQ(UndoUpper, -1);
   EXPECT_FALSE(frmMain.mnuUndo.Enabled());
+  EXPECT_FALSE(frmMain.mnuEditCopy.Enabled()) << "there is nothing to copy";
   EXPECT_FALSE(frmMain.mnuFileSaveAs.Enabled());
   EXPECT_EQ(frmMain.lblGraphicFName.Caption(), "");
   EXPECT_EQ(frmMain.lblGraphicX.Caption(), "");

@@ -7,6 +7,7 @@
 #include <limits>
 
 #include "document/document_support.h"
+#include "document/selection_state.h"
 #include "platform/picture.h"
 
 namespace tagwright {
@@ -41,6 +42,12 @@ class ProjectFileTest : public LabelTest {
     WriteFile(folder.File("in.twp"), bytes);
     LoadProject(folder.File("in.twp"));
     DeleteFile(folder.File("in.twp"));
+  }
+
+  // As a text that is being edited.
+  static void ShowByItsHold(int index) {
+    HoldAt(index).SetCaption(ObjectAt(index).Text.Trimmed());
+    HoldAt(index).SetAutoSize(true);
   }
 
   static ObjectRecord SerialTrailer() {
@@ -478,6 +485,44 @@ TEST_F(ProjectFileTest, LoadingEndsTheSelection) {
   EXPECT_EQ(SelectedObject, -1);
   EXPECT_EQ(SelectedUpper, -1);
   EXPECT_FALSE(frmMain.lblHandle(0).Visible());
+}
+
+// The hit area lies beyond the last record then, where no redraw comes.
+TEST_F(ProjectFileTest, LoadingEndsTheTextThatWasEditedByItsHitArea) {
+  for (const char* text : {"a", "b", "being edited"}) Add(TextObject(text));
+  SelectedObject = 2;
+  ShowByItsHold(2);
+  Load(Bytes({TextObject("d")}));
+  EXPECT_EQ(HoldAt(2).Caption(), "");
+  EXPECT_FALSE(HoldAt(2).AutoSize());
+}
+
+TEST_F(ProjectFileTest, LoadingEndsTheTextThatHasJoinedAGroup) {
+  for (const char* text : {"a", "b", "edited before"}) Add(TextObject(text));
+  SelectedList[0] = 2;
+  SelectedList[1] = 0;
+  SelectedUpper = 1;
+  ShowByItsHold(2);
+  Load(Bytes({TextObject("d")}));
+  EXPECT_EQ(HoldAt(2).Caption(), "");
+}
+
+TEST_F(ProjectFileTest, LoadingDisablesTheSelectionsCommandsAndEmptiesItsStatus) {
+  Add(TextObject("a"));
+  SelectedObject = 0;
+  EnableSelectionCommands(true);
+  frmMain.sB1.SetPanelText(1, "X: 1.0");
+  frmMain.sB1.SetPanelText(2, "Width: 10.0 Height: 5.0");
+  frmMain.sB1.SetPanelText(3, "Objects Selected: 1");
+  Load(Bytes({TextObject("b")}));
+  for (const Menu* entry :
+       {&frmMain.mnuEditCopy, &frmMain.mnuEditCut, &frmMain.mnuArrAlign, &frmMain.mnuArrSize,
+        &frmMain.mnuAHoriz, &frmMain.mnuArrangeBTF, &frmMain.mnuArrangeSTB}) {
+    EXPECT_FALSE(entry->Enabled()) << entry->Name();
+  }
+  EXPECT_EQ(frmMain.sB1.PanelText(2), "");
+  EXPECT_EQ(frmMain.sB1.PanelText(3), "");
+  EXPECT_EQ(frmMain.sB1.PanelText(1), "X: 1.0") << "the pointer's";
 }
 
 // --- data source --------------------------------------------------------------------------------

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "document/document_support.h"
+#include "document/selection_state.h"
 #include "editing/drag.h"
 #include "editing/keys.h"
 #include "editing/magnetic_rule.h"

@@ -1,0 +1,50 @@
+#include "document/selection_state.h"
+
+#include "document/objects.h"
+#include "document/redraw.h"
+#include "forms/frmMain.h"
+
+namespace tagwright {
+namespace {
+
+// All of them: a text that has joined a group shows by its hit area until the next redraw, also
+// after the group is gone, and what lies beyond the last record is not redrawn at all.
+void EndMeasuringEverywhere() {
+  for (const auto& [index, hold] : frmMain.lblHold) EndMeasuring(*hold);
+}
+
+void EmptyStatus() {
+  frmMain.sB1.SetPanelText(2, "");
+  frmMain.sB1.SetPanelText(3, "");
+}
+
+}  // namespace
+
+void EnableSelectionCommands(bool group) {
+  for (Menu* entry : {&frmMain.mnuEditCopy, &frmMain.mnuEditCut, &frmMain.mnuAHoriz,
+                      &frmMain.mnuArrangeBTF, &frmMain.mnuArrangeSTB}) {
+    entry->SetEnabled(true);
+  }
+  frmMain.mnuArrAlign.SetEnabled(group);
+  frmMain.mnuArrSize.SetEnabled(group);
+}
+
+void DisableSelectionCommands() {
+  for (Menu* entry :
+       {&frmMain.mnuEditCopy, &frmMain.mnuEditCut, &frmMain.mnuArrAlign, &frmMain.mnuArrSize,
+        &frmMain.mnuAHoriz, &frmMain.mnuArrangeBTF, &frmMain.mnuArrangeSTB}) {
+    entry->SetEnabled(false);
+  }
+}
+
+void DropSelection() {
+  DisableSelectionCommands();
+  EndMeasuringEverywhere();
+  SelectedUpper = -1;
+  SelectedObject = -1;
+  HideHandles();
+  ShowNoPlace();
+  EmptyStatus();
+}
+
+}  // namespace tagwright

@@ -1,0 +1,17 @@
+// What both the project commands and the selection's own routines (editing/selection.h) need of it.
+// The state itself stands in document/objects.h.
+#pragma once
+
+namespace tagwright {
+
+// The commands that need a selection: copy, cut, centring and stacking; for `group` also aligning
+// and sizing, which are disabled for a single object.
+void EnableSelectionCommands(bool group);
+void DisableSelectionCommands();
+
+// Nothing selected, whatever keys are held and without a look at the records, which may be others
+// by now: state, commands, frame, handles, txtDSize and panels 2 and 3 of sB1. No hit area shows a
+// text any more; the board is not redrawn.
+void DropSelection();
+
+}  // namespace tagwright
