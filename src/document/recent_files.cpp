@@ -19,7 +19,7 @@ std::string& Slot(int index) { return RecentFiles.at(static_cast<std::size_t>(in
 // The slot that holds `path`, -1 none.
 int FindRecent(const std::string& path) {
   for (int i = 0; i <= RecentUB; ++i) {
-    if (EqualIgnoringCase(Slot(i), path)) return i;
+    if (EqualPaths(Slot(i), path)) return i;
   }
   return -1;
 }

@@ -60,7 +60,7 @@ std::string EntryNamed(const std::string& folder, const std::string& name, bool 
   if (fits(name)) return name;
   std::string best;
   for (const std::string& entry : Entries(folder.empty() ? "." : folder)) {
-    if (!EqualIgnoringCase(entry, name) || !fits(entry)) continue;
+    if (!EqualPaths(entry, name) || !fits(entry)) continue;
     if (best.empty() || entry < best) best = entry;
   }
   return best;
@@ -121,6 +121,10 @@ void RequireRegular(const Descriptor& file) {
 }
 
 }  // namespace
+
+bool EqualPaths(std::string_view a, std::string_view b) {
+  return EqualIgnoringCase(a, b) || LowerCase(a) == LowerCase(b);
+}
 
 std::string ResolvePath(std::string_view path) {
   std::string whole = WithSystemSeparators(path);

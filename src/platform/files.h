@@ -8,6 +8,10 @@
 
 namespace tagwright {
 
+// Whether two names or paths are equal when case is ignored, whichever way it is folded: a few
+// letters, such as the sign for kelvin, have a lower case whose upper case is another letter.
+bool EqualPaths(std::string_view a, std::string_view b);
+
 // The existing file or folder that `path` means: the exact name, or the first one (in code point
 // order) that differs only in case, component by component. `path` itself when there is none,
 // with as many leading components resolved as exist. The result uses the system's separator.

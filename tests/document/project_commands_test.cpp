@@ -177,6 +177,19 @@ TEST_F(ProjectCommandsTest, RecentEntryOpensItsLowerCaseCaptionWithoutAnyQuestio
             1);
 }
 
+TEST_F(ProjectCommandsTest, RecentEntryOpensCapitalsThatDoNotComeBackFromTheirLowerCase) {
+  for (const char* letter : {"\u0130", "\u03F4", "\u1E9E", "\u2126", "\u212A", "\u212B"}) {
+    ResetDocumentState();
+    Add(TextObject("saved"));
+    ProjectPath = folder.File(std::string("Label ") + letter + ".twp");
+    SaveProject(kFalse);
+    mnuFileNew_Click();
+    mnuFileOld_Click(0);
+    EXPECT_EQ(ObjectUB, 0) << letter;
+    EXPECT_EQ(RecentUB, 0) << letter << " is the same file";
+  }
+}
+
 TEST_F(ProjectCommandsTest, RecentEntryWhoseFileIsGoneDoesNothing) {
   SaveOne();
   DeleteFile(Path());

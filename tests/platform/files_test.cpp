@@ -7,6 +7,7 @@
 #include <fstream>
 
 #include "platform/desktop.h"
+#include "platform/text.h"
 #include "support/fault_of.h"
 #include "support/test_support.h"
 
@@ -38,6 +39,14 @@ TEST_F(FilesTest, OtherwiseTheFirstThatDiffersOnlyInCase) {
   Make("LABEL.twp");
   Make("Label.twp");
   EXPECT_EQ(ResolvePath(folder.File("label.TWP")), folder.File("LABEL.twp"));
+}
+
+TEST_F(FilesTest, ALowerCaseNameMeansItsCapitalsAlsoWhereThoseDoNotComeBack) {
+  for (const char* letter : {"\u0130", "\u03F4", "\u1E9E", "\u2126", "\u212A", "\u212B"}) {
+    const std::string name = std::string("Labels ") + letter + "/Label " + letter + ".twp";
+    Make(name);
+    EXPECT_EQ(ResolvePath(folder.File(LowerCase(name))), folder.File(name)) << letter;
+  }
 }
 
 TEST_F(FilesTest, EveryComponentIsResolved) {
