@@ -317,6 +317,14 @@ TEST_F(ObjectTextTest, ColumnsOutsideTheSlotsPrintNothing) {
   }
 }
 
+// The column fails before it can lead on to that of another object.
+TEST_F(ObjectTextTest, CurrencyOfAColumnOutsideTheSlotsPrintsNothing) {
+  FieldValues[4] = "x";
+  for (int i = 0; i <= 101; ++i) Add(Field(4, 0));
+  Paint(Field(101, 1));
+  EXPECT_EQ(page_.Texts(), Lines{});
+}
+
 TEST_F(ObjectTextTest, ValuePrintsOncePerLineOfItsText) {
   FieldValues[3] = "v";
   Paint(Field(3, 0, "a\r\nb"));

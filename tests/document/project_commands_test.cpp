@@ -144,6 +144,16 @@ TEST_F(ProjectCommandsTest, CancelledOpenDialogEndsSilentlyWithNothingChanged) {
   EXPECT_TRUE(dialogs.messages.empty());
 }
 
+TEST_F(ProjectCommandsTest, CancelledOpenDialogLeavesTheChangesUnsaved) {
+  SaveOne();
+  DirtyFlag = kTrue;
+  dialogs.answers = {Answer::kNo};
+  mnuFileOpen_Click();
+  EXPECT_EQ(dialogs.requests.size(), 1u);
+  EXPECT_EQ(DirtyFlag, kTrue);
+  EXPECT_EQ(ProjectPath, Path());
+}
+
 TEST_F(ProjectCommandsTest, SaveUsesTheOpenNameAndSaveAsAlwaysAsks) {
   SaveOne();
   mnuFileSave_Click();

@@ -541,6 +541,8 @@ TEST_F(ProjectFileTest, MissingDataFileAsksAndNoLeavesAnEmptyDocumentUnderTheNew
   EXPECT_EQ(ObjectUB, -1);
   EXPECT_EQ(ProjectPath, path);
   EXPECT_EQ(frmMain.Caption(), "Tagwright Designer Gold [in.twp]");
+  EXPECT_EQ(RecentFiles[0], path) << "before the question";
+  EXPECT_EQ(frmMain.cboLabelLayout.ListIndex(), 2) << "likewise";
   EXPECT_EQ(frmMain.lblFileName.Caption(), "");
   EXPECT_EQ(SerialPrefix, "");
   EXPECT_EQ(RedrawCount, 0);

@@ -636,6 +636,18 @@ TEST_F(RedrawTest, PrintLeavesHitAreasAndRulersAloneAndDropsTheSkipMark) {
   EXPECT_EQ(RedrawSkip, -1);
 }
 
+TEST_F(RedrawTest, PrintShowsTheSelectionAndEndsMeasuringAlsoOffTheLabel) {
+  Add(ShapeObject(kRectangle, 10, 5, 30, 20));
+  Add(TextObject("Abc", -50, 0));
+  HoldAt(1).SetCaption("Abc");
+  HoldAt(1).SetAutoSize(true);
+  SelectedObject = 0;
+  PageAfter(0, 0);
+  EXPECT_TRUE(frmMain.lblHandle(0).Visible());
+  EXPECT_EQ(HoldAt(1).Caption(), "");
+  EXPECT_FALSE(HoldAt(1).AutoSize());
+}
+
 struct EdgeRow {
   float left, top;
   bool printed;

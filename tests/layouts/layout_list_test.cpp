@@ -160,6 +160,17 @@ TEST_F(LayoutListTest, TheBoardIsRedrawn) {
   EXPECT_EQ(RedrawCount, before + 2) << "choosing the same layout again";
 }
 
+TEST_F(LayoutListTest, TheBoardIsRedrawnWithTheNewSize) {
+  constexpr double kPixelsPerMillimetre = 96 / 25.4;
+  FillLayoutList();
+  ReadyBoard(300, 200);
+  list.SetListIndex(13);
+  const auto shapes = Board().Of(Painted::What::kShape);
+  ASSERT_EQ(shapes.size(), 1u);
+  EXPECT_NEAR(shapes[0].x2 - shapes[0].x1, 44.45 * kPixelsPerMillimetre, 1e-4);
+  EXPECT_NEAR(shapes[0].y2 - shapes[0].y1, 12.7 * kPixelsPerMillimetre, 1e-4);
+}
+
 TEST_F(LayoutListTest, WithoutAChoiceNothingChanges) {
   LabelWidth = 5;
   const Texts before = Boxes();
