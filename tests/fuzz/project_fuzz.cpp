@@ -8,17 +8,13 @@
 #include <string>
 #include <string_view>
 
-#include "common/prog_settings.h"
 #include "document/objects.h"
 #include "document/project_file.h"
-#include "document/redraw.h"
-#include "forms/frmMain.h"
+#include "platform/desktop.h"
 #include "platform/event.h"
 #include "platform/fault.h"
 #include "platform/files.h"
-#include "platform/recorder.h"
-#include "platform/scale.h"
-#include "platform/windows.h"
+#include "shell/startup.h"
 
 namespace tagwright {
 namespace {
@@ -34,22 +30,11 @@ const std::string& Folder() {
   return folder;
 }
 
-void StartProgram() {
-  UnloadAll();
-  ResetDocumentState();
-  ProgSettings = {};
-  AppFolder = Folder() + "/";
-  Load(frmMain);
-  frmMain.cboLabelLayout.AddItem("a");
-  for (const char* kind : {"database", "comma", "tab"}) frmMain.cboImportType.AddItem(kind);
-  frmMain.picBoard.SetWidth(300 * kTwipsPerMillimetre);
-  frmMain.picBoard.SetHeight(200 * kTwipsPerMillimetre);
-  frmMain.picBoard.SetScaleWidth(300);
-  frmMain.picBoard.SetScaleHeight(200);
-  LabelWidth = 100;
-  LabelHeight = 50;
-  DrawTarget = &frmMain.picBoard.Canvas();
-  BoardReady = -1;
+// The whole program, so that what its controls do while a project loads is tried as well.
+void StartAnew() {
+  SetExecutableFolder(Folder());
+  StartProgram();
+  if (BoardReady == 0) std::abort();
 }
 
 void CheckBound() {
@@ -71,7 +56,7 @@ void OpenAndSave(std::string_view bytes) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   tagwright::SetFaultReporter([](const tagwright::Fault&) { std::abort(); });
-  tagwright::StartProgram();
+  tagwright::StartAnew();
   tagwright::OpenAndSave({reinterpret_cast<const char*>(data), size});
   return 0;
 }
