@@ -17,6 +17,12 @@ namespace {
 
 // --- records ------------------------------------------------------------------------------------
 
+// What the status bar says is of the label before.
+void EmptySelectionStatus() {
+  frmMain.sB1.SetPanelText(2, "");
+  frmMain.sB1.SetPanelText(3, "");
+}
+
 // Only the file's length tells how many records there are; a remainder counts from half a record.
 void RecreateObjects(const std::string& path) {
   CarryOn([&] {
@@ -196,6 +202,7 @@ void LoadProject(const std::string& Path) {
   frmMain.SetCaption(ProductTitle + " [" + FileBaseName(path) + "]");
   ProjectPath = path;
   DropSelection();
+  EmptySelectionStatus();
   RecreateObjects(path);
   AddRecentFile(path);
   ReadRecords(path);

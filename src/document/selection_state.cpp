@@ -13,11 +13,6 @@ void EndMeasuringEverywhere() {
   for (const auto& [index, hold] : frmMain.lblHold) EndMeasuring(*hold);
 }
 
-void EmptyStatus() {
-  frmMain.sB1.SetPanelText(2, "");
-  frmMain.sB1.SetPanelText(3, "");
-}
-
 }  // namespace
 
 void EnableSelectionCommands(bool group) {
@@ -44,7 +39,6 @@ void DropSelection() {
   SelectedObject = -1;
   HideHandles();
   ShowNoPlace();
-  EmptyStatus();
 }
 
 }  // namespace tagwright

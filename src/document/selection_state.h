@@ -10,8 +10,8 @@ void EnableSelectionCommands(bool group);
 void DisableSelectionCommands();
 
 // Nothing selected, whatever keys are held and without a look at the records, which may be others
-// by now: state, commands, frame, handles, txtDSize and panels 2 and 3 of sB1. No hit area shows a
-// text any more; the board is not redrawn.
+// by now: state, commands, frame, handles and txtDSize. No hit area shows a text any more; the
+// board is not redrawn.
 void DropSelection();
 
 }  // namespace tagwright
