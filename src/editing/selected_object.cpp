@@ -29,4 +29,9 @@ float ToSingle(double value) {
   return static_cast<float>(value);
 }
 
+double ToFinite(double value) {
+  if (!std::isfinite(value)) RaiseFault(kOverflow);
+  return value;
+}
+
 }  // namespace tagwright

@@ -22,4 +22,7 @@ bool IsMeasured(std::int16_t kind);
 // A number of a control as a record's Left or Top holds it. Faults 6 beyond that type.
 float ToSingle(double value);
 
+// The same for Width and Height, where an overflow has already made the number infinite.
+double ToFinite(double value);
+
 }  // namespace tagwright

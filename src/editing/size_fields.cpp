@@ -47,8 +47,8 @@ bool KeepsItsSize(const ObjectRecord& record) {
 void TakeSize() {
   ObjectRecord& record = SelectedRecord();
   if (KeepsItsSize(record)) return;
-  record.Width = Entered(kWidth);
-  record.Height = Entered(kHeight);
+  CarryOn([&] { record.Width = ToFinite(Entered(kWidth)); });
+  CarryOn([&] { record.Height = ToFinite(Entered(kHeight)); });
 }
 
 }  // namespace

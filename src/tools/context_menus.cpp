@@ -54,7 +54,18 @@ double Quotient(double value, double divisor) {
   return value / divisor;
 }
 
-// A length in millimetres; nothing for an answer that is no number.
+void AdjustHeight() {
+  ObjectRecord& record = SelectedRecord();
+  record.Height = ToFinite(Quotient(record.Width, PictureX()) * PictureY());
+}
+
+void AdjustWidth() {
+  ObjectRecord& record = SelectedRecord();
+  record.Width = ToFinite(Quotient(record.Height, PictureY()) * PictureX());
+}
+
+// A length in millimetres, infinite for one beyond a double; nothing for an answer that is no
+// number.
 std::optional<double> AskForLength(const std::string& side) {
   const std::string unit = RulerScale == 1.0 ? "mm" : "in";
   const std::string answer =
@@ -77,25 +88,23 @@ void mnuShpAspect_Click(int Index) {
 }
 
 void mnuGraphicHeight_Click() {
-  CarryOn(
-      [] { SelectedRecord().Height = Quotient(SelectedRecord().Width, PictureX()) * PictureY(); });
+  CarryOn(AdjustHeight);
   RedrawBoard();
 }
 
 void mnuGraphicWidth_Click() {
-  CarryOn(
-      [] { SelectedRecord().Width = Quotient(SelectedRecord().Height, PictureY()) * PictureX(); });
+  CarryOn(AdjustWidth);
   RedrawBoard();
 }
 
 void mnuBCSetWid_Click() {
   const std::optional<double> width = AskForLength("width");
-  if (width) CarryOn([&] { SelectedRecord().Width = *width; });
+  if (width) CarryOn([&] { SelectedRecord().Width = ToFinite(*width); });
 }
 
 void mnuBCSetHgt_Click() {
   const std::optional<double> height = AskForLength("height");
-  if (height) CarryOn([&] { SelectedRecord().Height = *height; });
+  if (height) CarryOn([&] { SelectedRecord().Height = ToFinite(*height); });
 }
 
 void mnuBCSetChars_Click() {

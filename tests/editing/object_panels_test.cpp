@@ -846,6 +846,22 @@ TEST_F(ObjectPanelsTest, AnOverflowingPlaceKeepsTheOldOne) {
   ExpectRecord(0, 10, 10, 20, 10);
 }
 
+// Each side by itself, as the places are.
+TEST_F(ObjectPanelsTest, AnOverflowingSideKeepsTheOldOne) {
+  UnitScale = 25.4;
+  for (const int overflowing : {2, 3}) {
+    ObjectUB = -1;
+    SelectObject(PutBox(10, 10));
+    ShowSizeFields();
+    frmMain.txtDSize(0).UserFocus();
+    frmMain.txtDSize(5 - overflowing).SetText("2");
+    frmMain.txtDSize(overflowing).SetText("1e308");
+    frmMain.cboZoom.UserFocus();
+    EXPECT_NEAR(Object().Width, overflowing == 2 ? 20 : 50.8, 1e-9);
+    EXPECT_NEAR(Object().Height, overflowing == 3 ? 10 : 50.8, 1e-9);
+  }
+}
+
 TEST_F(ObjectPanelsTest, TextsAndFieldsMoveTheirHitArea) {
   PutTextOf("Hello", 12);
   SelectByMouse(0);

@@ -73,6 +73,20 @@ TEST_F(ContextMenusTest, WithoutNumbersThePictureStaysAndIsRedrawn) {
   EXPECT_EQ(RedrawCount, 6);
 }
 
+TEST_F(ContextMenusTest, AnOverflowingSideKeepsTheOldOne) {
+  Object().Width = 1e308;
+  frmMain.lblGraphicX.SetCaption("1");
+  frmMain.lblGraphicY.SetCaption("400");
+  frmMain.mnuGraphicHeight.Press();
+  EXPECT_EQ(Object().Height, 20);
+  Object().Height = 1e308;
+  Object().Width = 30;
+  frmMain.lblGraphicX.SetCaption("400");
+  frmMain.lblGraphicY.SetCaption("1");
+  frmMain.mnuGraphicWidth.Press();
+  EXPECT_EQ(Object().Width, 30);
+}
+
 // --- fields shown as barcodes -------------------------------------------------------------------
 
 TEST_F(ContextMenusTest, TheSizeOfABarcodeIsAskedForInTheUsersUnit) {
@@ -107,6 +121,16 @@ TEST_F(ContextMenusTest, AnAnswerThatIsNoNumberChangesNothing) {
     EXPECT_EQ(Object().Width, 30) << answer;
     EXPECT_EQ(Object().Height, 20) << answer;
   }
+}
+
+TEST_F(ContextMenusTest, AnOverflowingAnswerKeepsTheOldSize) {
+  UnitScale = 25.4;
+  dialogs.inputs = {"1e308", "-1e308"};
+  frmMain.mnuBCSetWid.Press();
+  frmMain.mnuBCSetHgt.Press();
+  EXPECT_EQ(Object().Width, 30);
+  EXPECT_EQ(Object().Height, 20);
+  EXPECT_TRUE(faults.empty());
 }
 
 TEST_F(ContextMenusTest, PrintCharactersTogglesItalic) {
