@@ -80,10 +80,6 @@ void DesignBoard(FrmMain& f) {
     handle->SetBorderStyle(1);
     handle->SetVisible(false);
   }
-  f.lblHandle(0).SetMousePointer(8);
-  f.lblHandle(1).SetMousePointer(6);
-  f.lblHandle(2).SetMousePointer(6);
-  f.lblHandle(3).SetMousePointer(8);
   f.shpBox.SetBorderColor(kAccent);
   f.shpBox.SetBorderStyle(kDots);
   f.shpLine.SetBorderColor(kAccent);

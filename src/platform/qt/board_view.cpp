@@ -218,7 +218,6 @@ void BoardView::Changed(const Control& control, Aspect aspect) {
     FollowFocus(*control.ParentForm());
   } else if (&control != box_) {
     Touch(control);
-    if (aspect == Aspect::kLook) ShowPointer(nullptr);
   } else if (aspect == Aspect::kGeometry) {
     Place();
   } else if (aspect == Aspect::kVisible) {
@@ -307,16 +306,6 @@ bool BoardView::event(QEvent* event) {
   return QWidget::event(event);
 }
 
-void BoardView::ShowPointer(const Control* over) {
-  if (!over) {
-    const QPointF at = mapFromGlobal(QCursor::pos());
-    over = box_->ChildAt(at.x() * kTwipsPerPixel, at.y() * kTwipsPerPixel);
-  }
-  const Control* pointing = over && over->MousePointer() != 0 ? over : box_;
-  if (pointing->MousePointer() == 0) return unsetCursor();  // then the window's shows
-  setCursor(PointerOf(*pointing, devicePixelRatioF()));
-}
-
 // --- the user -----------------------------------------------------------------------------------
 
 void BoardView::mousePressEvent(QMouseEvent* event) {
@@ -331,8 +320,6 @@ void BoardView::mouseMoveEvent(QMouseEvent* event) {
   if (event->buttons() == Qt::NoButton) UserButtonsUp();
   box_->UserMouseMove(ButtonCodes(event->buttons()), ShiftCode(event->modifiers()), PointX(*event),
                       PointY(*event));
-  const Control* captured = box_->Captured();
-  ShowPointer(captured ? captured : box_->ChildAt(PointX(*event), PointY(*event)));
 }
 
 void BoardView::mouseReleaseEvent(QMouseEvent* event) {

@@ -35,7 +35,6 @@ class BoardView : public QWidget, public ControlView {
  private:
   void Place();
   void Touch(const Control& child);
-  void ShowPointer(const Control* over);
   void FollowScreen();
   void SpeakSoon();
   void Speak();

@@ -176,15 +176,28 @@ TEST_F(BoardViewTest, APressOnTheBoardTakesTheKeyboardFromAField) {
   QTest::mouseRelease(Screen(), Qt::LeftButton, Qt::NoModifier, At(300, 300));
 }
 
-TEST_F(BoardViewTest, ThePointerIsThatOfTheHandleUnderIt) {
+// Over a handle it is the window's too, which may be that of an armed tool.
+TEST_F(BoardViewTest, ThePointerIsTheWindowsEverywhere) {
   Label& handle = frmMain.lblHandle(1);
   handle.Move(200, 200, 20, 20);
   handle.SetVisible(true);
-  QTest::mouseMove(Screen(), At(205, 205));
-  EXPECT_EQ(Board().cursor().shape(), Qt::SizeBDiagCursor);
-  frmMain.SetMousePointer(2);
-  QTest::mouseMove(Screen(), At(300, 300));
-  EXPECT_EQ(Board().cursor().shape(), Qt::CrossCursor);
+  int over_handle = 0;
+  frmMain.lblHandle.Events().MouseMove = [&](int, int, int, double, double) {
+    frmMain.SetMousePointer(over_handle);
+  };
+  frmMain.picBoard.Events().MouseMove = [](int, int, double, double) {
+    frmMain.SetMousePointer(2);
+  };
+  frmMain.SetMouseIcon("pointer-zoom-in");
+  const std::pair<int, Qt::CursorShape> rows[] = {
+      {6, Qt::SizeBDiagCursor}, {8, Qt::SizeFDiagCursor}, {99, Qt::BitmapCursor}};
+  for (const auto& [pointer, shape] : rows) {
+    over_handle = pointer;
+    QTest::mouseMove(Screen(), At(205, 205));
+    EXPECT_EQ(Board().cursor().shape(), shape) << pointer;
+    QTest::mouseMove(Screen(), At(300, 300));
+    EXPECT_EQ(Board().cursor().shape(), Qt::CrossCursor) << pointer;
+  }
 }
 
 TEST_F(BoardViewTest, AMessageInsideAPressDoesNotLeaveItHanging) {
