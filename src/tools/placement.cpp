@@ -356,11 +356,16 @@ void ShowNewObject() {
 
 bool IsZoomTool() { return CurrentTool == kZoomIn || CurrentTool == kZoomOut; }
 
+struct Selection {
+  std::int16_t object, upper;
+};
+
 // A zoom has appended a record like any gesture: it goes again, and what was selected before is
 // selected still. Left behind the last record, the selection would have the next Delete take that.
-void DropNewRecord(std::int16_t selected_before) {
+void DropNewRecord(const Selection& before) {
   --ObjectUB;
-  SelectedObject = selected_before;
+  SelectedObject = before.object;
+  SelectedUpper = before.upper;
 }
 
 void FitSelectedText() {
@@ -368,16 +373,16 @@ void FitSelectedText() {
   Traced([] { SelectedHold().SetFontSize(SelectedRecord().FontSize * ZoomFactor); });
 }
 
-void Zoom(std::int16_t selected_before) {
-  DropNewRecord(selected_before);
+void Zoom(const Selection& before) {
+  DropNewRecord(before);
   FitSelectedText();
   TinyBox ? ZoomAtAnchor() : ZoomToBox();
 }
 
 void CompleteGesture() {
-  const std::int16_t selected_before = SelectedObject;
+  const Selection before{SelectedObject, SelectedUpper};
   if (!Traced(AppendObject)) return;
-  if (IsZoomTool()) return Zoom(selected_before);
+  if (IsZoomTool()) return Zoom(before);
   if (FillRecord()) ShowNewObject();
 }
 

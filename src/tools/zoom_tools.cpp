@@ -49,6 +49,7 @@ void ShowZoomed() {
   SuspendRedraw = kFalse;
   frmMain.shpBox.SetVisible(SelectedObject > -1);
   RedrawBoard();
+  CarryOn(ShowGroupBox);
   if (CurrentTool == kNoTool) return;
   CursorShape = kCustomPointer;
   frmMain.SetMousePointer(kCustomPointer);

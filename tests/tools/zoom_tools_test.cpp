@@ -128,6 +128,26 @@ TEST_F(ZoomToolsTest, AClickOverAnObjectKeepsItSelected) {
   ExpectArmed(kZoomIn);
 }
 
+// By a click and by a box, each begun beside the objects.
+TEST_F(ZoomToolsTest, AGroupThatCameDuringTheGestureIsSelectedStill) {
+  PutBox(10, 10);
+  PutBox(40, 10);
+  for (const double width : {0.0, 59.9}) {
+    ArmZoomIn();
+    const double x = BoardOriginX + 5, y = BoardOriginY + 5;
+    Press(x, y);
+    frmMain.mnuEditSelectAll.Press();
+    MoveTo(x + width, y + width / 3);
+    Release(x + width, y + width / 3);
+    EXPECT_EQ(SelectedObject, -1) << width;
+    EXPECT_EQ(GroupMembers(), (std::vector<std::int16_t>{0, 1})) << width;
+    EXPECT_TRUE(frmMain.shpBox.Visible()) << width;
+    ExpectFrame(BoardOriginX + 10, BoardOriginY + 10, 50, 10);
+    EXPECT_EQ(HandlesShown(), "") << width;
+    ExpectArmed(kZoomIn);
+  }
+}
+
 // Left past the last record the selection would have Delete take that one.
 TEST_F(ZoomToolsTest, AfterAZoomTheSelectionIsNotTheDroppedRecord) {
   PutBox(10, 10, 40, 30);
