@@ -307,6 +307,28 @@ TEST_F(DragTest, DraggedOnlyDownwardATextKeepsItsSize) {
   EXPECT_EQ(ObjectAt(0).FontSize, 20);
 }
 
+// What it began with is remembered in whole units, so a width that is not whole counts as a change:
+// 10.6 of 11 are less, while 10.4 of 10 are not a point more.
+TEST_F(DragTest, DraggedOnlyDownwardOrNotAtAllATextOfABrokenWidthMayLoseAPoint) {
+  const struct {
+    double width, dy, size;
+  } rows[] = {{10.6, 25, 11}, {10.6, 0, 11}, {10.4, 25, 12}, {10.4, 0, 12}};
+  for (const auto& row : rows) {
+    ObjectUB = -1;
+    ObjectRecord text = TextObject("Abcd", 10, 10);
+    text.FontSize = 12;
+    text.Width = row.width;
+    text.Height = 8;
+    SelectObject(Put(text));
+    const Label& handle = frmMain.lblHandle(3);
+    const double x = handle.Left() + 0.5, y = handle.Top() + 0.5;
+    Press(x, y);
+    if (row.dy > 0) MoveTo(x, y + row.dy);
+    Release(x, y + row.dy);
+    EXPECT_EQ(ObjectAt(0).FontSize, row.size) << row.width << " " << row.dy;
+  }
+}
+
 TEST_F(DragTest, AVerySmallTextHasOnePoint) {
   ObjectRecord text = TextObject("Abcd", 10, 10);
   text.FontSize = 20;

@@ -862,17 +862,29 @@ TEST_F(ObjectPanelsTest, AnOverflowingSideKeepsTheOldOne) {
   }
 }
 
+// Those of other kinds wait for the redraw.
 TEST_F(ObjectPanelsTest, TextsAndFieldsMoveTheirHitArea) {
-  PutTextOf("Hello", 12);
-  SelectByMouse(0);
-  frmMain.txtDSize(0).UserFocus();
-  frmMain.txtDSize(0).SetText("33");
-  frmMain.txtDSize(1).SetText("11");
-  SuspendRedraw = kTrue;
-  frmMain.cboZoom.UserFocus();
-  EXPECT_NEAR(HoldAt(0).Left(), 133, 1e-4);
-  EXPECT_NEAR(HoldAt(0).Top(), 86, 1e-4);
-  EXPECT_NEAR(frmMain.shpBox.Left(), 133, 1e-4);
+  for (const Kind kind : {kText, kDataField, kRectangle}) {
+    ObjectUB = -1;
+    PutTextOf("Hello", 12);
+    Object().ObjType = kind;
+    SelectByMouse(0);
+    frmMain.txtDSize(0).UserFocus();
+    frmMain.txtDSize(0).SetText("33");
+    frmMain.txtDSize(1).SetText("11");
+    SuspendRedraw = kTrue;
+    frmMain.cboZoom.UserFocus();
+    SuspendRedraw = kFalse;
+    const double left = kind == kRectangle ? 120 : 133;
+    const double top = kind == kRectangle ? 95 : 86;
+    EXPECT_NEAR(HoldAt(0).Left(), left, 1e-4) << kind;
+    EXPECT_NEAR(HoldAt(0).Top(), top, 1e-4) << kind;
+    EXPECT_NEAR(frmMain.shpBox.Left(), left, 1e-4) << kind;
+    const Label& handle = frmMain.lblHandle(0);
+    EXPECT_NEAR(handle.Left() + handle.Width(), left - 1, 1e-4) << kind;
+    EXPECT_NEAR(handle.Top() + handle.Height(), top - 1, 1e-4) << kind;
+    DeselectObject();
+  }
 }
 
 TEST_F(ObjectPanelsTest, AWidthTypedForATextLastsUntilItsTextChanges) {

@@ -629,6 +629,14 @@ TEST_F(HoldMouseTest, AMoveThereAndBackIsNone) {
   ExpectRecord(0, 10, 10, 20, 10);
 }
 
+TEST_F(HoldMouseTest, ATextThatWasClickedNoLongerGrows) {
+  PutText("Abc");
+  Press(115, 90);
+  EXPECT_TRUE(frmMain.lblHold(0).AutoSize());
+  Release(115, 90);
+  EXPECT_FALSE(frmMain.lblHold(0).AutoSize());
+}
+
 TEST_F(HoldMouseTest, ATextThatWasMovedIsNotPaintedAnew) {
   PutText("Abc");
   Press(115, 90);
@@ -745,6 +753,20 @@ TEST_F(HoldMouseTest, AGroupMovesByItsFrame) {
   EXPECT_EQ(HandlesShown(), "");
   EXPECT_EQ(RedrawSkip, -1);
   EXPECT_EQ(GroupMembers(), (Members{0, 1}));
+}
+
+// Without a move in between nothing else has put it back.
+TEST_F(HoldMouseTest, TheReleaseOfAGroupPutsThePointerBack) {
+  PutBox(10, 10);
+  PutBox(40, 20);
+  SelectGroup({0, 1});
+  for (const std::int16_t pointer : {0, 2}) {
+    Press(150, 100);
+    EXPECT_EQ(frmMain.MousePointer(), 5);
+    CursorShape = pointer;
+    Release(150, 100);
+    EXPECT_EQ(frmMain.MousePointer(), pointer);
+  }
 }
 
 TEST_F(HoldMouseTest, AfterAGroupsMoveTheHandlesWaitOneUnitAwayFromItsFrame) {

@@ -702,6 +702,16 @@ TEST_F(PlacementTest, ALineOverAnObjectToo) {
   ExpectRecord(1, 20, 20, 25, 0.1);
 }
 
+// What lies under the press is selected by then, and takes the weight that the line is given.
+TEST_F(PlacementTest, ALineOverARectangleWithoutAPenGivesThatOneAnOutline) {
+  PutBox(10, 10, 40, 30);
+  ObjectAt(0).Param = 0;
+  frmMain.cboWeight.SetListIndex(0);
+  frmMain.cmdLine.Press();
+  Press(BoardOriginX + 20, BoardOriginY + 20);
+  EXPECT_EQ(ObjectAt(0).Param, 1);
+}
+
 TEST_F(PlacementTest, ATextOverAnObjectToo) {
   PutBox(10, 10, 40, 30);
   frmMain.cmdTools(3).Press();
