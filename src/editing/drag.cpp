@@ -185,7 +185,7 @@ bool SizedByFont(const ObjectRecord& object) {
 void ScaleFont(ObjectRecord& object) {
   double ratio = 0;
   CarryOn([&] { ratio = WidthRatio(frmMain.shpBox.Width(), StartWidth); });
-  object.FontSize = ScaledFontSize(ratio, object.FontSize);
+  CarryOn([&] { object.FontSize = ScaledFontSize(ratio, object.FontSize); });
 }
 
 void MeasureText(Label& hold, const ObjectRecord& object) {
@@ -212,12 +212,17 @@ void ResizeText(ObjectRecord& object) {
   ShowHandles(hold);
 }
 
+void TakeSizeOfFrame(ObjectRecord& object) {
+  CarryOn([&] { object.Width = ToFinite(frmMain.shpBox.Width()); });
+  if (SizedByFont(object)) return;
+  CarryOn([&] { object.Height = ToFinite(frmMain.shpBox.Height()); });
+}
+
 void DropHandle() {
   SnapFrame();
   ObjectRecord& object = ObjectAt(SelectedObject);
   TakePlaceOfFrame(object);
-  object.Width = frmMain.shpBox.Width();
-  if (!SizedByFont(object)) object.Height = frmMain.shpBox.Height();
+  TakeSizeOfFrame(object);
   frmMain.shpBox.SetBorderStyle(kDots);
   if (SizedByFont(object)) {
     ResizeText(object);

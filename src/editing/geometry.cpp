@@ -56,6 +56,7 @@ double WidthRatio(double width, double start_width) {
 
 double ScaledFontSize(double ratio, double points) {
   const double size = std::trunc(ratio * points);
+  if (!std::isfinite(size)) RaiseFault(kOverflow);
   return size == 0 ? 1 : size;
 }
 

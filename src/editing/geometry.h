@@ -73,7 +73,8 @@ AnchorCorner AnchorOfHandle(int index);
 // How much wider a box has become. Faults 11 for a start of 0.
 double WidthRatio(double width, double start_width);
 
-// The whole part of `ratio` times `points`, at least 1 where that gives 0.
+// The whole part of `ratio` times `points`, at least 1 where that gives 0. Faults 6 for an endless
+// one.
 double ScaledFontSize(double ratio, double points);
 
 }  // namespace tagwright

@@ -25,7 +25,8 @@ bool TextIsSelected() { return SelectedKind() == kText; }
 bool IsMeasured(std::int16_t kind) { return kind == kText || kind == kDataField; }
 
 float ToSingle(double value) {
-  if (std::abs(value) > std::numeric_limits<float>::max()) RaiseFault(kOverflow);
+  const bool fits = std::abs(value) <= std::numeric_limits<float>::max();
+  if (!fits) RaiseFault(kOverflow);
   return static_cast<float>(value);
 }
 

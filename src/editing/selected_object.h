@@ -22,7 +22,7 @@ bool IsMeasured(std::int16_t kind);
 // A number of a control as a record's Left or Top holds it. Faults 6 beyond that type.
 float ToSingle(double value);
 
-// The same for Width and Height, where an overflow has already made the number infinite.
+// One as its Width or Height does: faults 6 where an overflow has left none.
 double ToFinite(double value);
 
 }  // namespace tagwright

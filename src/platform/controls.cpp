@@ -2,6 +2,7 @@
 #include "platform/controls.h"
 
 #include <algorithm>
+#include <cmath>
 #include <string_view>
 #include <utility>
 
@@ -128,6 +129,7 @@ Control* Label::FocusTarget() { return Parent() ? Parent()->FocusStandIn() : nul
 void Label::Fit() {
   if (!auto_size_) return;
   const Extent extent = Measure(caption_, font_);
+  if (std::isinf(extent.width) || std::isinf(extent.height)) return;
   const double unit_x = Parent() ? Parent()->Scale().UnitX() : 1;
   const double unit_y = Parent() ? Parent()->Scale().UnitY() : 1;
   SetWidth(extent.width / unit_x);

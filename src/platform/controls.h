@@ -298,8 +298,8 @@ enum class TextAlignment { kLeft = 0, kRight = 1, kCenter = 2 };
 
 // A caption, and on the board a hit area. With AutoSize on, each assignment of a caption or font
 // (and turning it on, also again) fits the size to the text: as wide as the widest line, as high as
-// ascent plus descent of all lines, which end at CR LF, CR or LF. A size assigned meanwhile holds
-// until the next one.
+// ascent plus descent of all lines, which end at CR LF, CR or LF. An endless text leaves the
+// size as it is, and a size assigned meanwhile holds until the next one.
 class Label : public Control {
  public:
   using Control::Control;

@@ -1,5 +1,7 @@
 #include "editing/drag.h"
 
+#include <limits>
+
 #include "editing/editing_support.h"
 #include "editing/geometry.h"
 
@@ -351,6 +353,20 @@ TEST_F(DragTest, ATextThatBeganAtNoWidthHasOnePointAndNoFaultIsSeen) {
   EXPECT_TRUE(faults.empty());
 }
 
+// A width that no whole number holds leaves the start of the last drag.
+TEST_F(DragTest, AFontThatWouldBeEndlessStaysAsItIs) {
+  ObjectRecord text = TextObject("Abcd", 10, 10);
+  text.FontSize = 20;
+  text.Width = 1e308;
+  text.Height = 8;
+  SelectObject(Put(text));
+  StartWidth = 2;
+  lblHandle_MouseDown(3, kLeftButton, 0, 0, 0);
+  lblHandle_MouseUp(3, kLeftButton, 0, 0, 0);
+  EXPECT_EQ(ObjectAt(0).FontSize, 20);
+  EXPECT_TRUE(faults.empty());
+}
+
 TEST_F(DragTest, ADataFieldTakesTheFittedSizeOneShownAsABarcodeDoesNot) {
   for (const int format : {99, 100}) {
     ObjectUB = -1;
@@ -386,6 +402,16 @@ TEST_F(DragTest, AnObjectDeletedUnderTheHandleIsLeftAlone) {
   ExpectRecord(0, 40, 10, 20, 10);
   EXPECT_FALSE(Dragging);
   EXPECT_TRUE(faults.empty());
+}
+
+TEST_F(DragTest, AFrameThatIsNoNumberLeavesPlaceAndSize) {
+  SelectObject(PutBox(10, 10));
+  lblHandle_MouseDown(3, kLeftButton, 0, 0, 0);
+  frmMain.shpBox.SetLeft(std::numeric_limits<double>::quiet_NaN());
+  frmMain.shpBox.SetWidth(std::numeric_limits<double>::infinity());
+  frmMain.shpBox.SetHeight(25);
+  lblHandle_MouseUp(3, kLeftButton, 0, 0, 0);
+  ExpectRecord(0, 10, 10, 20, 25);
 }
 
 // A size that a file can hold and no control takes.

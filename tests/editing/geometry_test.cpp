@@ -131,6 +131,7 @@ TEST(GeometryTest, AFontSizeIsWholeAndNeverZero) {
   for (const auto& row : rows) {
     EXPECT_EQ(ScaledFontSize(row.ratio, row.points), row.size) << row.ratio << " " << row.points;
   }
+  EXPECT_EQ(FaultOf([] { ScaledFontSize(1e308, 12); }), kOverflow);
 }
 
 }  // namespace

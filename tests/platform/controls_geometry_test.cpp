@@ -370,6 +370,17 @@ TEST_F(AutoSizeTest, AZeroOrNegativeFontSizeMeasuresNothing) {
   }
 }
 
+TEST_F(AutoSizeTest, AnEndlessTextLeavesTheSize) {
+  label.SetAutoSize(true);
+  label.SetCaption("abc");
+  const double height = label.Height();
+  for (const double size : {1e308, std::numeric_limits<double>::infinity()}) {
+    label.SetFontSize(size);
+    EXPECT_DOUBLE_EQ(label.Width(), 300) << size;
+    EXPECT_DOUBLE_EQ(label.Height(), height) << size;
+  }
+}
+
 TEST_F(AutoSizeTest, AnEmptyFontNameKeepsThePresentOne) {
   label.SetFontName("Courier New");
   label.SetFontName("");

@@ -76,6 +76,7 @@ class RandomHand : public WindowService {
   void Choose();
   void Tick();
   void Picture();
+  void Column();
   void Pick();
   void Command();
   void Project();
@@ -94,7 +95,7 @@ class RandomHand : public WindowService {
 void RandomHand::ScriptDialogs() {
   const char* const pictures[] = {"wide.jpg",    "tall.jpg", "huge.jpg",
                                   "no size.jpg", "bad.jpg",  "gone.jpg"};
-  const char* const numbers[] = {"35", "0", "-4", "x", "", "1e300"};
+  const char* const numbers[] = {"35", "0", "-4", "x", "", "1e300", "1e308"};
   const Answer answers[] = {Answer::kYes, Answer::kNo, Answer::kCancel};
   dialogs_.files = {folder_ + "/" + OneOf(pictures)};
   if (OneIn(5)) dialogs_.files = {std::nullopt};
@@ -114,14 +115,20 @@ void RandomHand::AimAtRules() {
   if (OneIn(2)) y_ = frmMain.lnMY.Visible() && OneIn(2) ? rule_y : Between(0, 250);
 }
 
+constexpr double kAround = 200;  // twips about the board, where a press may be dragged to
+
 void RandomHand::AimAtBoard() {
-  x_ = Between(-200, frmMain.picBoard.Width() + 200);
-  y_ = Between(-200, frmMain.picBoard.Height() + 200);
+  x_ = Between(-kAround, frmMain.picBoard.Width() + kAround);
+  y_ = Between(-kAround, frmMain.picBoard.Height() + kAround);
 }
 
+// Objects may lie anywhere and be of any size, a pointer does not leave the screen.
 void RandomHand::AimAt(const Control& control) {
-  x_ = control.LeftTwips() + Between(0, 1) * control.WidthTwips();
-  y_ = control.TopTwips() + Between(0, 1) * control.HeightTwips();
+  const PictureBox& board = frmMain.picBoard;
+  x_ = std::clamp(control.LeftTwips() + Between(0, 1) * control.WidthTwips(), -kAround,
+                  board.Width() + kAround);
+  y_ = std::clamp(control.TopTwips() + Between(0, 1) * control.HeightTwips(), -kAround,
+                  board.Height() + kAround);
 }
 
 void RandomHand::Aim() {
@@ -195,10 +202,10 @@ void RandomHand::Type() {
 }
 
 void RandomHand::Field() {
-  const char* numbers[] = {"0", "12.5", "-3", "1e3", "x", "", "99999", "0.01"};
+  const char* const numbers[] = {"0", "12.5", "-3", "1e3", "x", "", "99999", "0.01", "1e308"};
   TextBox& field = frmMain.txtDSize(Below(4));
   field.UserFocus();
-  if (field.HasFocus()) field.UserEdit(numbers[Below(8)], 0);
+  if (field.HasFocus()) field.UserEdit(OneOf(numbers), 0);
   if (OneIn(2)) frmMain.txtDSize(Below(4)).UserFocus();
 }
 
@@ -212,6 +219,16 @@ void RandomHand::Choose() {
 
 // By its button: what follows is a click or a box on the label.
 void RandomHand::Picture() { frmMain.cmdTools(2).Press(); }
+
+// A column of a table: what follows is a release on the label.
+void RandomHand::Column() {
+  ListBox& columns = frmMain.lstFields;
+  if (columns.ListCount() == 0) {
+    for (const char* name : {"Name", "Number"}) columns.AddItem(name);
+  }
+  columns.UserChoose(Below(2));
+  columns.UserDblClick();
+}
 
 // The style of the next text that is clicked goes to the selection.
 void RandomHand::Pick() { frmMain.mnuTextCopy.Press(); }
@@ -279,9 +296,10 @@ const char* RandomHand::Act() {
       {8, "type", &RandomHand::Type},       {5, "field", &RandomHand::Field},
       {5, "choose", &RandomHand::Choose},   {5, "tick", &RandomHand::Tick},
       {2, "picture", &RandomHand::Picture}, {2, "pick", &RandomHand::Pick},
-      {6, "command", &RandomHand::Command}, {2, "view", &RandomHand::View}};
+      {6, "command", &RandomHand::Command}, {2, "view", &RandomHand::View},
+      {3, "column", &RandomHand::Column}};
   ScriptDialogs();
-  int place = Below(113);
+  int place = Below(116);
   for (const Kind& kind : kKinds) {
     place -= kind.weight;
     if (place >= 0) continue;
@@ -354,7 +372,7 @@ class HandModelTest : public ShellTest {
   // That the hand has really worked: what it has met on its way.
   void ExpectMet() const {
     for (const std::int16_t kind :
-         {kBarcode, kPicture, kText, kLine, kRectangle, kRoundedRectangle, kEllipse}) {
+         {kBarcode, kPicture, kText, kLine, kRectangle, kRoundedRectangle, kEllipse, kDataField}) {
       EXPECT_TRUE(kinds_met.contains(kind)) << kind;
     }
     EXPECT_GT(groups_met, 50);
