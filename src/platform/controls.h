@@ -755,9 +755,9 @@ class Form : public Container {
   void UserDeactivate();  // raises KeyUp with code 0 and no shift: held modifiers end here
   // Keys by virtual key code (letters and digits their capital's code, 8 backspace, 9 tab, 13
   // return, 16 shift, 17 ctrl, 18 alt, 27 esc, 33 to 40 page, end, home and arrows, 46 delete,
-  // 112 on the function keys; 0 a key that has none of these, such as most punctuation). KeyDown's
-  // handler may set the code to 0: returns false then, and the key must go no further. A key
-  // without a code goes on. While a handler runs a key's end waits and its beginning is lost.
+  // 93 menu, 112 on the function keys; 0 a key that has none of these, such as most punctuation).
+  // KeyDown's handler may set the code to 0: returns false then, and the key must go no further. A
+  // key without a code goes on. While a handler runs a key's end waits and its beginning is lost.
   bool UserKeyDown(int key_code, int shift);
   void UserKeyUp(int key_code, int shift);
   // A modal window or menu is about to take the keyboard: KeyUp as at UserDeactivate, at once even

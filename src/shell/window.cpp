@@ -25,6 +25,15 @@ constexpr int kTicksOfAClick = 2;
 constexpr int kHoldDone = 1000;
 constexpr int kZoomHeld = 101;
 
+constexpr int kZoomInTool = 5;
+constexpr int kZoomOutTool = 6;
+
+constexpr int kEscapeKey = 27;
+constexpr int kDownKey = 40;
+constexpr int kMenuKey = 93;
+
+int flyout_tool = kZoomInTool;  // the button that the flyout belongs to
+
 const char kWebsite[] = "https://www.tagwright.example/";
 constexpr int kShowNormal = 1;
 
@@ -70,12 +79,33 @@ void PlaceScrollBarsInTwips() {
 }
 
 void OpenFlyout() {
-  const CommandButton& zoom_in = frmMain.cmdTools(5);
+  const CommandButton& zoom_in = frmMain.cmdTools(kZoomInTool);
   PictureBox& flyout = frmMain.picMag;
   flyout.Move(Right(frmMain.picTools),
               frmMain.picTools.Top() + zoom_in.Top() + zoom_in.Height() / 2);
   flyout.SetVisible(true);
   flyout.ZOrder();
+}
+
+// Nothing is held then, so neither the hold nor an armed tool is touched.
+bool OpenFlyoutByKey() {
+  for (const int tool : {kZoomInTool, kZoomOutTool}) {
+    if (!frmMain.cmdTools(tool).HasFocus()) continue;
+    flyout_tool = tool;
+    OpenFlyout();
+    frmMain.cmdMagnify(0).SetFocus();
+    return true;
+  }
+  return false;
+}
+
+bool CloseFlyoutByKey() {
+  if (!frmMain.picMag.Visible()) return false;
+  const Control* active = frmMain.ActiveControl();
+  const bool inside = active && active->Parent() == &frmMain.picMag;
+  if (inside) frmMain.cmdTools(flyout_tool).SetFocus();
+  frmMain.picMag.SetVisible(false);
+  return true;
 }
 
 }  // namespace
@@ -98,7 +128,8 @@ void Timer1_Timer() {
 }
 
 void cmdTools_MouseDown(int Index) {
-  if (Index != 5 && Index != 6) return;
+  if (Index != kZoomInTool && Index != kZoomOutTool) return;
+  flyout_tool = Index;
   HoldTicks = 0;
   frmMain.tmrButtons.SetEnabled(true);
   HoldKind = kZoomHeld;
@@ -115,6 +146,12 @@ void tmrButtons_Timer() {
   if (HoldKind == kZoomHeld) OpenFlyout();
   HoldTicks = kHoldDone;
   frmMain.tmrButtons.SetEnabled(false);
+}
+
+void FlyoutKeyDown(int& KeyCode) {
+  const bool opens = (KeyCode == kDownKey || KeyCode == kMenuKey) && OpenFlyoutByKey();
+  const bool closes = KeyCode == kEscapeKey && CloseFlyoutByKey();
+  if (opens || closes) KeyCode = 0;
 }
 
 void ShowDefaultPointer() { frmMain.SetMousePointer(0); }

@@ -23,6 +23,10 @@ void cmdTools_MouseDown(int Index);
 void cmdTools_MouseUp();
 void tmrButtons_Timer();
 
+// The flyout by keyboard: Down or the menu key on Zoom In or Zoom Out opens it at its first button,
+// Escape closes it and gives the keyboard back. The key goes no further then.
+void FlyoutKeyDown(int& KeyCode);
+
 // Outside the board the pointer is the default one.
 void ShowDefaultPointer();
 

@@ -38,7 +38,10 @@ void WireWindow(FrmMain& f) {
   f.WindowEvents().Activate = Form_Activate;
   f.WindowEvents().Resize = Form_Resize;
   f.WindowEvents().Unload = Form_Unload;
-  f.WindowEvents().KeyDown = Form_KeyDown;
+  f.WindowEvents().KeyDown = [](int& KeyCode, int Shift) {
+    Form_KeyDown(KeyCode, Shift);
+    FlyoutKeyDown(KeyCode);
+  };
   f.WindowEvents().KeyUp = Form_KeyUp;
 
   f.Timer1.Events().Timer = Timer1_Timer;

@@ -262,6 +262,66 @@ TEST_F(HoldTest, AFlyoutButtonHidesTheFlyout) {
   EXPECT_FALSE(frmMain.picMag.Visible());
 }
 
+// --- the flyout by keyboard ---------------------------------------------------------------------
+
+TEST_F(HoldTest, AKeyOnAZoomButtonOpensTheFlyoutAndEscapeGivesTheKeyboardBack) {
+  for (const int tool : {5, 6}) {
+    for (const int key : {40, 93}) {
+      frmMain.cmdTools(tool).UserFocus();
+      EXPECT_FALSE(frmMain.UserKeyDown(key, 0)) << "the key is spent";
+      EXPECT_TRUE(frmMain.picMag.Visible()) << tool << " " << key;
+      EXPECT_EQ(frmMain.picMag.Left(), 810);
+      EXPECT_EQ(frmMain.picMag.Top(), 6250);
+      EXPECT_GT(frmMain.picMag.Order(), frmMain.picBoard.Order());
+      EXPECT_TRUE(frmMain.cmdMagnify(0).HasFocus());
+      frmMain.cmdMagnify(3).UserFocus();
+      EXPECT_FALSE(frmMain.UserKeyDown(27, 0));
+      EXPECT_FALSE(frmMain.picMag.Visible());
+      EXPECT_TRUE(frmMain.cmdTools(tool).HasFocus()) << tool << " " << key;
+    }
+  }
+}
+
+TEST_F(HoldTest, TheKeyTouchesNeitherTheHoldNorAnArmedTool) {
+  frmMain.cmdRect.Press();
+  const auto kind = HoldKind;
+  const auto ticks = HoldTicks;
+  frmMain.cmdTools(6).UserFocus();
+  frmMain.UserKeyDown(40, 0);
+  ASSERT_TRUE(frmMain.picMag.Visible());
+  EXPECT_EQ(HoldKind, kind);
+  EXPECT_EQ(HoldTicks, ticks);
+  EXPECT_FALSE(frmMain.tmrButtons.Enabled());
+  EXPECT_EQ(CurrentTool, 11);
+  EXPECT_EQ(CursorShape, 2);
+}
+
+TEST_F(HoldTest, ElsewhereTheKeysGoOn) {
+  frmMain.cmdTools(4).UserFocus();
+  EXPECT_TRUE(frmMain.UserKeyDown(40, 0));
+  EXPECT_FALSE(frmMain.picMag.Visible());
+  frmMain.cmdTools(5).UserFocus();
+  EXPECT_TRUE(frmMain.UserKeyDown(39, 0));
+  EXPECT_FALSE(frmMain.picMag.Visible());
+  EXPECT_TRUE(frmMain.UserKeyDown(27, 0)) << "nothing is open";
+}
+
+TEST_F(HoldTest, EscapeClosesAFlyoutThatWasHeldOpen) {
+  PressTool(6);
+  Tick(3);
+  ReleaseTool(6);
+  frmMain.cboZoom.UserFocus();
+  frmMain.UserKeyDown(27, 0);
+  EXPECT_FALSE(frmMain.picMag.Visible());
+  EXPECT_TRUE(frmMain.cboZoom.HasFocus()) << "which was not in it";
+  PressTool(6);
+  Tick(3);
+  ReleaseTool(6);
+  frmMain.cmdMagnify(1).UserFocus();
+  frmMain.UserKeyDown(27, 0);
+  EXPECT_TRUE(frmMain.cmdTools(6).HasFocus());
+}
+
 // --- hover --------------------------------------------------------------------------------------
 
 TEST_F(WindowTest, OutsideTheBoardThePointerIsTheDefaultOne) {

@@ -106,6 +106,8 @@ int KeyCode(const QKeyEvent& event) {
       return 45;
     case Qt::Key_Delete:
       return 46;
+    case Qt::Key_Menu:
+      return 93;
     default:
       return 0;
   }

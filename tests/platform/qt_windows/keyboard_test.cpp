@@ -190,6 +190,19 @@ TEST_F(KeyboardTest, AKeyThatTheWindowTakesGoesNoFurther) {
   EXPECT_TRUE(log.empty()) << "nor to the menus";
 }
 
+// An arrow would go on to a neighbour, as the toolkit's buttons have it.
+TEST_F(KeyboardTest, AnArrowThatTheWindowTakesMovesTheKeyboardWhereTheProgramSays) {
+  frmMain.WindowEvents().KeyDown = [](int& code, int) {
+    frmMain.picMag.SetVisible(true);
+    frmMain.cmdMagnify(0).SetFocus();
+    code = 0;
+  };
+  frmMain.cmdTools(5).SetFocus();
+  Key(Qt::Key_Down);
+  EXPECT_TRUE(frmMain.cmdMagnify(0).HasFocus());
+  EXPECT_TRUE(Find("cmdMagnify_0").hasFocus());
+}
+
 TEST_F(KeyboardTest, ShortcutsAreSeenByTheWindowOnceAndThenByTheMenu) {
   NoteKeys();
   frmMain.mnuArrangeSTB.Events().Click = [this] { log.push_back("to back"); };
@@ -264,7 +277,7 @@ TEST_F(KeyboardTest, KeysHaveTheirCodes) {
       {Qt::Key_Control, 17}, {Qt::Key_Alt, 18},      {Qt::Key_Escape, 27},   {Qt::Key_Space, 32},
       {Qt::Key_PageUp, 33},  {Qt::Key_PageDown, 34}, {Qt::Key_End, 35},      {Qt::Key_Home, 36},
       {Qt::Key_Left, 37},    {Qt::Key_Up, 38},       {Qt::Key_Right, 39},    {Qt::Key_Down, 40},
-      {Qt::Key_Insert, 45},  {Qt::Key_Delete, 46},   {Qt::Key_VolumeUp, 0}};
+      {Qt::Key_Insert, 45},  {Qt::Key_Delete, 46},   {Qt::Key_Menu, 93},     {Qt::Key_VolumeUp, 0}};
   for (const auto& [key, code] : keys) {
     EXPECT_EQ(KeyCode(QKeyEvent(QEvent::KeyPress, key, Qt::NoModifier)), code) << key;
   }
@@ -280,6 +293,18 @@ TEST_F(KeyboardTest, TheTabKeyMovesTheKeyboard) {
   EXPECT_TRUE(Find("chkMailshot").hasFocus());
   Key(Qt::Key_Backtab, Qt::ShiftModifier);
   EXPECT_TRUE(frmMain.txtNoCopies.HasFocus());
+}
+
+TEST_F(KeyboardTest, TheTabKeyVisitsTheFlyoutWhileItIsShown) {
+  frmMain.cmdCenterLab.SetFocus();
+  Key(Qt::Key_Tab);
+  EXPECT_FALSE(frmMain.cmdMagnify(0).HasFocus());
+  frmMain.picMag.SetVisible(true);
+  frmMain.cmdCenterLab.SetFocus();
+  for (int i = 0; i < 5; ++i) {
+    Key(Qt::Key_Tab);
+    EXPECT_TRUE(frmMain.cmdMagnify(i).HasFocus()) << i;
+  }
 }
 
 // As the fields of place and size do while nothing is selected, and the board's scroll bars always.
