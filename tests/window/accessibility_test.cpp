@@ -45,6 +45,10 @@ const Names kGroup = {"Align objects left",     "Align objects centre",  "Align 
                       "Make same size: height", "Make same size: width", "Make same size: both",
                       "Space evenly across",    "Space evenly down"};
 
+// What a held zoom button brings out.
+const Names kFlyout = {"Show All", "Zoom to Height", "Zoom to Width", "View Same Size",
+                       "View All Objects"};
+
 // A panel, by the keys that bring it to the front or the tool that does.
 struct Panel {
   const char* keys;
@@ -126,6 +130,12 @@ class SpokenWindow : public testing::Test {
     Find(program, "Space evenly down");
   }
 
+  void OpenFlyout() const {
+    FocusBySpeech(program, "Zoom In", "push button");
+    Key("Down");
+    Find(program, kFlyout.front());
+  }
+
   // Presses those of `names` that are buttons and enabled. Returns how many there were.
   int PressEach(const Names& names) const {
     const std::set<std::string> buttons = {"push button", "toggle button", "check box"};
@@ -187,6 +197,18 @@ TEST_F(SpokenWindow, EveryButtonOfTheToolColumnIsPressedByItsName) {
 TEST_F(SpokenWindow, EveryButtonOfTheGroupIsPressedByItsName) {
   SelectTwoShapes();
   EXPECT_EQ(PressEach(kGroup), 11);
+}
+
+TEST_F(SpokenWindow, TheFlyoutOpensByKeyboardAndItsButtonsArePressedByTheirNames) {
+  OpenFlyout();
+  ExpectNames(kFlyout);
+  Key("Escape");
+  WaitFor("the flyout to close", [&] { return !Shows(program, kFlyout.front()); });
+  EXPECT_EQ(Focused(program).name, "Zoom In");
+  for (const std::string& name : kFlyout) {
+    OpenFlyout();
+    EXPECT_EQ(PressEach({name}), 1);
+  }
 }
 
 TEST_F(SpokenWindow, APictureSaysItsFileAndItsSize) {

@@ -310,6 +310,14 @@ bool PressNode(AtspiAccessible* node) {
   return done;
 }
 
+bool FocusNode(AtspiAccessible* node) {
+  AtspiComponent* component = atspi_accessible_get_component_iface(node);
+  if (!component) return false;
+  const bool done = atspi_component_grab_focus(component, nullptr);
+  g_object_unref(component);
+  return done;
+}
+
 // A menu entry is found in the menu that was opened last: the innermost match.
 bool FindInto(const Program& program, const std::string& name, const std::string& role,
               Spoken& found) {
@@ -471,15 +479,25 @@ Spoken Focused(const Program& program) {
   return found;
 }
 
-void PressBySpeech(const Program& program, const std::string& name, const std::string& role) {
-  bool pressed = false;
+static bool DoBySpeech(const Program& program, const std::string& name, const std::string& role,
+                       bool (*act)(AtspiAccessible*)) {
+  bool done = false;
   WalkProgram(program, [&](AtspiAccessible* node) {
     if (!Matches(node, name, role)) return false;
-    pressed = PressNode(node);
+    done = act(node);
     return true;
   });
-  if (!pressed) Fail("\"" + name + "\" cannot be pressed");
+  return done;
+}
+
+void PressBySpeech(const Program& program, const std::string& name, const std::string& role) {
+  if (!DoBySpeech(program, name, role, PressNode)) Fail("\"" + name + "\" cannot be pressed");
   Pause(300);
+}
+
+void FocusBySpeech(const Program& program, const std::string& name, const std::string& role) {
+  if (!DoBySpeech(program, name, role, FocusNode)) Fail("\"" + name + "\" takes no keyboard");
+  WaitFor("the keyboard in " + name, [&] { return Focused(program).name == name; });
 }
 
 std::vector<std::string> WindowTitles() {

@@ -107,6 +107,8 @@ Spoken Focused(const Program& program);
 // Presses it as an assistive tool does, without a mouse, and waits: a button shows for a moment
 // that it is pressed before it acts. Throws when it cannot be pressed so.
 void PressBySpeech(const Program& program, const std::string& name, const std::string& role);
+// Gives it the keyboard likewise.
+void FocusBySpeech(const Program& program, const std::string& name, const std::string& role);
 
 // Titles of all shown windows of the screen.
 std::vector<std::string> WindowTitles();

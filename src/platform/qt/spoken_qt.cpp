@@ -18,9 +18,11 @@ class SpokenToolButton : public QAccessibleWidget {
     return names;
   }
 
+  // The keyboard comes as by a shortcut: a move that the user has not asked for is undone.
   void doAction(const QString& name) override {
-    if (name != pressAction()) return QAccessibleWidget::doAction(name);
-    if (button_.isEnabled()) button_.animateClick();
+    if (!button_.isEnabled()) return;
+    if (name == pressAction()) button_.animateClick();
+    if (name == setFocusAction()) button_.setFocus(Qt::ShortcutFocusReason);
   }
 
  private:

@@ -4,7 +4,8 @@
 namespace tagwright {
 
 // From now on a tool button that an assistive tool presses acts after the tool has its answer, as
-// other buttons do. At once, one that opens a dialog keeps the tool waiting until that is closed.
+// other buttons do, and takes the keyboard when it asks. Pressed at once, one that opens a dialog
+// keeps the tool waiting until that is closed.
 void InstallSpokenButtons();
 
 }  // namespace tagwright
