@@ -14,6 +14,15 @@ class DragTest : public EditingTest {
     return ShapeObject(kLine, 10, 10, width, height);
   }
 
+  // Selects a text of 20 points at 10, 10, as high as 8.
+  void SelectAbcd(double width) {
+    ObjectRecord text = TextObject("Abcd", 10, 10);
+    text.FontSize = 20;
+    text.Width = width;
+    text.Height = 8;
+    SelectObject(Put(text));
+  }
+
   static double FrameRight() { return frmMain.shpBox.Left() + frmMain.shpBox.Width(); }
 };
 
@@ -274,11 +283,7 @@ TEST_F(DragTest, AThinLineIsHalfAMillimetreOfScreen) {
 
 // "Abcd" at 20 points on a hit area of 20 units; dragged to 30, half as wide again.
 TEST_F(DragTest, ATextTakesItsFontFromTheWidth) {
-  ObjectRecord text = TextObject("Abcd", 10, 10);
-  text.FontSize = 20;
-  text.Width = 20;
-  text.Height = 8;
-  SelectObject(Put(text));
+  SelectAbcd(20);
   const auto redraws = RedrawCount;
   DragHandle(3, 10, 5);
   EXPECT_EQ(ObjectAt(0).FontSize, 30);
@@ -300,11 +305,7 @@ TEST_F(DragTest, ATextTakesItsFontFromTheWidth) {
 }
 
 TEST_F(DragTest, DraggedOnlyDownwardATextKeepsItsSize) {
-  ObjectRecord text = TextObject("Abcd", 10, 10);
-  text.FontSize = 20;
-  text.Width = 20;
-  text.Height = 8;
-  SelectObject(Put(text));
+  SelectAbcd(20);
   DragHandle(3, 0, 25);
   EXPECT_EQ(ObjectAt(0).FontSize, 20);
 }
@@ -332,22 +333,14 @@ TEST_F(DragTest, DraggedOnlyDownwardOrNotAtAllATextOfABrokenWidthMayLoseAPoint) 
 }
 
 TEST_F(DragTest, AVerySmallTextHasOnePoint) {
-  ObjectRecord text = TextObject("Abcd", 10, 10);
-  text.FontSize = 20;
-  text.Width = 20;
-  text.Height = 8;
-  SelectObject(Put(text));
+  SelectAbcd(20);
   DragHandle(3, -19.5, 0);
   EXPECT_EQ(ObjectAt(0).FontSize, 1);
 }
 
 // The ratio of a width that rounds to 0 cannot be formed, and without one it counts as 0.
 TEST_F(DragTest, ATextThatBeganAtNoWidthHasOnePointAndNoFaultIsSeen) {
-  ObjectRecord text = TextObject("Abcd", 10, 10);
-  text.FontSize = 20;
-  text.Width = 0.4;
-  text.Height = 8;
-  SelectObject(Put(text));
+  SelectAbcd(0.4);
   DragHandle(3, 30, 0);
   EXPECT_EQ(ObjectAt(0).FontSize, 1);
   EXPECT_TRUE(faults.empty());
@@ -355,11 +348,7 @@ TEST_F(DragTest, ATextThatBeganAtNoWidthHasOnePointAndNoFaultIsSeen) {
 
 // A width that no whole number holds leaves the start of the last drag.
 TEST_F(DragTest, AFontThatWouldBeEndlessStaysAsItIs) {
-  ObjectRecord text = TextObject("Abcd", 10, 10);
-  text.FontSize = 20;
-  text.Width = 1e308;
-  text.Height = 8;
-  SelectObject(Put(text));
+  SelectAbcd(1e308);
   StartWidth = 2;
   lblHandle_MouseDown(3, kLeftButton, 0, 0, 0);
   lblHandle_MouseUp(3, kLeftButton, 0, 0, 0);

@@ -247,6 +247,14 @@ class QueueTrouble : public QueueTest {
     EXPECT_NE(dialogs.messages[0].text.find("margins"), std::string::npos)
         << dialogs.messages[0].text;
   }
+  void PrintWithoutService() {
+    Service().Stop();
+    frmMain.cmdPrint.Press();
+    ExpectToldOnce();
+    ExpectScreenRestored();
+    EXPECT_EQ(SerialValue, 1001);
+    Service().Start();
+  }
   void ExpectScreenRestored() {
     EXPECT_EQ(DrawTarget, &frmMain.picBoard.Canvas());
     EXPECT_EQ(ZoomFactor, 1);
@@ -255,12 +263,7 @@ class QueueTrouble : public QueueTest {
 };
 
 TEST_F(QueueTrouble, AServiceThatIsGoneIsToldOnce) {
-  Service().Stop();
-  frmMain.cmdPrint.Press();
-  ExpectToldOnce();
-  ExpectScreenRestored();
-  EXPECT_EQ(SerialValue, 1001);
-  Service().Start();
+  PrintWithoutService();
   frmMain.cmdPrint.Press();
   EXPECT_EQ(dialogs.messages.size(), 1u) << "the next job is a job of its own";
   EXPECT_EQ(ReadPdf(Service().Received("margins")).count, 1);
@@ -287,12 +290,7 @@ TEST_F(QueueTrouble, AQueueThatWasTakenAwayIsToldOnce) {
 TEST_F(QueueTrouble, AServiceThatIsGoneBeforeTheFirstJobIsToldOnce) {
   ResetPrinter();
   ExpectPrinter("margins");
-  Service().Stop();
-  frmMain.cmdPrint.Press();
-  ExpectToldOnce();
-  ExpectScreenRestored();
-  EXPECT_EQ(SerialValue, 1001);
-  Service().Start();
+  PrintWithoutService();
 }
 
 }  // namespace
