@@ -80,7 +80,7 @@ void Check(const std::vector<Painted>& first, const std::vector<Painted>& second
   for (std::size_t i = 0; i < first.size(); ++i) {
     const Painted &a = first[i], &b = second[i];
     if (a.what == Painted::What::kBox && !(a.x1 <= a.x2 && a.y1 <= a.y2)) std::abort();
-    if (a.what != b.what || !SamePlace(a, b) || a.text != b.text) std::abort();
+    if (a.what != b.what || !SamePlace(a, b) || a.Text() != b.Text()) std::abort();
   }
 }
 
