@@ -42,7 +42,11 @@ bool IsTicked(const Program& program, const std::vector<std::string>& path) {
 
 // Presses a message box's button and waits for that box to go.
 void Answer(const Program& program, const std::string& button) {
-  const std::string box = Shell("xdotool getactivewindow");
+  std::string box;  // nothing is active for a moment while one window gives way to another
+  WaitFor("the message to have the keyboard", [&] {
+    box = Shell("xdotool getactivewindow", false);
+    return !box.empty() && box != program.Window();
+  });
   const Spoken found = Find(program, button, "push button");
   Click(found.box);
   WaitFor("the message to go", [&] { return Shell("xdotool getactivewindow", false) != box; });
