@@ -26,7 +26,7 @@ using namespace tagwright;
 namespace fs = std::filesystem;
 
 constexpr double kTwipsPerPixel = 15;
-constexpr double kLabelWidth = 200;  // millimetres; the board shows all of it
+constexpr double kLabelWidth = 200;  // millimetres
 constexpr double kLabelHeight = 120;
 constexpr int kCircle = 40;  // pixels that the pointer wanders from where it pressed
 
@@ -47,6 +47,13 @@ ObjectRecord ScatteredObject(int number, std::mt19937& random) {
   return object;
 }
 
+// The one that is dragged: at the label's edge, part of its way lies out of sight.
+void CentreLastObject() {
+  ObjectRecord& last = ObjectAt(ObjectUB);
+  last.Left = static_cast<float>((kLabelWidth - last.Width) / 2);
+  last.Top = static_cast<float>((kLabelHeight - last.Height) / 2);
+}
+
 void FillLabel(int count) {
   std::mt19937 random(1);
   DirtyFlag = kFalse;  // nobody is there to answer
@@ -59,6 +66,7 @@ void FillLabel(int count) {
     HoldAt(i).SetVisible(true);
     HoldAt(i).ZOrder();
   }
+  CentreLastObject();
   RedrawBoard();
 }
 
