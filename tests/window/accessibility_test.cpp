@@ -224,6 +224,7 @@ TEST_F(SpokenWindow, APictureSaysItsFileAndItsSize) {
 TEST_F(SpokenWindow, AMessageIsAnsweredByTheNameOfItsButton) {
   const Paper paper(program);
   DrawShape(program, paper, "Rectangle", 10, 5, 20, 10);
+  WaitToHear(program, "Label", "Rectangle at ");
   ChooseMenu(program, {"File", "New"});
   PressBySpeech(program, Find(program, "No", "push button").name, "push button");
   WaitToHear(program, "Label", "Nothing selected");

@@ -264,6 +264,20 @@ TEST_F(Window, ALabelWithoutItsPictureAndDataOpensWithWhatIsLeft) {
   WaitFor("the rest of the label", [&] { return Coloured(program, kMist) > 1000; });
 }
 
+// A viewer of the test's own stands in for the desktop's.
+TEST_F(Window, TheHelpKeyShowsTheHelpFileOfTheFolder) {
+  const std::string viewer = folder + "/xdg-open", seen = folder + "/seen";
+  std::ofstream(viewer) << "#!/bin/sh\necho \"$1\" > '" << seen << "'\n";
+  fs::permissions(viewer, fs::perms::owner_all);
+  Program program(folder, {"PATH=" + folder + ":" + std::getenv("PATH")});
+  Key("F1");
+  Answer(program, "OK");  // the file is missing
+  EXPECT_FALSE(fs::exists(seen));
+  std::ofstream(folder + "/twlabel.chm") << "help";
+  Key("F1");
+  WaitFor("the viewer", [&] { return Contents(seen).ends_with("/twlabel.chm\n"); });
+}
+
 TEST_F(Window, AMenuOpenedByKeyLeavesNoModifierBehind) {
   Program program(folder);
   Key("alt+f");
