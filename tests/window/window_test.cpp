@@ -236,7 +236,8 @@ TEST_F(Window, SavesUnderANewNameAndFindsItAgainAfterTheNextStart) {
   EXPECT_EQ(fs::file_size(Installed("progsettings.twd")), kSettingsSize);
 
   Program program(folder);
-  EXPECT_EQ(program.Frame(), place);
+  // The window manager frames a window after it has shown it.
+  WaitFor("the window at its place", [&] { return program.Frame() == place; });
   ChooseMenu(program, {"File", InLowerCase(saved)});
   WaitFor("the recent file", [&] { return Coloured(program, kMist) > 1000; });
   EXPECT_NE(program.Title().find("[harbour label.twp]"), std::string::npos);
