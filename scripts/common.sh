@@ -2,12 +2,36 @@
 
 cores=$(nproc)
 
-# packages SECTION...: the names under these sections of packages.txt.
+# The code name of the machine's release, as "bookworm".
+release=$(sed -n 's/^VERSION_CODENAME=//p' /etc/os-release)
+
+# named_releases: those that packages.txt names, in its order.
+named_releases() {
+  sed -n 's/^[^#[][^#]*\[\([^]]*\)\].*/\1/p' scripts/packages.txt | tr -s ' ' '\n'
+}
+
+# release_in_list: the release whose names hold on this machine.
+release_in_list() {
+  if named_releases | grep -qx "$release"; then
+    echo "$release"
+  else
+    named_releases | tail -n 1
+  fi
+}
+
+# packages SECTION...: the names under these sections of packages.txt that this release has.
 packages() {
-  local section
-  for section in "$@"; do
-    sed -n "/^\[$section\]/,/^\[/p" scripts/packages.txt | sed -e '/^\[/d' -e 's/#.*//' | tr -s ' \n' '\n'
-  done | sed '/^$/d'
+  awk -v sections=" $* " -v release="$(release_in_list)" '
+    { sub(/#.*/, "") }
+    /^\[/ { gsub(/[][ ]/, ""); inside = index(sections, " " $0 " "); next }
+    !inside || NF == 0 { next }
+    NF > 1 { named = $0; gsub(/[][]/, " ", named); if (!index(named " ", " " release " ")) next }
+    { print $1 }' scripts/packages.txt
+}
+
+# clang_version: that of the clang tools which this release has.
+clang_version() {
+  packages check | sed -n 's/^clang-\([0-9]*\)$/\1/p'
 }
 
 # is_installed PACKAGE
@@ -40,9 +64,11 @@ install_packages() {
     apt-get install -q -y --no-install-recommends "${missing[@]}"
 }
 
-# configure PRESET: sets up build/PRESET; a second call costs a second.
+# configure PRESET: sets up build/PRESET; a second call costs a second. Only clang has fuzzing.
 configure() {
-  cmake --preset "$1" --log-level=WARNING
+  local compiler=()
+  [ "$1" = fuzz ] && compiler=(-DCMAKE_CXX_COMPILER="clang++-$(clang_version)")
+  cmake --preset "$1" --log-level=WARNING "${compiler[@]}"
 }
 
 # build PRESET [TARGET...]
