@@ -72,13 +72,17 @@ std::string ShortDate(const QLocale& from) {
 }
 
 // A time's form with its seconds. The toolkit's pattern has them only together with the zone, its
-// "t", which goes; its "AP" is our "tt", and without that its h counts all 24.
+// "t" or "tttt" with its brackets, which goes; its "AP" or "Ap" is our "tt", and without that its h
+// counts all 24. In newer tables of languages a narrow blank stands before "Ap", which no code page
+// has.
 std::string Time(const QLocale& from) {
-  static const QRegularExpression kZone("[ (]*t+[ )]*");
+  static const QRegularExpression kZone(R"([ (\[,]*t+[ )\]]*)");
+  static const QChar kNarrowBlank(0x202f);
   static const QRegularExpression kHalf("[Aa][Pp]?");
   QStringList parts = from.timeFormat(QLocale::LongFormat).split('\'');  // every other one quoted
   bool twelve = false;
   for (qsizetype i = 0; i < parts.size(); i += 2) {
+    parts[i].replace(kNarrowBlank, ' ');
     parts[i].remove(kZone);
     twelve = twelve || parts[i].contains(kHalf);
     parts[i].replace(kHalf, "tt");

@@ -51,6 +51,8 @@ TEST(LocaleQtTest, TimesHaveTheirSecondsAndNoZone) {
   EXPECT_EQ(All("en_GB.UTF-8").time, "HH:mm:ss");
   EXPECT_EQ(All("es_ES.UTF-8").time, "H:mm:ss") << "the zone stood in parentheses";
   EXPECT_EQ(All("zh_CN.UTF-8").time, "HH:mm:ss") << "the zone stood in front";
+  EXPECT_EQ(All("zh_HK.UTF-8").time, "tth:mm:ss") << "the zone stood in square brackets";
+  EXPECT_EQ(All("sq_AL.UTF-8").time, "h:mm:ss tt") << "the zone stood behind a comma";
   EXPECT_EQ(All("ko_KR.UTF-8").time, "tt h시 m분 s초");
   EXPECT_EQ(All("fr_CA.UTF-8").time, "HH 'h' mm 'min' ss 's'") << "what is quoted stays";
 }
