@@ -246,10 +246,16 @@ std::string LabelOf(AtspiAccessible* node) {
   return label;
 }
 
+// Newer versions of the accessibility bus call a push button a "button".
+std::string RoleOf(AtspiAccessible* node) {
+  const std::string role = Taken(atspi_accessible_get_role_name(node, nullptr));
+  return role == "button" ? "push button" : role;
+}
+
 Spoken Described(AtspiAccessible* node, double scale) {
   Spoken spoken;
   spoken.name = Taken(atspi_accessible_get_name(node, nullptr));
-  spoken.role = Taken(atspi_accessible_get_role_name(node, nullptr));
+  spoken.role = RoleOf(node);
   spoken.text = TextOf(node);
   spoken.description = Taken(atspi_accessible_get_description(node, nullptr));
   spoken.box = BoxOf(node, scale);
@@ -295,7 +301,7 @@ bool WalkProgram(const Program& program, const std::function<bool(AtspiAccessibl
 
 bool Matches(AtspiAccessible* node, const std::string& name, const std::string& role) {
   if (Taken(atspi_accessible_get_name(node, nullptr)) != name) return false;
-  if (!role.empty() && Taken(atspi_accessible_get_role_name(node, nullptr)) != role) return false;
+  if (!role.empty() && RoleOf(node) != role) return false;
   return Has(node, ATSPI_STATE_SHOWING);
 }
 
