@@ -545,6 +545,23 @@ TEST_F(HoldMouseTest, TheReleaseWritesTheRecordOnce) {
   ExpectFrame(115, 87, 20, 10);
 }
 
+// Its hit area measures what it shows, its record may hold a width that was typed.
+TEST_F(HoldMouseTest, ATextIsDroppedAsWideAsItsRecordWhateverItsHitArea) {
+  const int index = PutText("Abcd");
+  ObjectAt(index).Width = 12;
+  ObjectAt(index).Height = 7;
+  Press(115, 90);
+  MoveTo(118, 92);
+  HoldAt(index).SetAutoSize(false);
+  HoldAt(index).SetWidth(33);
+  HoldAt(index).SetHeight(22);
+  Release(118, 92);
+  EXPECT_NEAR(HoldAt(index).Width(), 12, 1e-9);
+  EXPECT_NEAR(HoldAt(index).Height(), 7, 1e-9);
+  ExpectFrame(113, 87, 12, 7);
+  ExpectRecord(index, 13, 12, 12, 7);
+}
+
 // Only moves move: the place of the release itself is not looked at.
 TEST_F(HoldMouseTest, AReleaseElsewhereWithoutAMoveMovesNothing) {
   PutBox(10, 10);
