@@ -2,7 +2,9 @@
 
 #include "document/objects.h"
 #include "document/redraw.h"
+#include "document/shown_size.h"
 #include "forms/frmMain.h"
+#include "platform/fault.h"
 
 namespace tagwright {
 namespace {
@@ -30,6 +32,10 @@ void DisableSelectionCommands() {
         &frmMain.mnuAHoriz, &frmMain.mnuArrangeBTF, &frmMain.mnuArrangeSTB}) {
     entry->SetEnabled(false);
   }
+}
+
+void KeyboardToBoard() {
+  CarryOn([] { frmMain.txtSetFocus(0).SetFocus(); });
 }
 
 void DropSelection() {
