@@ -37,6 +37,8 @@ bool group_drag = false;  // what the press has taken hold of
 
 double UnitsX(double twips) { return frmMain.picBoard.ScaleX(twips, kTwips, kUserScale); }
 double UnitsY(double twips) { return frmMain.picBoard.ScaleY(twips, kTwips, kUserScale); }
+double TwipsX(double units) { return frmMain.picBoard.ScaleX(units, kUserScale, kTwips); }
+double TwipsY(double units) { return frmMain.picBoard.ScaleY(units, kUserScale, kTwips); }
 
 // Of a length on screen.
 double ScreenX(double millimetres) {
@@ -284,7 +286,8 @@ void TrackRubberBox(double x, double y, int corner) {
 }
 
 void TrackRubberLine(double x, double y) {
-  const BoardPoint end = LineEnd({AnchorX, AnchorY}, {x, y});
+  const BoardPoint way = {TwipsX(x - AnchorX), TwipsY(y - AnchorY)};
+  const BoardPoint end = LineEnd({AnchorX, AnchorY}, {x, y}, way);
   frmMain.shpLine.SetX2(end.x);
   frmMain.shpLine.SetY2(end.y);
 }
