@@ -280,7 +280,7 @@ double SnapY(double y) { return Take(SnapPoint(y, HorizontalRule())); }
 
 void TrackRubberBox(double x, double y, int corner) {
   BoardFrame box = BoxBetween({x, y}, AnchorOf(corner));
-  if (LineIsSelected()) box = KeptThin(box);
+  if (!RubberBox && LineIsSelected()) box = KeptThin(box);
   frmMain.shpBox.Move(box.left, box.top, box.width, box.height);
   ShowFrameSize();
 }

@@ -146,7 +146,16 @@ double BoardY(int index, double y) {
   return HoldAt(index).Top() + frmMain.picBoard.ScaleY(y, kTwips, kUserScale);
 }
 
-void BeginToolOver(int index, double x, double y) { BeginTool(BoardX(index, x), BoardY(index, y)); }
+// A column lands beside what is on the label, and a zoom leaves it selected.
+bool ToolMakesAnObjectHere() { return CurrentTool != kDataField && CurrentTool < kZoomIn; }
+
+// What lies under a new object is not selected while that is drawn: it would take the weight that a
+// line is given, and a line there would keep the box as thin as itself.
+void BeginToolOver(int index, double x, double y) {
+  if (ToolMakesAnObjectHere()) SelectedObject = -1;
+  BeginTool(BoardX(index, x), BoardY(index, y));
+  if (SelectedObject < 0) DisableSelectionCommands();
+}
 
 // The former selection may have been an empty text, with which this object has gone, or which has
 // left everything selected.

@@ -346,6 +346,7 @@ void ShowNewObject() {
   Traced(TakePlaceOfBox);
   if (!HasItsSize()) Traced(TakeSizeOfBox);
   NewRecord().ObjType = CurrentTool;
+  frmMain.shpBox.SetShape(FrameShapeOf(CurrentTool));
   ShowHandles(NewHold());
   SelectedObject = ObjectUB;
   CurrentTool = kNoTool;
