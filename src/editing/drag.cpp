@@ -3,6 +3,7 @@
 #include <cmath>
 #include <string>
 
+#include "common/diagnostics.h"
 #include "common/prog_settings.h"
 #include "common/public_functions.h"
 #include "document/objects.h"
@@ -184,9 +185,12 @@ bool SizedByFont(const ObjectRecord& object) {
   return object.ObjType == kText || object.ObjType == kDataField;
 }
 
+bool IsShownAsBarcode(const ObjectRecord& object) {
+  return object.ObjType == kDataField && object.FillColor >= kFirstBarcodeFormat;
+}
+
 void ScaleFont(ObjectRecord& object) {
-  double ratio = 0;
-  CarryOn([&] { ratio = WidthRatio(frmMain.shpBox.Width(), StartWidth); });
+  const double ratio = WidthRatio(frmMain.shpBox.Width(), StartWidth);
   CarryOn([&] { object.FontSize = ScaledFontSize(ratio, object.FontSize); });
 }
 
@@ -198,36 +202,71 @@ void MeasureText(Label& hold, const ObjectRecord& object) {
   hold.SetAutoSize(false);
 }
 
-// Only how much wider the box has become counts. The caption stays on the hit area, since nothing
-// is painted anew.
-void ResizeText(ObjectRecord& object) {
+// A text is shown by its hit area, which keeps the caption. A data field is shown by the painter:
+// painted anew, or its former size would stay on the board beside the new one.
+void ShowResizedText(const ObjectRecord& object, Label& hold) {
+  ShowHandles(hold);
+  if (object.ObjType == kText) return;
+  EndMeasuring(hold);
+  RedrawBoard();
+}
+
+void FitToFont(ObjectRecord& object) {
   Label& hold = HoldAt(SelectedObject);
-  ScaleFont(object);
   MeasureText(hold, object);
   frmMain.shpBox.SetHeight(hold.Height());
   frmMain.shpBox.SetWidth(hold.Width());
-  if (object.ObjType == kDataField && object.FillColor < kFirstBarcodeFormat) {
+  if (object.ObjType == kDataField && !IsShownAsBarcode(object)) {
     object.Height = frmMain.shpBox.Height();
     object.Width = frmMain.shpBox.Width();
   }
   frmMain.cboSize.SetText(FormatNumber(object.FontSize));
-  ShowHandles(hold);
+  ShowResizedText(object, hold);
+}
+
+// A line is as thick as it was, whatever its frame: that is drawn thicker to be seen. Only where it
+// has become so short that it would lie instead of stand, or the other way round, it is as thick as
+// the frame.
+void KeepThickness(ObjectRecord& line, double width, double height) {
+  const bool stood = LineStands(width, height);
+  if (stood && LineStands(width, line.Height)) line.Width = width;
+  if (!stood && !LineStands(line.Width, height)) line.Height = height;
 }
 
 void TakeSizeOfFrame(ObjectRecord& object) {
+  const double width = object.Width;
+  const double height = object.Height;
   CarryOn([&] { object.Width = ToFinite(frmMain.shpBox.Width()); });
   if (SizedByFont(object)) return;
   CarryOn([&] { object.Height = ToFinite(frmMain.shpBox.Height()); });
+  if (object.ObjType == kLine) KeepThickness(object, width, height);
+}
+
+// Only how much wider the box has become counts. What was less than half a unit wide has no ratio
+// to grow by: fault 11 ends the drag, with record and frame as they were. One that is shown as a
+// barcode takes its size from the box.
+void ScaleFontByFrame(ObjectRecord& object) {
+  if (IsShownAsBarcode(object)) {
+    CarryOn([&] { ScaleFont(object); });
+    return;
+  }
+  try {
+    ScaleFont(object);
+  } catch (const Fault&) {
+    ShowHandles(HoldAt(SelectedObject));
+    throw;
+  }
 }
 
 void DropHandle() {
   SnapFrame();
   ObjectRecord& object = ObjectAt(SelectedObject);
+  if (SizedByFont(object)) ScaleFontByFrame(object);
   TakePlaceOfFrame(object);
   TakeSizeOfFrame(object);
   frmMain.shpBox.SetBorderStyle(kDots);
   if (SizedByFont(object)) {
-    ResizeText(object);
+    FitToFont(object);
   } else {
     RedrawBoard();
   }
@@ -382,7 +421,7 @@ void lblHandle_MouseUp(int /*Index*/, int /*Button*/, int /*Shift*/, double /*X*
   if (!Dragging) return;
   Dragging = false;
   DirtyFlag = kTrue;
-  if (SelectedObject > -1) CarryOn(DropHandle);
+  if (SelectedObject > -1) Traced(DropHandle);
   RedrawSkip = -1;
 }
 

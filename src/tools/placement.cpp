@@ -140,6 +140,15 @@ void FillEmptyText(ObjectRecord& record) {
   record.Text = "";
 }
 
+// What the box still holds of another text, left blank or with its label, must not reach this one
+// and take its caret away.
+void EmptyTextBox() {
+  const bool loading_before = PanelLoading;
+  PanelLoading = true;
+  frmMain.txtTool.SetText("");
+  PanelLoading = loading_before;
+}
+
 // --- the end of a gesture -----------------------------------------------------------------------
 
 void UsePanelFont() {
@@ -447,7 +456,7 @@ void CreateTextObject() {
   FillEmptyText(NewRecord());
   NewHold().SetCaption("|");
   SetBoxExtent({NewRecord().Width, NewRecord().Height});
-  frmMain.txtTool.SetText("");
+  EmptyTextBox();
   frmMain.shpBox.SetShape(kRectangleShape);
   ShowHandles(NewHold());
   CarryOn([] { frmMain.txtTool.SetFocus(); });
