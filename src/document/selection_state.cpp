@@ -44,7 +44,7 @@ void DropSelection() {
   SelectedUpper = -1;
   SelectedObject = -1;
   HideHandles();
-  ShowNoPlace();
+  ShowSizeFields();
 }
 
 }  // namespace tagwright

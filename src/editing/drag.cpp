@@ -1,5 +1,6 @@
 #include "editing/drag.h"
 
+#include <algorithm>
 #include <cmath>
 #include <string>
 
@@ -8,6 +9,7 @@
 #include "common/public_functions.h"
 #include "document/objects.h"
 #include "document/redraw.h"
+#include "document/shown_size.h"
 #include "editing/geometry.h"
 #include "editing/magnetic_rule.h"
 #include "editing/selected_object.h"
@@ -118,11 +120,11 @@ BoardFrame KeptThin(const BoardFrame& box) {
   return ThinBox(box, stands, stands ? ScreenX(kLineThickness) : ScreenY(kLineThickness));
 }
 
-void ShowFrameSize() {
+void ShowFrameBox() {
   const std::string width = Shown(frmMain.shpBox.Width());
   const std::string height = Shown(frmMain.shpBox.Height());
-  frmMain.txtDSize(2).SetText(width);
-  frmMain.txtDSize(3).SetText(height);
+  ShowPlaceInFields(frmMain.shpBox.Left(), frmMain.shpBox.Top());
+  ShowExtentInFields(frmMain.shpBox.Width(), frmMain.shpBox.Height());
   frmMain.sB1.SetPanelText(2, "Width: " + width + " Height: " + height);
 }
 
@@ -310,6 +312,8 @@ void MoveHandle(Label& handle, double x, double y) {
 
 }  // namespace
 
+bool GestureUnderWay() { return Dragging || RubberBox || RubberLine; }
+
 // --- snapping -----------------------------------------------------------------------------------
 
 double SnapX(double x) { return Take(SnapPoint(x, VerticalRule())); }
@@ -321,7 +325,7 @@ void TrackRubberBox(double x, double y, int corner) {
   BoardFrame box = BoxBetween({x, y}, AnchorOf(corner));
   if (!RubberBox && LineIsSelected()) box = KeptThin(box);
   frmMain.shpBox.Move(box.left, box.top, box.width, box.height);
-  ShowFrameSize();
+  ShowFrameBox();
 }
 
 void TrackRubberLine(double x, double y) {
@@ -329,6 +333,8 @@ void TrackRubberLine(double x, double y) {
   const BoardPoint end = LineEnd({AnchorX, AnchorY}, {x, y}, way);
   frmMain.shpLine.SetX2(end.x);
   frmMain.shpLine.SetY2(end.y);
+  ShowPlaceInFields(std::min(AnchorX, end.x), std::min(AnchorY, end.y));
+  ShowExtentInFields(std::abs(end.x - AnchorX), std::abs(end.y - AnchorY));
 }
 
 int FrameShapeOf(std::int16_t kind) {
@@ -376,6 +382,7 @@ void DragHold(int Index, double X, double Y) {
     frmMain.shpBox.Move(frmMain.shpBox.Left() + dx, frmMain.shpBox.Top() + dy);
   } else if (SelectedObject > -1) {
     ShowHandles(hold);
+    ShowPlaceInFields(hold.Left(), hold.Top());
   }
 }
 
@@ -392,6 +399,7 @@ void EndDrag(int Index) {
   } else if (SelectedObject > -1) {
     CarryOn([&] { DragMoved ? DropObject(hold) : PutBack(hold); });
   }
+  ShowSizeFields();
 }
 
 // --- handles ------------------------------------------------------------------------------------
@@ -423,6 +431,7 @@ void lblHandle_MouseUp(int /*Index*/, int /*Button*/, int /*Shift*/, double /*X*
   DirtyFlag = kTrue;
   if (SelectedObject > -1) Traced(DropHandle);
   RedrawSkip = -1;
+  ShowSizeFields();
 }
 
 void ResetDrag() {

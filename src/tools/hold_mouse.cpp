@@ -5,6 +5,7 @@
 #include "document/objects.h"
 #include "document/redraw.h"
 #include "document/selection_state.h"
+#include "document/shown_size.h"
 #include "editing/drag.h"
 #include "editing/geometry.h"
 #include "editing/object_panels.h"
@@ -53,16 +54,12 @@ void ShowGroup() {
   CarryOn(ShowGroupBox);
 }
 
-void HideGroup() {
-  HideHandles();
-  ShowNoPlace();
-}
-
 void EditGroup(int index) {
   if (SelectedObject >= 0) HoldAt(SelectedObject).SetAutoSize(false);
   ToggleInSelection(index);
   SelectedObject = -1;
-  SelectedUpper < 0 ? HideGroup() : ShowGroup();
+  SelectedUpper < 0 ? HideHandles() : ShowGroup();
+  ShowSizeFields();
 }
 
 // --- the menus of objects -----------------------------------------------------------------------
@@ -173,6 +170,7 @@ void SelectOne(int index, int button, double x, double y) {
     if (left) CarryOn([&] { TakeHold(index, x, y); });
     FillPanelFromObject();
   }
+  if (!GestureUnderWay()) ShowSizeFields();
   ShowObject(index);
 }
 
