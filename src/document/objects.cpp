@@ -5,6 +5,7 @@
 
 #include "document/project_file.h"
 #include "document/redraw.h"
+#include "document/shown_size.h"
 #include "forms/frmMain.h"
 #include "platform/fault.h"
 #include "platform/surface.h"
@@ -143,6 +144,7 @@ void EndMeasuring(Label& hold) {
 }
 
 void ResetDocumentState() {
+  ResetShownSize();
   ResetDocument();
   ResetView();
   ResetRedraw();

@@ -80,8 +80,4 @@ void HideHandles() {
   HideFourHandles();
 }
 
-void ShowNoPlace() {
-  for (const auto& [index, field] : frmMain.txtDSize) field->SetText("0.00");
-}
-
 }  // namespace tagwright

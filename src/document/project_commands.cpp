@@ -62,6 +62,7 @@ bool AskForProject() {
 // The serial settings are kept.
 void mnuFileNew_Click() {
   if (!MayLeaveLabel()) return;
+  KeyboardToBoard();
   HideHitAreas();
   frmMain.shpBox.SetVisible(false);
   EmptyDocument();

@@ -201,6 +201,7 @@ void LoadProject(const std::string& Path) {
   const std::string path = Path;  // the caller's text may change on the way
   frmMain.SetCaption(ProductTitle + " [" + FileBaseName(path) + "]");
   ProjectPath = path;
+  KeyboardToBoard();
   DropSelection();
   EmptySelectionStatus();
   RecreateObjects(path);

@@ -7,6 +7,7 @@
 #include "common/prog_settings.h"
 #include "common/public_functions.h"
 #include "document/objects.h"
+#include "document/shown_size.h"
 #include "forms/frmMain.h"
 #include "platform/dialogs.h"
 #include "platform/fault.h"
@@ -358,7 +359,9 @@ void RedrawBoard(const double& OffsetX, const double& OffsetY, const bool& Outpu
   PaintBackground(pass);
   PrepareForObjects();
   RunPass(pass);
-  if (!pass.output) frmMain.picBoard.ImageChanged();
+  if (pass.output) return;
+  frmMain.picBoard.ImageChanged();
+  ShowSizeFields();
 }
 
 }  // namespace tagwright

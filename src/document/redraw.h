@@ -10,13 +10,13 @@
 namespace tagwright {
 
 // Paints the whole label from Objects on DrawTarget. With `Output` false that is picBoard's canvas
-// and both offsets are ignored; it also puts every hit area over its object and draws handles and
-// rulers. With `Output` true it paints one cell of a sheet at `OffsetX`, `OffsetY` millimetres of
-// the page, on the Printer, which becomes the DrawTarget, or in PreviewMode on the present target.
-// Nothing at all happens while BoardReady is zero or SuspendRedraw is not. Changes RedrawCount,
-// RedrawSkip, BoardOriginX and BoardOriginY, on the screen PendingScrollX and PendingScrollY too.
-// An unreadable picture drops the newest object and ends the redraw: ZoomFactor and RedrawSkip are
-// not put back then. Never faults.
+// and both offsets are ignored; it also puts every hit area over its object, draws handles and
+// rulers and shows the selection's place and size in txtDSize. With `Output` true it paints one
+// cell of a sheet at `OffsetX`, `OffsetY` millimetres of the page, on the Printer, which becomes
+// the DrawTarget, or in PreviewMode on the present target. Nothing at all happens while BoardReady
+// is zero or SuspendRedraw is not. Changes RedrawCount, RedrawSkip, BoardOriginX and BoardOriginY,
+// on the screen PendingScrollX and PendingScrollY too. An unreadable picture drops the newest
+// object and ends the redraw: ZoomFactor and RedrawSkip are not put back then. Never faults.
 void RedrawBoard(const double& OffsetX, const double& OffsetY, const bool& Output);
 
 // The screen's redraw: offsets are ignored there.
@@ -51,8 +51,6 @@ void ShowGroupBox();
 void PlaceHandlesAroundFrame(double gap);
 // Hides shpBox and the handles.
 void HideHandles();
-// txtDSize at 0.00 throughout: nothing is selected whose place it could show.
-void ShowNoPlace();
 
 // The rulers along the board's top and left side; nothing with mnuFileRulers unchecked. Ticks stand
 // every RulerScale millimetres from the label's corner, numbers at every tenth. A label too far

@@ -2,7 +2,9 @@
 
 #include "document/objects.h"
 #include "document/redraw.h"
+#include "document/shown_size.h"
 #include "forms/frmMain.h"
+#include "platform/fault.h"
 
 namespace tagwright {
 namespace {
@@ -32,13 +34,17 @@ void DisableSelectionCommands() {
   }
 }
 
+void KeyboardToBoard() {
+  CarryOn([] { frmMain.txtSetFocus(0).SetFocus(); });
+}
+
 void DropSelection() {
   DisableSelectionCommands();
   EndMeasuringEverywhere();
   SelectedUpper = -1;
   SelectedObject = -1;
   HideHandles();
-  ShowNoPlace();
+  ShowSizeFields();
 }
 
 }  // namespace tagwright

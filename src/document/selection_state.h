@@ -9,6 +9,10 @@ namespace tagwright {
 void EnableSelectionCommands(bool group);
 void DisableSelectionCommands();
 
+// Whoever has the keyboard gives it up, so that a text that is about to go with its label does not
+// keep Ctrl+A and Ctrl+C for itself.
+void KeyboardToBoard();
+
 // Nothing selected, whatever keys are held and without a look at the records, which may be others
 // by now: state, commands, frame, handles and txtDSize. No hit area shows a text any more; the
 // board is not redrawn.

@@ -1,12 +1,15 @@
 #include "editing/drag.h"
 
+#include <algorithm>
 #include <cmath>
 #include <string>
 
+#include "common/diagnostics.h"
 #include "common/prog_settings.h"
 #include "common/public_functions.h"
 #include "document/objects.h"
 #include "document/redraw.h"
+#include "document/shown_size.h"
 #include "editing/geometry.h"
 #include "editing/magnetic_rule.h"
 #include "editing/selected_object.h"
@@ -37,6 +40,8 @@ bool group_drag = false;  // what the press has taken hold of
 
 double UnitsX(double twips) { return frmMain.picBoard.ScaleX(twips, kTwips, kUserScale); }
 double UnitsY(double twips) { return frmMain.picBoard.ScaleY(twips, kTwips, kUserScale); }
+double TwipsX(double units) { return frmMain.picBoard.ScaleX(units, kUserScale, kTwips); }
+double TwipsY(double units) { return frmMain.picBoard.ScaleY(units, kUserScale, kTwips); }
 
 // Of a length on screen.
 double ScreenX(double millimetres) {
@@ -115,11 +120,11 @@ BoardFrame KeptThin(const BoardFrame& box) {
   return ThinBox(box, stands, stands ? ScreenX(kLineThickness) : ScreenY(kLineThickness));
 }
 
-void ShowFrameSize() {
+void ShowFrameBox() {
   const std::string width = Shown(frmMain.shpBox.Width());
   const std::string height = Shown(frmMain.shpBox.Height());
-  frmMain.txtDSize(2).SetText(width);
-  frmMain.txtDSize(3).SetText(height);
+  ShowPlaceInFields(frmMain.shpBox.Left(), frmMain.shpBox.Top());
+  ShowExtentInFields(frmMain.shpBox.Width(), frmMain.shpBox.Height());
   frmMain.sB1.SetPanelText(2, "Width: " + width + " Height: " + height);
 }
 
@@ -182,9 +187,12 @@ bool SizedByFont(const ObjectRecord& object) {
   return object.ObjType == kText || object.ObjType == kDataField;
 }
 
+bool IsShownAsBarcode(const ObjectRecord& object) {
+  return object.ObjType == kDataField && object.FillColor >= kFirstBarcodeFormat;
+}
+
 void ScaleFont(ObjectRecord& object) {
-  double ratio = 0;
-  CarryOn([&] { ratio = WidthRatio(frmMain.shpBox.Width(), StartWidth); });
+  const double ratio = WidthRatio(frmMain.shpBox.Width(), StartWidth);
   CarryOn([&] { object.FontSize = ScaledFontSize(ratio, object.FontSize); });
 }
 
@@ -196,36 +204,71 @@ void MeasureText(Label& hold, const ObjectRecord& object) {
   hold.SetAutoSize(false);
 }
 
-// Only how much wider the box has become counts. The caption stays on the hit area, since nothing
-// is painted anew.
-void ResizeText(ObjectRecord& object) {
+// A text is shown by its hit area, which keeps the caption. A data field is shown by the painter:
+// painted anew, or its former size would stay on the board beside the new one.
+void ShowResizedText(const ObjectRecord& object, Label& hold) {
+  ShowHandles(hold);
+  if (object.ObjType == kText) return;
+  EndMeasuring(hold);
+  RedrawBoard();
+}
+
+void FitToFont(ObjectRecord& object) {
   Label& hold = HoldAt(SelectedObject);
-  ScaleFont(object);
   MeasureText(hold, object);
   frmMain.shpBox.SetHeight(hold.Height());
   frmMain.shpBox.SetWidth(hold.Width());
-  if (object.ObjType == kDataField && object.FillColor < kFirstBarcodeFormat) {
+  if (object.ObjType == kDataField && !IsShownAsBarcode(object)) {
     object.Height = frmMain.shpBox.Height();
     object.Width = frmMain.shpBox.Width();
   }
   frmMain.cboSize.SetText(FormatNumber(object.FontSize));
-  ShowHandles(hold);
+  ShowResizedText(object, hold);
+}
+
+// A line is as thick as it was, whatever its frame: that is drawn thicker to be seen. Only where it
+// has become so short that it would lie instead of stand, or the other way round, it is as thick as
+// the frame.
+void KeepThickness(ObjectRecord& line, double width, double height) {
+  const bool stood = LineStands(width, height);
+  if (stood && LineStands(width, line.Height)) line.Width = width;
+  if (!stood && !LineStands(line.Width, height)) line.Height = height;
 }
 
 void TakeSizeOfFrame(ObjectRecord& object) {
+  const double width = object.Width;
+  const double height = object.Height;
   CarryOn([&] { object.Width = ToFinite(frmMain.shpBox.Width()); });
   if (SizedByFont(object)) return;
   CarryOn([&] { object.Height = ToFinite(frmMain.shpBox.Height()); });
+  if (object.ObjType == kLine) KeepThickness(object, width, height);
+}
+
+// Only how much wider the box has become counts. What was less than half a unit wide has no ratio
+// to grow by: fault 11 ends the drag, with record and frame as they were. One that is shown as a
+// barcode takes its size from the box.
+void ScaleFontByFrame(ObjectRecord& object) {
+  if (IsShownAsBarcode(object)) {
+    CarryOn([&] { ScaleFont(object); });
+    return;
+  }
+  try {
+    ScaleFont(object);
+  } catch (const Fault&) {
+    ShowHandles(HoldAt(SelectedObject));
+    throw;
+  }
 }
 
 void DropHandle() {
   SnapFrame();
   ObjectRecord& object = ObjectAt(SelectedObject);
+  if (SizedByFont(object)) ScaleFontByFrame(object);
   TakePlaceOfFrame(object);
   TakeSizeOfFrame(object);
   frmMain.shpBox.SetBorderStyle(kDots);
   if (SizedByFont(object)) {
-    ResizeText(object);
+    FitToFont(object);
   } else {
     RedrawBoard();
   }
@@ -269,6 +312,8 @@ void MoveHandle(Label& handle, double x, double y) {
 
 }  // namespace
 
+bool GestureUnderWay() { return Dragging || RubberBox || RubberLine; }
+
 // --- snapping -----------------------------------------------------------------------------------
 
 double SnapX(double x) { return Take(SnapPoint(x, VerticalRule())); }
@@ -278,15 +323,18 @@ double SnapY(double y) { return Take(SnapPoint(y, HorizontalRule())); }
 
 void TrackRubberBox(double x, double y, int corner) {
   BoardFrame box = BoxBetween({x, y}, AnchorOf(corner));
-  if (LineIsSelected()) box = KeptThin(box);
+  if (!RubberBox && LineIsSelected()) box = KeptThin(box);
   frmMain.shpBox.Move(box.left, box.top, box.width, box.height);
-  ShowFrameSize();
+  ShowFrameBox();
 }
 
 void TrackRubberLine(double x, double y) {
-  const BoardPoint end = LineEnd({AnchorX, AnchorY}, {x, y});
+  const BoardPoint way = {TwipsX(x - AnchorX), TwipsY(y - AnchorY)};
+  const BoardPoint end = LineEnd({AnchorX, AnchorY}, {x, y}, way);
   frmMain.shpLine.SetX2(end.x);
   frmMain.shpLine.SetY2(end.y);
+  ShowPlaceInFields(std::min(AnchorX, end.x), std::min(AnchorY, end.y));
+  ShowExtentInFields(std::abs(end.x - AnchorX), std::abs(end.y - AnchorY));
 }
 
 int FrameShapeOf(std::int16_t kind) {
@@ -334,6 +382,7 @@ void DragHold(int Index, double X, double Y) {
     frmMain.shpBox.Move(frmMain.shpBox.Left() + dx, frmMain.shpBox.Top() + dy);
   } else if (SelectedObject > -1) {
     ShowHandles(hold);
+    ShowPlaceInFields(hold.Left(), hold.Top());
   }
 }
 
@@ -350,6 +399,7 @@ void EndDrag(int Index) {
   } else if (SelectedObject > -1) {
     CarryOn([&] { DragMoved ? DropObject(hold) : PutBack(hold); });
   }
+  ShowSizeFields();
 }
 
 // --- handles ------------------------------------------------------------------------------------
@@ -379,8 +429,9 @@ void lblHandle_MouseUp(int /*Index*/, int /*Button*/, int /*Shift*/, double /*X*
   if (!Dragging) return;
   Dragging = false;
   DirtyFlag = kTrue;
-  if (SelectedObject > -1) CarryOn(DropHandle);
+  if (SelectedObject > -1) Traced(DropHandle);
   RedrawSkip = -1;
+  ShowSizeFields();
 }
 
 void ResetDrag() {

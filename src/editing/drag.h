@@ -26,18 +26,22 @@ inline bool SnapHit = false;         // SnapX or SnapY has snapped
 inline std::int16_t RubberBox = 0;   // -1 while shpBox is drawn up for a new object or a zoom
 inline std::int16_t RubberLine = 0;  // -1 while shpLine is drawn for a new line
 
+// Whether the mouse draws or drags just now: until the release txtDSize shows what it does.
+bool GestureUnderWay();
+
 // The coordinate, or that of the vertical (horizontal) magnetic rule when that is in force and
 // near. Sets SnapHit when it snaps and leaves it alone otherwise.
 double SnapX(double x);
 double SnapY(double y);
 
 // shpBox between the point and the anchor corner: 0 AnchorX, AnchorY; 1 AnchorRight, AnchorBottom;
-// 2 AnchorX, AnchorBottom; 3 AnchorRight, AnchorY. The box of a selected line stays half a
-// millimetre thin on screen. txtDSize 2 and 3 and panel 2 of sB1 show its size in the user's unit.
+// 2 AnchorX, AnchorBottom; 3 AnchorRight, AnchorY. The box of a selected line that is resized stays
+// half a millimetre thin on screen. txtDSize shows the box, panel 2 of sB1 its size, in the user's
+// unit.
 void TrackRubberBox(double x, double y, int corner);
 
 // Ends shpLine level with or straight above or below AnchorX, AnchorY, whichever is nearer to the
-// point.
+// point; level where both are as near. txtDSize shows what it spans.
 void TrackRubberLine(double x, double y);
 
 // What shpBox looks like around an object of this kind: 0 rectangle, 2 oval, 4 rounded.

@@ -31,8 +31,11 @@ BoardFrame ThinBox(const BoardFrame& box, bool stands, double thickness) {
   return {box.left, box.top, box.width, thickness};
 }
 
-BoardPoint LineEnd(const BoardPoint& anchor, const BoardPoint& pointer) {
-  const bool level = std::abs(pointer.y - anchor.y) <= std::abs(pointer.x - anchor.x);
+// Far below a pixel, of which a twip is a fifteenth, and far above what rounding leaves.
+constexpr double kSameWay = 0.01;
+
+BoardPoint LineEnd(const BoardPoint& anchor, const BoardPoint& pointer, const BoardPoint& way) {
+  const bool level = std::abs(way.y) <= std::abs(way.x) + kSameWay;
   return level ? BoardPoint{pointer.x, anchor.y} : BoardPoint{anchor.x, pointer.y};
 }
 

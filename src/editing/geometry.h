@@ -55,9 +55,10 @@ bool LineStands(double width, double height);
 // The box of a line that is dragged: as long as `box`, and `thickness` across it.
 BoardFrame ThinBox(const BoardFrame& box, bool stands, double thickness);
 
-// Where a line from `anchor` towards `pointer` ends: level unless the pointer is farther away down
-// or up than across.
-BoardPoint LineEnd(const BoardPoint& anchor, const BoardPoint& pointer);
+// Where a line from `anchor` towards `pointer` ends: level unless the pointer has gone farther down
+// or up than across. `way` is how far it has gone in the unit that pointers move in, twips: their
+// board units are rounded, each axis by itself, and two ways of the same length would differ.
+BoardPoint LineEnd(const BoardPoint& anchor, const BoardPoint& pointer, const BoardPoint& way);
 
 // --- handles ------------------------------------------------------------------------------------
 

@@ -5,6 +5,7 @@
 
 #include "common/public_functions.h"
 #include "document/redraw.h"
+#include "document/shown_size.h"
 #include "editing/panel_stack.h"
 #include "editing/selected_object.h"
 #include "forms/frmMain.h"

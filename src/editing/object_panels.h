@@ -73,16 +73,18 @@ void cboWeight_Click();
 
 // --- place and size -----------------------------------------------------------------------------
 
-// Left, top, width and height of the selected object in txtDSize, in the user's unit.
-void ShowSizeFields();
-
 void txtDSize_GotFocus(int Index);  // without a single selection the keyboard goes to the board
 void txtDSize_MouseMove(int Index);
 void txtDSize_KeyPress(int Index, int& KeyAscii);  // numbers only
 
-// The selected object takes all four numbers, whichever field was left, and the board is redrawn.
-// DirtyFlag stays as it is.
+// Whichever field was left, the object that is selected by itself takes each of the four numbers
+// that is not what its record shows there: a field left as it stood moves nothing, though what it
+// shows is rounded. The board is redrawn; DirtyFlag stays as it is. Nothing while the mouse draws
+// or drags, whose figures the fields show then.
 void txtDSize_LostFocus(int Index);
+
+// The same without the redraw, for who is about to change what an entry under way means.
+void TakeSizeEntry();
 
 // This module's state as at program start.
 void ResetObjectPanels();

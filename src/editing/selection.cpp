@@ -6,6 +6,7 @@
 #include "document/objects.h"
 #include "document/redraw.h"
 #include "document/selection_state.h"
+#include "document/shown_size.h"
 #include "editing/object_panels.h"
 #include "editing/panel_stack.h"
 #include "editing/selected_object.h"
@@ -32,8 +33,16 @@ bool IsText(int index) {
 bool IsEmptyText(int index) { return IsText(index) && ObjectAt(index).Text.Trimmed().empty(); }
 
 void LeaveFields() {
-  CarryOn([] { frmMain.txtSetFocus(0).SetFocus(); });
+  KeyboardToBoard();
   if (TextEditOpen) CommitTextEdit();
+}
+
+// A menu leaves the keyboard where it is: what was typed there is for the object that was selected
+// then.
+void LeaveSizeFields() {
+  for (const auto& [index, field] : frmMain.txtDSize) {
+    if (field->HasFocus()) KeyboardToBoard();
+  }
 }
 
 // --- the end of a text's selection --------------------------------------------------------------
@@ -146,13 +155,13 @@ void DeselectObject() {
   if (ModifierHeld) return;
   DisableSelectionCommands();
   SelectedUpper = -1;
-  if (SelectedObject == -1) return ShowNoPlace();
+  if (SelectedObject == -1) return ShowSizeFields();
   LeaveFields();
   frmMain.sB1.SetPanelText(2, "");
   if (IsText(SelectedObject)) CarryOn([] { EndText(SelectedObject); });
   HideHandles();
-  ShowNoPlace();
   SelectedObject = -1;
+  ShowSizeFields();
 }
 
 // The fields are left while the record still stands in its place: what was typed there must not
@@ -208,11 +217,13 @@ void mnuEditSelectAll_Click() {
   if (selecting_all) return;
   frmMain.sB1.SetPanelText(3, "");
   if (ObjectUB < 0) return;
+  LeaveSizeFields();
   RemoveEmptyTexts();
   if (ObjectUB < 0) return DropSelection();
   ListAllObjects();
   CountSelected();
   SelectedUpper < 1 ? SelectTheOnlyObject() : SelectGroup();
+  ShowSizeFields();
   EnableSelectionCommands(true);
 }
 

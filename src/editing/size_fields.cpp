@@ -1,13 +1,16 @@
 // The four fields of place and size.
-#include <string>
+#include <algorithm>
+#include <cstddef>
 
 #include "common/public_functions.h"
 #include "document/redraw.h"
+#include "document/selection_state.h"
+#include "document/shown_size.h"
+#include "editing/drag.h"
 #include "editing/object_panels.h"
 #include "editing/selected_object.h"
 #include "forms/frmMain.h"
 #include "platform/fault.h"
-#include "platform/locale.h"
 
 namespace tagwright {
 namespace {
@@ -21,17 +24,33 @@ constexpr int kArrow = 1;
 // Param, and FillColor is 0. Postal symbols can be typed over.
 constexpr std::int32_t kPostNetMark = 12;
 
-bool OneIsSelected() { return SelectedObject > -1 && SelectedUpper < 0; }
-
-void Show(int field, double millimetres) {
-  frmMain.txtDSize(field).SetText(FormatFixed(millimetres / UnitScale, 2));
+bool OneIsSelected() {
+  return SelectedObject > -1 && SelectedObject <= ObjectUB && SelectedUpper < 0;
 }
 
-double Entered(int field) { return ToNumber(frmMain.txtDSize(field).Text()) * UnitScale; }
+// Which of the fields say something else than the record.
+class Entries {
+ public:
+  explicit Entries(const ObjectRecord& record) : shown_(ShownSizeOf(record)) {}
 
-void TakePlace() {
-  CarryOn([] { SelectedRecord().Left = ToSingle(Entered(kLeft)); });
-  CarryOn([] { SelectedRecord().Top = ToSingle(Entered(kTop)); });
+  bool Has(Field field) const {
+    return frmMain.txtDSize(field).Text() != shown_[static_cast<std::size_t>(field)];
+  }
+
+  // Gives the number to `take` if there is one.
+  template <class Take>
+  void Give(Field field, Take&& take) const {
+    if (!Has(field)) return;
+    CarryOn([&] { take(ToNumber(frmMain.txtDSize(field).Text()) * UnitScale); });
+  }
+
+ private:
+  ShownSize shown_;
+};
+
+void TakePlace(const Entries& entries, ObjectRecord& record) {
+  entries.Give(kLeft, [&](double millimetres) { record.Left = ToSingle(millimetres); });
+  entries.Give(kTop, [&](double millimetres) { record.Top = ToSingle(millimetres); });
 }
 
 void MoveHoldToPlace() {
@@ -44,30 +63,33 @@ bool KeepsItsSize(const ObjectRecord& record) {
   return record.ObjType == kBarcode && record.FillColor == kPostNetMark;
 }
 
-void TakeSize() {
-  ObjectRecord& record = SelectedRecord();
+void TakeSize(const Entries& entries, ObjectRecord& record) {
   if (KeepsItsSize(record)) return;
-  CarryOn([&] { record.Width = ToFinite(Entered(kWidth)); });
-  CarryOn([&] { record.Height = ToFinite(Entered(kHeight)); });
+  entries.Give(kWidth, [&](double millimetres) { record.Width = ToFinite(millimetres); });
+  entries.Give(kHeight, [&](double millimetres) { record.Height = ToFinite(millimetres); });
+}
+
+void TakeEntries() {
+  ObjectRecord& record = SelectedRecord();
+  const Entries entries(record);
+  const bool moved = entries.Has(kLeft) || entries.Has(kTop);
+  TakePlace(entries, record);
+  if (moved && IsMeasured(record.ObjType)) CarryOn(MoveHoldToPlace);
+  TakeSize(entries, record);
+}
+
+bool OneIsBeingTypedIn() {
+  return std::ranges::any_of(frmMain.txtDSize,
+                             [](const auto& element) { return element.second->HasFocus(); });
 }
 
 }  // namespace
-
-void ShowSizeFields() {
-  CarryOn([] {
-    const ObjectRecord& record = SelectedRecord();
-    Show(kLeft, record.Left);
-    Show(kTop, record.Top);
-    Show(kWidth, record.Width);
-    Show(kHeight, record.Height);
-  });
-}
 
 void txtDSize_GotFocus(int /*Index*/) {
   if (OneIsSelected()) {
     TextEntryActive = true;
   } else {
-    CarryOn([] { frmMain.txtSetFocus(0).SetFocus(); });
+    KeyboardToBoard();
   }
 }
 
@@ -79,12 +101,17 @@ void txtDSize_KeyPress(int Index, int& KeyAscii) {
   KeyAscii = FilterKey(KeyAscii, kFalse, kFalse, kFalse, kTrue, kFalse, frmMain.txtDSize(Index));
 }
 
+void TakeSizeEntry() {
+  if (OneIsBeingTypedIn() && OneIsSelected() && !GestureUnderWay()) CarryOn(TakeEntries);
+}
+
 void txtDSize_LostFocus(int /*Index*/) {
-  if (SelectedObject < 0) return;
-  TakePlace();
-  if (IsMeasured(SelectedKind())) CarryOn(MoveHoldToPlace);
-  CarryOn(TakeSize);
-  RedrawBoard();
+  if (GestureUnderWay()) return;
+  if (OneIsSelected()) {
+    CarryOn(TakeEntries);
+    RedrawBoard();
+  }
+  ShowSizeFields();
 }
 
 }  // namespace tagwright

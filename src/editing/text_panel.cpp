@@ -3,6 +3,7 @@
 
 #include "common/public_functions.h"
 #include "document/redraw.h"
+#include "document/shown_size.h"
 #include "editing/object_panels.h"
 #include "editing/selected_object.h"
 #include "forms/frmMain.h"
@@ -144,7 +145,9 @@ void cmdAlign_Click(int Index) {
 }
 
 void CommitTextEdit() {
-  if (TextIsSelected()) CarryOn(StoreTypedText);
+  if (!TextIsSelected()) return;
+  CarryOn(StoreTypedText);
+  ShowSizeFields();
 }
 
 void txtTool_GotFocus() {
@@ -167,6 +170,7 @@ void txtTool_KeyPress(int& /*KeyAscii*/) {
 void txtTool_Change() {
   if (PanelLoading || SelectedObject < 0) return;
   CarryOn(TakeTypedText);
+  ShowSizeFields();
 }
 
 }  // namespace tagwright

@@ -4,6 +4,8 @@
 
 #include "common/public_functions.h"
 #include "document/objects.h"
+#include "document/shown_size.h"
+#include "editing/drag.h"
 #include "forms/frmMain.h"
 #include "platform/locale.h"
 
@@ -16,13 +18,6 @@ constexpr int kCustomPointer = 99;
 // of 0.1 / 25.4.
 std::string ShownPlace(double board_units) {
   return FormatFixed(ToNumber(FormatFixed(board_units, 1)) / UnitScale, 2);
-}
-
-void ShowSelectionPlace() {
-  if (SelectedObject < 0) return;
-  const Label& hold = HoldAt(SelectedObject);
-  frmMain.txtDSize(0).SetText(FormatFixed((hold.Left() - BoardOriginX) / UnitScale, 2));
-  frmMain.txtDSize(1).SetText(FormatFixed((hold.Top() - BoardOriginY) / UnitScale, 2));
 }
 
 }  // namespace
@@ -53,7 +48,7 @@ void TrackStatus(const Control& control, double X, double Y) {
   }
   frmMain.sB1.SetPanelText(
       1, "X:" + ShownPlace(x - BoardOriginX) + " - Y:" + ShownPlace(y - BoardOriginY) + UnitName());
-  ShowSelectionPlace();
+  if (!GestureUnderWay()) ShowSizeFields();
 }
 
 void RestorePointer() {

@@ -4,6 +4,7 @@
 
 #include "barcode/validation.h"
 #include "document/redraw.h"
+#include "document/shown_size.h"
 #include "forms/frmMain.h"
 #include "platform/dialogs.h"
 #include "platform/fault.h"
@@ -138,7 +139,7 @@ void chkPriCharacter_Click() {
 
 void cmdBCode_Click() {
   SelectedObject = -1;
-  ShowNoPlace();
+  ShowSizeFields();
   CurrentTool = kBarcode;
   CursorShape = kBarcodePointer;
   frmMain.SetMouseIcon(frmMain.Image5.Icon());

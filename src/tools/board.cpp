@@ -5,6 +5,7 @@
 #include "common/public_functions.h"
 #include "document/objects.h"
 #include "document/redraw.h"
+#include "document/shown_size.h"
 #include "editing/drag.h"
 #include "editing/selection.h"
 #include "editing/track_status.h"
@@ -43,7 +44,7 @@ void EndSelection() {
   if (SelectedUpper < 0) return;
   SelectedUpper = -1;
   HideHandles();
-  ShowNoPlace();
+  ShowSizeFields();
 }
 
 void EndEntry() {

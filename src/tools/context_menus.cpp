@@ -5,6 +5,7 @@
 
 #include "common/public_functions.h"
 #include "document/redraw.h"
+#include "document/shown_size.h"
 #include "editing/selected_object.h"
 #include "forms/frmMain.h"
 #include "platform/dialogs.h"
@@ -13,9 +14,6 @@
 
 namespace tagwright {
 namespace {
-
-constexpr int kWidthField = 2;
-constexpr int kHeightField = 3;
 
 std::int16_t KindOfEntry(int index) {
   switch (index) {
@@ -38,12 +36,6 @@ void CopyHeightToWidth() {
 void CopyWidthToHeight() {
   SelectedRecord().Height = SelectedRecord().Width;
   SelectedHold().SetHeight(SelectedRecord().Height);
-}
-
-void ShowSize() {
-  const ObjectRecord& record = SelectedRecord();
-  frmMain.txtDSize(kWidthField).SetText(FormatFixed(record.Width / UnitScale, 2));
-  frmMain.txtDSize(kHeightField).SetText(FormatFixed(record.Height / UnitScale, 2));
 }
 
 double PictureX() { return ToNumber(frmMain.lblGraphicX.Caption()); }
@@ -83,7 +75,7 @@ void mnuDrawChange_Click(int Index) {
 
 void mnuShpAspect_Click(int Index) {
   CarryOn(Index == 0 ? CopyHeightToWidth : CopyWidthToHeight);
-  CarryOn(ShowSize);
+  ShowSizeFields();
   RedrawBoard();
 }
 
@@ -100,11 +92,13 @@ void mnuGraphicWidth_Click() {
 void mnuBCSetWid_Click() {
   const std::optional<double> width = AskForLength("width");
   if (width) CarryOn([&] { SelectedRecord().Width = ToFinite(*width); });
+  ShowSizeFields();
 }
 
 void mnuBCSetHgt_Click() {
   const std::optional<double> height = AskForLength("height");
   if (height) CarryOn([&] { SelectedRecord().Height = ToFinite(*height); });
+  ShowSizeFields();
 }
 
 void mnuBCSetChars_Click() {

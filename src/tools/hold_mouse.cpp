@@ -5,6 +5,7 @@
 #include "document/objects.h"
 #include "document/redraw.h"
 #include "document/selection_state.h"
+#include "document/shown_size.h"
 #include "editing/drag.h"
 #include "editing/geometry.h"
 #include "editing/object_panels.h"
@@ -53,16 +54,12 @@ void ShowGroup() {
   CarryOn(ShowGroupBox);
 }
 
-void HideGroup() {
-  HideHandles();
-  ShowNoPlace();
-}
-
 void EditGroup(int index) {
   if (SelectedObject >= 0) HoldAt(SelectedObject).SetAutoSize(false);
   ToggleInSelection(index);
   SelectedObject = -1;
-  SelectedUpper < 0 ? HideGroup() : ShowGroup();
+  SelectedUpper < 0 ? HideHandles() : ShowGroup();
+  ShowSizeFields();
 }
 
 // --- the menus of objects -----------------------------------------------------------------------
@@ -146,7 +143,16 @@ double BoardY(int index, double y) {
   return HoldAt(index).Top() + frmMain.picBoard.ScaleY(y, kTwips, kUserScale);
 }
 
-void BeginToolOver(int index, double x, double y) { BeginTool(BoardX(index, x), BoardY(index, y)); }
+// A column lands beside what is on the label, and a zoom leaves it selected.
+bool ToolMakesAnObjectHere() { return CurrentTool != kDataField && CurrentTool < kZoomIn; }
+
+// What lies under a new object is not selected while that is drawn: it would take the weight that a
+// line is given, and a line there would keep the box as thin as itself.
+void BeginToolOver(int index, double x, double y) {
+  if (ToolMakesAnObjectHere()) SelectedObject = -1;
+  BeginTool(BoardX(index, x), BoardY(index, y));
+  if (SelectedObject < 0) DisableSelectionCommands();
+}
 
 // The former selection may have been an empty text, with which this object has gone, or which has
 // left everything selected.
@@ -164,6 +170,7 @@ void SelectOne(int index, int button, double x, double y) {
     if (left) CarryOn([&] { TakeHold(index, x, y); });
     FillPanelFromObject();
   }
+  if (!GestureUnderWay()) ShowSizeFields();
   ShowObject(index);
 }
 

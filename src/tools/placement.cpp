@@ -7,6 +7,7 @@
 #include "common/public_functions.h"
 #include "document/redraw.h"
 #include "document/selection_state.h"
+#include "document/shown_size.h"
 #include "editing/drag.h"
 #include "editing/object_panels.h"
 #include "editing/panel_stack.h"
@@ -49,8 +50,6 @@ void AppendRecord() {
   SelectedObject = ObjectUB;
   SelectedUpper = -1;
 }
-
-bool NothingIsSelected() { return SelectedObject < 0 && SelectedUpper < 0; }
 
 Extent BoxExtent() { return {frmMain.shpBox.Width(), frmMain.shpBox.Height()}; }
 
@@ -95,11 +94,16 @@ void BeginText(double X, double Y) {
   CreateTextObject();
 }
 
+// What is drawn begins without an extent.
+void ShowAnchor() {
+  ShowPlaceInFields(AnchorX, AnchorY);
+  ShowExtentInFields(0, 0);
+}
+
 void AnchorBox(double X, double Y) {
   AnchorX = SnapX(X);
   AnchorY = SnapY(Y);
-  frmMain.txtDSize(0).SetText(FormatFixed((AnchorX - BoardOriginX) / UnitScale, 2));
-  frmMain.txtDSize(1).SetText(FormatFixed((AnchorY - BoardOriginY) / UnitScale, 2));
+  ShowAnchor();
   frmMain.shpBox.Move(AnchorX, AnchorY, 0, 0);
   frmMain.shpBox.SetVisible(true);
   frmMain.shpBox.SetBorderStyle(kDots);
@@ -114,6 +118,7 @@ void AnchorLine(double X, double Y) {
   frmMain.shpLine.SetY1(Y);
   frmMain.shpLine.SetY2(Y);
   frmMain.shpLine.SetVisible(true);
+  ShowAnchor();
 }
 
 // --- a text -------------------------------------------------------------------------------------
@@ -138,6 +143,15 @@ void FillEmptyText(ObjectRecord& record) {
   record.ForeColor = frmMain.lblTextColor.BackColor();
   record.ObjType = kText;
   record.Text = "";
+}
+
+// What the box still holds of another text, left blank or with its label, must not reach this one
+// and take its caret away.
+void EmptyTextBox() {
+  const bool loading_before = PanelLoading;
+  PanelLoading = true;
+  frmMain.txtTool.SetText("");
+  PanelLoading = loading_before;
 }
 
 // --- the end of a gesture -----------------------------------------------------------------------
@@ -346,6 +360,7 @@ void ShowNewObject() {
   Traced(TakePlaceOfBox);
   if (!HasItsSize()) Traced(TakeSizeOfBox);
   NewRecord().ObjType = CurrentTool;
+  frmMain.shpBox.SetShape(FrameShapeOf(CurrentTool));
   ShowHandles(NewHold());
   SelectedObject = ObjectUB;
   CurrentTool = kNoTool;
@@ -438,7 +453,7 @@ void PlaceObject() {
   } else {
     Traced(CompleteGesture);
   }
-  if (NothingIsSelected()) ShowNoPlace();
+  ShowSizeFields();
 }
 
 void CreateTextObject() {
@@ -446,12 +461,13 @@ void CreateTextObject() {
   FillEmptyText(NewRecord());
   NewHold().SetCaption("|");
   SetBoxExtent({NewRecord().Width, NewRecord().Height});
-  frmMain.txtTool.SetText("");
+  EmptyTextBox();
   frmMain.shpBox.SetShape(kRectangleShape);
   ShowHandles(NewHold());
   CarryOn([] { frmMain.txtTool.SetFocus(); });
   CurrentTool = kNoTool;
   CursorShape = 0;
+  ShowSizeFields();
 }
 
 void InsertPicture() {

@@ -5,6 +5,9 @@
 #include "common/prog_settings.h"
 #include "common/public_functions.h"
 #include "document/redraw.h"
+#include "document/selection_state.h"
+#include "document/shown_size.h"
+#include "editing/object_panels.h"
 #include "editing/selection.h"
 #include "forms/frmMain.h"
 #include "layouts/layout_list.h"
@@ -27,10 +30,6 @@ double Quotient(double value, double divisor) {
 }
 
 int Middle(const ScrollBar& bar) { return ToInt16(bar.Max() / 2.0); }
-
-void KeyboardToBoard() {
-  CarryOn([] { frmMain.txtSetFocus(0).SetFocus(); });
-}
 
 void SetPointer(std::int16_t shape) {
   CursorShape = shape;
@@ -99,13 +98,6 @@ void ShowCrossHairs(bool shown) {
 }
 
 void TurnOver(Menu& entry) { entry.SetChecked(!entry.Checked()); }
-
-// From one unit to another, both in millimetres.
-void ConvertSizeFields(double from, double to) {
-  for (const auto& [index, field] : frmMain.txtDSize) {
-    field->SetText(FormatFixed(ToNumber(field->Text()) * from / to, 2));
-  }
-}
 
 void ShowUnit(bool metric, double ruler_scale, double unit_scale) {
   RulerScale = ruler_scale;
@@ -220,18 +212,20 @@ void UseInches() { ShowUnit(false, 2.54, kMillimetresPerInch); }
 
 // An installation whose layouts could not be read has none to choose.
 void mnuUnitMM_Click() {
+  TakeSizeEntry();
   ProgSettings.MetricUnits = kTrue;
   UseMillimetres();
   RedrawBoard();
-  ConvertSizeFields(kMillimetresPerInch, 1.0);
+  ShowSizeFields();
   CarryOn(FillLayoutList);
 }
 
 void mnuUnitIn_Click() {
+  TakeSizeEntry();
   ProgSettings.MetricUnits = kFalse;
   UseInches();
   RedrawBoard();
-  ConvertSizeFields(1.0, kMillimetresPerInch);
+  ShowSizeFields();
   CarryOn(FillLayoutList);
 }
 

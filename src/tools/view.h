@@ -77,9 +77,9 @@ void mnuFileRulers_Click();
 void UseMillimetres();
 void UseInches();
 
-// Changes the unit and keeps it in the settings: redraws, converts the numbers of txtDSize (also
-// when the unit was this one already) and rebuilds the layout list, which selects the default
-// layout and so gives the label its size.
+// Changes the unit and keeps it in the settings: redraws, shows the selection's place and size in
+// the unit and rebuilds the layout list, which selects the default layout and so gives the label
+// its size. A length that is being typed is taken first, in the unit in which it was begun.
 void mnuUnitMM_Click();
 void mnuUnitIn_Click();
 

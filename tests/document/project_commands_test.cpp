@@ -1,3 +1,5 @@
+#include <functional>
+
 #include "document/document_support.h"
 #include "document/selection_state.h"
 #include "platform/text.h"
@@ -18,6 +20,25 @@ class ProjectCommandsTest : public LabelTest {
     SaveProject(kFalse);
   }
 };
+
+// Whoever had it was for the label before.
+TEST_F(ProjectCommandsTest, AfterALoadAndANewLabelTheBoardHasTheKeyboard) {
+  SaveOne();
+  frmMain.mnuFileOld(0).SetCaption(Path());
+  dialogs.files = {Path()};
+  const struct {
+    const char* name;
+    std::function<void()> command;
+  } rows[] = {{"open", mnuFileOpen_Click},
+              {"recent", [] { mnuFileOld_Click(0); }},
+              {"new", mnuFileNew_Click}};
+  for (const auto& row : rows) {
+    DirtyFlag = kFalse;
+    frmMain.txtTool.SetFocus();
+    row.command();
+    EXPECT_TRUE(frmMain.txtSetFocus(0).HasFocus()) << row.name;
+  }
+}
 
 TEST_F(ProjectCommandsTest, NewEmptiesTheLabelAndItsPanels) {
   SaveOne();

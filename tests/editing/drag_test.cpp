@@ -249,7 +249,7 @@ TEST_F(DragTest, AtAnotherZoomHandlesStayAMillimetreAway) {
 
 // --- lines --------------------------------------------------------------------------------------
 
-TEST_F(DragTest, ALyingLineStaysHalfAMillimetreThickAndItsHandleOnItsAxis) {
+TEST_F(DragTest, ALyingLinesFrameStaysHalfAMillimetreThickAndItsHandleOnItsAxis) {
   SelectObject(Put(LineObject(20, 3)));
   const Label& handle = frmMain.lblHandle(3);
   const double top = handle.Top();
@@ -258,7 +258,7 @@ TEST_F(DragTest, ALyingLineStaysHalfAMillimetreThickAndItsHandleOnItsAxis) {
   EXPECT_EQ(handle.Top(), top);
   ExpectFrame(110, 85, 25, 0.5);
   Release(200, 100);
-  ExpectRecord(0, 10, 10, 25, 0.5);
+  ExpectRecord(0, 10, 10, 25, 3);
 }
 
 TEST_F(DragTest, AStandingLineAndOneOfEqualSidesMoveDownwardOnly) {
@@ -266,17 +266,44 @@ TEST_F(DragTest, AStandingLineAndOneOfEqualSidesMoveDownwardOnly) {
     ObjectUB = -1;
     SelectObject(Put(LineObject(width, 20)));
     DragHandle(3, 9, 5);
-    ExpectRecord(0, 10, 10, 0.5, 25);
+    ExpectRecord(0, 10, 10, width, 25);
   }
 }
 
-TEST_F(DragTest, AThinLineIsHalfAMillimetreOfScreen) {
+// As thick as a line is that was drawn, not as its frame, and that at every drag.
+TEST_F(DragTest, ALineKeepsItsThicknessWhenItIsResized) {
+  SelectObject(Put(LineObject(20, 0.1)));
+  DragHandle(3, 5, 0);
+  ExpectRecord(0, 10, 10, 25, 0.1);
+  DragHandle(0, -3, 0);
+  ExpectRecord(0, 7, 10, 28, 0.1);
+  ObjectUB = -1;
+  SelectObject(Put(LineObject(0.1, 20)));
+  DragHandle(3, 0, 5);
+  ExpectRecord(0, 10, 10, 0.1, 25);
+}
+
+// Or it would lie from there on.
+TEST_F(DragTest, AThickLineThatIsDraggedShorterThanItsThicknessStandsStill) {
+  SelectObject(Put(LineObject(6, 20)));
+  DragHandle(3, 0, -16);
+  ExpectRecord(0, 10, 10, 0.5, 4);
+  ObjectUB = -1;
+  SelectObject(Put(LineObject(20, 6)));
+  DragHandle(3, -16, 0);
+  ExpectRecord(0, 10, 10, 4, 0.5);
+}
+
+TEST_F(DragTest, AThinLinesFrameIsHalfAMillimetreOfScreen) {
   ZoomFactor = 2;
   ReadyBoard();
   RedrawBoard();
   SelectObject(Put(LineObject(20, 3)));
-  DragHandle(3, 5, 0);
-  ExpectRecord(0, 10, 10, 25, 0.25);
+  const Label& handle = frmMain.lblHandle(3);
+  Press(handle.Left() + 0.5, handle.Top() + 0.5);
+  MoveTo(handle.Left() + 5.5, handle.Top() + 0.5);
+  EXPECT_NEAR(frmMain.shpBox.Height(), 0.25, 1e-9);
+  Release(handle.Left() + 5.5, handle.Top() + 0.5);
 }
 
 // --- texts --------------------------------------------------------------------------------------
@@ -338,12 +365,42 @@ TEST_F(DragTest, AVerySmallTextHasOnePoint) {
   EXPECT_EQ(ObjectAt(0).FontSize, 1);
 }
 
-// The ratio of a width that rounds to 0 cannot be formed, and without one it counts as 0.
-TEST_F(DragTest, ATextThatBeganAtNoWidthHasOnePointAndNoFaultIsSeen) {
+// The ratio of a width that rounds to 0 cannot be formed: the event ends there.
+TEST_F(DragTest, ATextThatBeganAtNoWidthKeepsItsSizeAndPlace) {
+  for (const int handle : {0, 3}) {
+    ObjectUB = -1;
+    SelectAbcd(0.4);
+    const ObjectRecord before = ObjectAt(0);
+    DragHandle(handle, 30, 5);
+    EXPECT_EQ(ObjectAt(0), before) << handle;
+    ExpectFrame(110, 85, 0.4, 8);
+    EXPECT_EQ(frmMain.shpBox.BorderStyle(), 3) << handle;
+    EXPECT_EQ(HandlesShown(), "0123") << handle;
+    EXPECT_FALSE(Dragging) << handle;
+  }
+  EXPECT_TRUE(faults.empty());
+  EXPECT_TRUE(dialogs.messages.empty());
+}
+
+TEST_F(DragTest, WithTheMarkerFileTheRatioThatCannotBeFormedIsTold) {
+  AppFolder = folder.File("");
+  WriteFile(AppFolder + "tracemark.flg", "");
   SelectAbcd(0.4);
   DragHandle(3, 30, 0);
-  EXPECT_EQ(ObjectAt(0).FontSize, 1);
-  EXPECT_TRUE(faults.empty());
+  ASSERT_EQ(dialogs.messages.size(), 1U);
+  EXPECT_EQ(dialogs.messages[0].text.substr(0, 5), "11 - ");
+}
+
+// It takes its size from the box and not from its font.
+TEST_F(DragTest, AFieldShownAsABarcodeGrowsFromNoWidth) {
+  ObjectRecord field = Field(0, 100, "Abcd");
+  field.Left = 10;
+  field.Top = 10;
+  field.Height = 8;
+  SelectObject(Put(field));
+  DragHandle(3, 30, 0);
+  EXPECT_NEAR(ObjectAt(0).Width, 30, 1e-4);
+  EXPECT_EQ(ObjectAt(0).FontSize, field.FontSize);
 }
 
 // A width that no whole number holds leaves the start of the last drag.
@@ -372,7 +429,10 @@ TEST_F(DragTest, ADataFieldTakesTheFittedSizeOneShownAsABarcodeDoesNot) {
     const double fitted = 4 * 15 * 25.4 / 72;
     EXPECT_NEAR(ObjectAt(0).Width, format == 99 ? fitted : 30, 1e-4) << format;
     EXPECT_NEAR(ObjectAt(0).Height, format == 99 ? 33 * 25.4 / 72 : 8, 1e-4) << format;
-    EXPECT_EQ(RedrawCount, redraws);
+    EXPECT_EQ(RedrawCount, redraws + 1);
+    EXPECT_EQ(HoldAt(0).Caption(), "") << "the painter shows it, and that once";
+    ExpectFrame(110, 85, ObjectAt(0).Width, ObjectAt(0).Height);
+    EXPECT_EQ(HandlesShown(), "0123");
   }
 }
 

@@ -88,10 +88,17 @@ TEST(GeometryTest, ARubberLineIsLevelUpToADiagonalWhichIsLevelToo) {
   } rows[] = {{20, 10, 20, 10}, {20, 19.9, 20, 10}, {20, 20, 20, 10},    {20, 20.1, 10, 20.1},
               {10, 30, 10, 30}, {0, 0, 0, 10},      {0, -0.1, 10, -0.1}, {10, 10, 10, 10}};
   for (const auto& row : rows) {
-    const BoardPoint end = LineEnd({10, 10}, {row.x, row.y});
+    const BoardPoint end = LineEnd({10, 10}, {row.x, row.y}, {row.x - 10, row.y - 10});
     EXPECT_EQ(end.x, row.end_x) << row.x << " " << row.y;
     EXPECT_EQ(end.y, row.end_y) << row.x << " " << row.y;
   }
+}
+
+// The way decides, and not the ends, which are rounded.
+TEST(GeometryTest, WaysThatDifferByLessThanAPointerMovesAreTheSame) {
+  EXPECT_EQ(LineEnd({10, 10}, {20, 20.001}, {1500, 1500.0001}).y, 10);
+  EXPECT_EQ(LineEnd({10, 10}, {20, 20}, {1500, 1501}).x, 10);
+  EXPECT_EQ(LineEnd({10, 10}, {0, 0}, {-1500, -1500.0001}).y, 10);
 }
 
 // --- handles ------------------------------------------------------------------------------------

@@ -1,6 +1,7 @@
 // The panels of the selected object: what they show, and what their edits make of the record.
 #include "editing/object_panels.h"
 
+#include "document/shown_size.h"
 #include "editing/panel_stack.h"
 #include "tools/hand_fixture.h"
 

@@ -63,6 +63,9 @@ TEST_F(TrackStatusTest, UncheckedCrossHairsStay) {
 TEST_F(TrackStatusTest, PositionFieldsFollowTheSelectedObject) {
   TrackStatus(frmMain.lblHold(0), 0, 0);
   EXPECT_EQ(frmMain.txtDSize(0).Text(), "0.00");  // nothing is selected
+  GrowObjects();
+  ObjectAt(0).Left = 10;
+  ObjectAt(0).Top = 10;
   SelectedObject = 0;
   TrackStatus(frmMain.lblHold(0), 0, 0);
   EXPECT_EQ(frmMain.txtDSize(0).Text(), "10.00");

@@ -526,7 +526,7 @@ TEST_F(HoldMouseTest, DuringADragOnlyControlsMoveAndNothingIsPainted) {
   EXPECT_FALSE(frmMain.picBoard.Canvas().AutoRedraw);
   MoveTo(121, 92);
   EXPECT_NEAR(frmMain.lblHold(0).Left(), 116, 1e-9);  // the grip stays under the pointer
-  EXPECT_EQ(frmMain.txtDSize(0).Text(), "15.00");     // shown before the hit area follows
+  EXPECT_EQ(frmMain.txtDSize(0).Text(), "16.00");
 }
 
 TEST_F(HoldMouseTest, TheReleaseWritesTheRecordOnce) {
@@ -543,6 +543,23 @@ TEST_F(HoldMouseTest, TheReleaseWritesTheRecordOnce) {
   EXPECT_FALSE(DragMoved);
   EXPECT_EQ(HandlesShown(), "0123");
   ExpectFrame(115, 87, 20, 10);
+}
+
+// Its hit area measures what it shows, its record may hold a width that was typed.
+TEST_F(HoldMouseTest, ATextIsDroppedAsWideAsItsRecordWhateverItsHitArea) {
+  const int index = PutText("Abcd");
+  ObjectAt(index).Width = 12;
+  ObjectAt(index).Height = 7;
+  Press(115, 90);
+  MoveTo(118, 92);
+  HoldAt(index).SetAutoSize(false);
+  HoldAt(index).SetWidth(33);
+  HoldAt(index).SetHeight(22);
+  Release(118, 92);
+  EXPECT_NEAR(HoldAt(index).Width(), 12, 1e-9);
+  EXPECT_NEAR(HoldAt(index).Height(), 7, 1e-9);
+  ExpectFrame(113, 87, 12, 7);
+  ExpectRecord(index, 13, 12, 12, 7);
 }
 
 // Only moves move: the place of the release itself is not looked at.
@@ -814,7 +831,7 @@ TEST_F(HoldMouseTest, WithAToolArmedALeftPressBeginsItOverTheObject) {
   Press(115, 90);
   EXPECT_TRUE(RubberBox);
   EXPECT_FALSE(Dragging);
-  EXPECT_EQ(SelectedObject, 0);
+  EXPECT_EQ(SelectedObject, -1);
   EXPECT_NEAR(AnchorX, 115, 1e-9);
   EXPECT_NEAR(AnchorY, 90, 1e-9);
   EXPECT_GT(frmMain.picText.Order(), frmMain.picDrawing.Order());  // no panel is filled

@@ -82,6 +82,9 @@ TEST_F(RuleDragTest, FromTheCornerBothFollow) {
   EXPECT_NEAR(MagRuleX, 50, 1e-9);
   EXPECT_NEAR(MagRuleY, 25, 1e-9);
   EXPECT_NEAR(frmMain.lnMY.X2(), 300, 1e-9);
+  EXPECT_EQ(frmMain.lnMY.X1(), 0);
+  EXPECT_NEAR(frmMain.lnMY.Y1(), 100, 1e-9);
+  EXPECT_NEAR(frmMain.lnMY.Y2(), 100, 1e-9);
 }
 
 TEST_F(RuleDragTest, ARuleThatStandsIsGrabbedWithinHalfAUnit) {

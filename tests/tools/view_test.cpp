@@ -4,6 +4,7 @@
 #include <string>
 
 #include "common/prog_settings.h"
+#include "document/document_support.h"
 #include "document/redraw.h"
 #include "forms/frmMain.h"
 #include "layouts/label_layouts.h"
@@ -474,8 +475,8 @@ TEST_F(ViewTest, TheRulerEntryTurnsOverRedrawsAndKeepsTheState) {
 TEST_F(ViewTest, InchesAndBack) {
   LoadLabelLayouts();
   FillLayoutList();
-  frmMain.txtDSize(0).SetText("25.40");
-  frmMain.txtDSize(3).SetText("10.00");
+  Add(ShapeObject(kRectangle, 25.4F, 5, 20, 10));
+  SelectedObject = 0;
   mnuUnitIn_Click();
   EXPECT_EQ(ProgSettings.MetricUnits, 0);
   EXPECT_EQ(UnitScale, 25.4);
@@ -491,16 +492,17 @@ TEST_F(ViewTest, InchesAndBack) {
   EXPECT_TRUE(frmMain.mnuUnitMM.Checked());
   EXPECT_FALSE(frmMain.mnuUnitIn.Checked());
   EXPECT_EQ(frmMain.txtDSize(0).Text(), "25.40");
-  EXPECT_EQ(frmMain.txtDSize(3).Text(), "9.91");  // 0.39 x 25.4 = 9.906: two decimals each way
+  EXPECT_EQ(frmMain.txtDSize(3).Text(), "10.00");  // the record's, not 0.39 x 25.4
 }
 
-// The entry that is checked already converts the fields once more.
-TEST_F(ViewTest, ChoosingTheSameUnitAgainConvertsTheFieldsAgain) {
+TEST_F(ViewTest, ChoosingTheSameUnitAgainShowsTheSame) {
   LoadLabelLayouts();
-  mnuUnitIn_Click();
-  frmMain.txtDSize(0).SetText("25.40");
-  mnuUnitIn_Click();
-  EXPECT_EQ(frmMain.txtDSize(0).Text(), "1.00");
+  Add(ShapeObject(kRectangle, 25.4F, 5, 20, 10));
+  SelectedObject = 0;
+  for (int i = 0; i < 2; ++i) {
+    mnuUnitIn_Click();
+    EXPECT_EQ(frmMain.txtDSize(0).Text(), "1.00") << i;
+  }
 }
 
 // Rebuilding the list selects the default layout, which gives the label its size.

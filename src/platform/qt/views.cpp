@@ -301,7 +301,9 @@ bool WidgetView::eventFilter(QObject* object, QEvent* event) {
       return false;
     case QEvent::FocusIn:
       FocusCame(static_cast<QFocusEvent*>(event)->reason());
-      return false;
+      // Handed on meanwhile: a field that still heard of the keyboard would keep a caret without
+      // it.
+      return !part->hasFocus();
     case QEvent::KeyPress:
       return TakeKey(*static_cast<QKeyEvent*>(event));
     case QEvent::InputMethod:

@@ -139,6 +139,22 @@ TEST_F(BoardViewTest, WhatLiesNowhereIsPaintedNowhere) {
   EXPECT_EQ(Pixel(60, 60), QColor(Qt::white));
 }
 
+// A place that is no number lies far to the right, as one beyond every board does.
+TEST_F(BoardViewTest, ALineFromNowhereComesFromFarAway) {
+  LineControl& line = frmMain.lnMY;
+  line.SetX1(std::nan(""));
+  line.SetX2(100);
+  line.SetY1(60);
+  line.SetY2(60);
+  line.SetBorderColor(kRed);
+  line.SetVisible(true);
+  EXPECT_EQ(Pixel(300, 60), QColor(200, 30, 20));
+  EXPECT_EQ(Pixel(60, 60), QColor(Qt::white));
+  line.SetX2(std::nan(""));
+  EXPECT_EQ(Pixel(300, 60), QColor(Qt::white));
+  EXPECT_EQ(Pixel(0, 60), QColor(Qt::white));
+}
+
 TEST_F(BoardViewTest, APressReachesTheTopmostLabelInItsOwnCorner) {
   ShowHold(0, 100, 100, 60, 40);
   frmMain.lblHold.Events().MouseDown = [this](int index, int button, int shift, double x,

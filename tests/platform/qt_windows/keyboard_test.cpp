@@ -1,5 +1,6 @@
 #include <QClipboard>
 #include <QComboBox>
+#include <QImage>
 #include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QMenu>
@@ -317,6 +318,26 @@ TEST_F(KeyboardTest, TheTabKeyPassesOverWhatHandsTheKeyboardOn) {
   Key(Qt::Key_Backtab, Qt::ShiftModifier);
   EXPECT_TRUE(frmMain.cmdSerNo.HasFocus());
   EXPECT_TRUE(Find("cmdSerNo").hasFocus());
+}
+
+TEST_F(KeyboardTest, AFieldThatHandsTheKeyboardOnKeepsNoCaret) {
+  const auto fields = [this] {
+    std::vector<QImage> images;
+    for (int i = 0; i < 4; ++i) {
+      images.push_back(Find("txtDSize_" + QString::number(i)).grab().toImage());
+    }
+    return images;
+  };
+  frmMain.txtDSize.Events().GotFocus = [] { frmMain.txtSetFocus(0).SetFocus(); };
+  frmMain.cmdSerNo.SetFocus();
+  const auto before = fields();
+  Key(Qt::Key_Tab);
+  EXPECT_EQ(fields(), before) << "by the tab key";
+  Click("txtDSize_1");
+  EXPECT_EQ(fields(), before) << "by a click";
+  frmMain.txtDSize.Events().GotFocus = {};
+  frmMain.txtDSize(1).SetFocus();
+  EXPECT_NE(fields(), before) << "one that keeps the keyboard has its caret";
 }
 
 TEST_F(KeyboardTest, TheTabKeyLeavesTheBoardAgain) {

@@ -1,0 +1,81 @@
+#include "document/shown_size.h"
+
+#include <cstddef>
+
+#include "forms/frmMain.h"
+#include "platform/fault.h"
+#include "platform/locale.h"
+
+namespace tagwright {
+namespace {
+
+enum Field : int { kLeft = 0, kTop = 1, kWidth = 2, kHeight = 3 };
+
+const ShownSize kNoSize = {"0.00", "0.00", "0.00", "0.00"};
+
+// What was shown last, and of which object: a text that differs from it has been typed.
+ShownSize shown = kNoSize;
+std::int16_t shown_object = -1;
+
+std::string InUsersUnit(double millimetres) { return FormatFixed(millimetres / UnitScale, 2); }
+
+// A selection may point past the last record, where there is nothing to show.
+bool OneIsSelected() {
+  return SelectedObject > -1 && SelectedObject <= ObjectUB && SelectedUpper < 0;
+}
+
+ShownSize SizeOfSelection() {
+  ShownSize size = kNoSize;
+  if (OneIsSelected()) CarryOn([&] { size = ShownSizeOf(ObjectAt(SelectedObject)); });
+  return size;
+}
+
+bool IsTypedIn(const TextBox& field, const std::string& last) {
+  return field.HasFocus() && field.Text() != last;
+}
+
+void Show(int index, const std::string& text) {
+  shown[static_cast<std::size_t>(index)] = text;
+  TextBox& field = frmMain.txtDSize(index);
+  if (field.Text() != text) field.SetText(text);
+}
+
+void ShowUnlessTyped(int index, const std::string& text, bool same_object) {
+  const std::string& last = shown[static_cast<std::size_t>(index)];
+  const bool keeps = same_object && text == last && IsTypedIn(frmMain.txtDSize(index), last);
+  if (!keeps) Show(index, text);
+}
+
+}  // namespace
+
+ShownSize ShownSizeOf(const ObjectRecord& record) {
+  return {InUsersUnit(record.Left), InUsersUnit(record.Top), InUsersUnit(record.Width),
+          InUsersUnit(record.Height)};
+}
+
+void ShowSizeFields() {
+  const ShownSize size = SizeOfSelection();
+  const std::int16_t object = OneIsSelected() ? SelectedObject : std::int16_t{-1};
+  const bool same_object = object != -1 && object == shown_object;
+  shown_object = object;
+  for (int i = kLeft; i <= kHeight; ++i) {
+    ShowUnlessTyped(i, size[static_cast<std::size_t>(i)], same_object);
+  }
+}
+
+void ShowPlaceInFields(double left, double top) {
+  Show(kLeft, InUsersUnit(left - BoardOriginX));
+  Show(kTop, InUsersUnit(top - BoardOriginY));
+}
+
+void ShowExtentInFields(double width, double height) {
+  Show(kWidth, InUsersUnit(width));
+  Show(kHeight, InUsersUnit(height));
+}
+
+void ResetShownSize() {
+  shown = kNoSize;
+  shown_object = -1;
+}
+
+}  // namespace tagwright
