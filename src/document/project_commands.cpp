@@ -72,6 +72,7 @@ void mnuFileNew_Click() {
   ForgetSource();
   frmMain.cmdTools(0).Press();
   DropSelection();  // the tool has not ended it where a modifier is held, as in this very shortcut
+  GiveBoardTheKeyboard();
   frmMain.mnuFileSaveAs.SetEnabled(false);
   frmMain.SetCaption(ProductTitle + " [untitled]");
 }

@@ -202,6 +202,8 @@ void LoadProject(const std::string& Path) {
   frmMain.SetCaption(ProductTitle + " [" + FileBaseName(path) + "]");
   ProjectPath = path;
   DropSelection();
+  GiveBoardTheKeyboard();
+  frmMain.txtTool.SetText("");
   EmptySelectionStatus();
   RecreateObjects(path);
   AddRecentFile(path);

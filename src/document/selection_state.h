@@ -9,9 +9,23 @@ namespace tagwright {
 void EnableSelectionCommands(bool group);
 void DisableSelectionCommands();
 
+// Whether the hit area shows the object and the painter leaves it out: a selected text from its
+// opening until it is deselected.
+bool IsShownByHold(int index);
+
+// Panel 3 of sB1 counts no selected objects any more. What else stands there stays.
+void ForgetCount();
+
+// Ends the group, and with it its frame and its count. The commands are the caller's. Nothing
+// without a group.
+void EndGroup();
+
+// The keyboard goes to the board, away from a field whose object is gone.
+void GiveBoardTheKeyboard();
+
 // Nothing selected, whatever keys are held and without a look at the records, which may be others
-// by now: state, commands, frame, handles and txtDSize. No hit area shows a text any more; the
-// board is not redrawn.
+// by now: state, commands, frame, handles, count and txtDSize. No hit area shows a text any more;
+// the board is not redrawn.
 void DropSelection();
 
 }  // namespace tagwright

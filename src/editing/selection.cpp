@@ -76,6 +76,17 @@ void EndText(int index) {
   RedrawBoard();
 }
 
+// An empty text has gone, and all that is left was selected: a group of it stays and keeps its
+// frame, while one object alone is deselected like the text.
+void ShowWhatIsLeft() {
+  if (SelectedUpper > -1) {
+    CarryOn(ShowGroupBox);
+  } else {
+    DisableSelectionCommands();
+    ForgetCount();
+  }
+}
+
 // --- group ---------------------------------------------------------------------------------------
 
 void Put(int index) {
@@ -145,7 +156,7 @@ void SelectGroup() {
 void DeselectObject() {
   if (ModifierHeld) return;
   DisableSelectionCommands();
-  SelectedUpper = -1;
+  EndGroup();
   if (SelectedObject == -1) return ShowNoPlace();
   LeaveFields();
   frmMain.sB1.SetPanelText(2, "");
@@ -153,6 +164,7 @@ void DeselectObject() {
   HideHandles();
   ShowNoPlace();
   SelectedObject = -1;
+  ShowWhatIsLeft();
 }
 
 // The fields are left while the record still stands in its place: what was typed there must not

@@ -5,6 +5,7 @@
 #include "common/prog_settings.h"
 #include "common/public_functions.h"
 #include "document/redraw.h"
+#include "document/selection_state.h"
 #include "editing/selection.h"
 #include "forms/frmMain.h"
 #include "layouts/layout_list.h"
@@ -46,15 +47,15 @@ bool TextIsSelected() {
 }
 
 // A selected text is shown by its hit area and not by the painter, so the hit area takes the new
-// size; its caption must be away while the board is painted under it. Whatever becomes of the hit
-// area, the board is painted and the mark of the object to skip does not outlive it.
+// size, and one that was only painted so far its whole style. Whatever becomes of the hit area, the
+// board is painted and the mark of the object to skip does not outlive it.
 void RedrawWithSelectedText() {
   const int index = SelectedObject;
-  CarryOn([&] { HoldAt(index).SetCaption(""); });
+  if (!IsShownByHold(index)) CarryOn([&] { FitHoldToText(index); });
   CarryOn([&] { HoldAt(index).SetFontSize(ObjectAt(index).FontSize * ZoomFactor); });
+  CarryOn([&] { HoldAt(index).SetCaption(ObjectAt(index).Text.Trimmed()); });
   RedrawBoard();
   RedrawSkip = -1;
-  CarryOn([&] { HoldAt(index).SetCaption(ObjectAt(index).Text.Trimmed()); });
   CarryOn([&] { ShowHandles(HoldAt(index)); });
 }
 
