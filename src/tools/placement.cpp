@@ -50,8 +50,6 @@ void AppendRecord() {
   SelectedUpper = -1;
 }
 
-bool NothingIsSelected() { return SelectedObject < 0 && SelectedUpper < 0; }
-
 Extent BoxExtent() { return {frmMain.shpBox.Width(), frmMain.shpBox.Height()}; }
 
 void SetBoxExtent(const Extent& extent) {
@@ -201,12 +199,16 @@ void TakeNaturalSize(const Picture& picture) {
   const Extent extent = PictureExtent(NaturalExtent(picture), {LabelWidth, LabelHeight});
   TakeExtent(NewHold(), extent);
   TakeExtent(NewRecord(), extent);
+  const Shape& box = frmMain.shpBox;
+  if (CentrePicture) {
+    frmMain.shpBox.Move(box.Left() - extent.width / 2, box.Top() - extent.height / 2);
+  }
 }
 
 void RefusePicture() {
   MessageBox("This picture type is not supported");
   --ObjectUB;
-  frmMain.shpBox.SetVisible(false);
+  DropSelection();
   CurrentTool = kNoTool;
 }
 
@@ -379,6 +381,15 @@ void Zoom(const Selection& before) {
   TinyBox ? ZoomAtAnchor() : ZoomToBox();
 }
 
+// The commands were enabled for the object that was to come.
+void ShowSelectionAfterGesture() {
+  if (SelectedUpper > -1) return EnableSelectionCommands(true);
+  ForgetCount();
+  if (SelectedObject > -1) return;
+  ShowNoPlace();
+  DisableSelectionCommands();
+}
+
 void CompleteGesture() {
   const Selection before{SelectedObject, SelectedUpper};
   if (!Traced(AppendObject)) return;
@@ -438,12 +449,19 @@ void PlaceObject() {
   } else {
     Traced(CompleteGesture);
   }
-  if (NothingIsSelected()) ShowNoPlace();
+  ShowSelectionAfterGesture();
+}
+
+void PlaceFieldAt(double X, double Y) {
+  AnchorX = SnapX(X);
+  AnchorY = SnapY(Y) - PanelTextHeight();
+  PlaceObject();
 }
 
 void CreateTextObject() {
   PrepareTextHold(NewHold());
   FillEmptyText(NewRecord());
+  EnableSelectionCommands(false);
   NewHold().SetCaption("|");
   SetBoxExtent({NewRecord().Width, NewRecord().Height});
   frmMain.txtTool.SetText("");
@@ -461,14 +479,28 @@ void InsertPicture() {
   dialog.FileName.clear();
   dialog.Filter = kPictureFilter;
   dialog.CancelError = true;
-  if (!CarryOn([&] { dialog.ShowOpen(); }) || dialog.FileName.empty()) return;
+  if (!CarryOn([&] { dialog.ShowOpen(); }) || dialog.FileName.empty()) return Disarm();
   PicturePath = dialog.FileName;
   frmMain.lblGraphicFName.SetCaption(PicturePath);
   CarryOn([] { ShowPictureSize(PicturePath); });
   CursorShape = kCross;
 }
 
+void Disarm() {
+  CurrentTool = kNoTool;
+  ShowDefaultPointer();
+  if (!RubberBox && !RubberLine) return;
+  RubberBox = kFalse;
+  RubberLine = kFalse;
+  frmMain.shpLine.SetVisible(false);
+  HideHandles();
+  if (SelectedObject > -1) CarryOn([] { ShowHandles(SelectedHold()); });
+  CarryOn(ShowGroupBox);
+  SelectedObject < 0 ? ShowNoPlace() : ShowSizeFields();
+}
+
 void ResetPlacement() {
+  CentrePicture = false;
   PicturePath.clear();
   TinyBox = false;
 }
