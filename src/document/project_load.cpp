@@ -203,6 +203,7 @@ void LoadProject(const std::string& Path) {
   ProjectPath = path;
   KeyboardToBoard();
   DropSelection();
+  frmMain.txtTool.SetText("");
   EmptySelectionStatus();
   RecreateObjects(path);
   AddRecentFile(path);

@@ -7,6 +7,7 @@
 #include "common/prog_settings.h"
 #include "common/public_functions.h"
 #include "document/objects.h"
+#include "document/selection_state.h"
 #include "document/shown_size.h"
 #include "forms/frmMain.h"
 #include "platform/dialogs.h"
@@ -285,7 +286,8 @@ void RedrawObject(int index, const RedrawPass& pass) {
   if (index != SelectedObject) EndMeasuring(hold);
   const ObjectRecord& object = ObjectAt(index);
   if (index == RedrawSkip || (pass.output && BeginsOffTheLabel(object))) return;
-  Step([&] { PaintObject(object, index, pass.output); });
+  const bool by_hold = !pass.output && IsShownByHold(index);
+  if (!by_hold) Step([&] { PaintObject(object, index, pass.output); });
   if (!pass.output) Step([&] { PlaceHold(hold, object); });
 }
 
@@ -295,11 +297,12 @@ void RedrawObjects(const RedrawPass& pass) {
 }
 
 // The newest object is taken for the one whose picture could not be read: it has just been placed.
+// Its index, which is past the end now, must not stay the selection's.
 void DropNewestObject() {
   MessageBox("Invalid Picture Format");
   --ObjectUB;
   CarryOn([] { frmMain.lblHold(ObjectUB).SetVisible(false); });
-  for (const auto& [index, handle] : frmMain.lblHandle) handle->SetVisible(false);
+  DropSelection();
 }
 
 // --- after the objects --------------------------------------------------------------------------

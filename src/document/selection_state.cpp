@@ -34,6 +34,23 @@ void DisableSelectionCommands() {
   }
 }
 
+bool IsShownByHold(int index) {
+  if (index != SelectedObject || !frmMain.lblHold.Exists(index)) return false;
+  const Label& hold = frmMain.lblHold(index);
+  return ObjectAt(index).ObjType == kText && hold.Visible() && !hold.Caption().empty();
+}
+
+void ForgetCount() {
+  if (frmMain.sB1.PanelText(3).starts_with("Objects Selected: ")) frmMain.sB1.SetPanelText(3, "");
+}
+
+void EndGroup() {
+  if (SelectedUpper < 0) return;
+  SelectedUpper = -1;
+  HideHandles();
+  ForgetCount();
+}
+
 void KeyboardToBoard() {
   CarryOn([] { frmMain.txtSetFocus(0).SetFocus(); });
 }
@@ -41,6 +58,7 @@ void KeyboardToBoard() {
 void DropSelection() {
   DisableSelectionCommands();
   EndMeasuringEverywhere();
+  ForgetCount();
   SelectedUpper = -1;
   SelectedObject = -1;
   HideHandles();

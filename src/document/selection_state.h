@@ -9,13 +9,24 @@ namespace tagwright {
 void EnableSelectionCommands(bool group);
 void DisableSelectionCommands();
 
+// Whether the hit area shows the object and the painter leaves it out: a selected text from its
+// opening until it is deselected.
+bool IsShownByHold(int index);
+
+// Panel 3 of sB1 counts no selected objects any more. What else stands there stays.
+void ForgetCount();
+
+// Ends the group, and with it its frame and its count. The commands are the caller's. Nothing
+// without a group.
+void EndGroup();
+
 // Whoever has the keyboard gives it up, so that a text that is about to go with its label does not
 // keep Ctrl+A and Ctrl+C for itself.
 void KeyboardToBoard();
 
 // Nothing selected, whatever keys are held and without a look at the records, which may be others
-// by now: state, commands, frame, handles and txtDSize. No hit area shows a text any more; the
-// board is not redrawn.
+// by now: state, commands, frame, handles, count and txtDSize. No hit area shows a text any more;
+// the board is not redrawn.
 void DropSelection();
 
 }  // namespace tagwright

@@ -5,7 +5,8 @@
 namespace tagwright {
 
 // Notes held modifiers; with Ctrl a selected object keeps its bottom right handle only. Delete
-// removes what is selected, unless a text field is being typed in.
+// removes what is selected, unless a field that takes text has the keyboard, lists that are typed
+// in included: TextEntryActive says so from here on.
 void Form_KeyDown(int& KeyCode, int Shift);
 
 // No modifier counts as held any more, whichever key went up; the handles come back.

@@ -120,13 +120,13 @@ void KeyboardToText() {
   frmMain.txtTool.SetSelStart(static_cast<int>(Length(frmMain.txtTool.Text())));
 }
 
-void OpenText() {
+void OpenText(bool keyboard_to_text) {
   SuspendRedraw = kTrue;
   CarryOn([] { SelectedHold().SetVisible(false); });
   CarryOn(FillTextPanel);
   RedrawWithoutSelected();
   CarryOn(ShowTextByItsHold);
-  CarryOn(KeyboardToText);
+  if (keyboard_to_text) CarryOn(KeyboardToText);
 }
 
 // --- shapes ---
@@ -142,14 +142,14 @@ void FillShapePanel() {
   frmMain.cboFont.SetVisible(false);
 }
 
-void FillPanelByKind() {
+void FillPanelByKind(bool keyboard_to_text) {
   switch (SelectedKind()) {
     case kBarcode:
       return FillBarcodePanel();
     case kPicture:
       return FillPicturePanel();
     case kText:
-      return OpenText();
+      return OpenText(keyboard_to_text);
     case kLine:
     case kRectangle:
     case kRoundedRectangle:
@@ -162,13 +162,25 @@ void FillPanelByKind() {
 
 }  // namespace
 
-void FillPanelFromObject() {
+void FillPanelFromObject(bool keyboard_to_text) {
   if (CurrentTool > 0) return;
   const bool loading_before = PanelLoading;
   PanelLoading = true;
-  CarryOn(FillPanelByKind);
+  CarryOn([&] { FillPanelByKind(keyboard_to_text); });
   SizeBoxFollowsFontBox();
   ShowSizeFields();
+  PanelLoading = loading_before;
+}
+
+void ShowTextStyle() {
+  if (!TextIsSelected()) return;
+  const bool loading_before = PanelLoading;
+  PanelLoading = true;
+  frmMain.cboFont.SetText(SelectedRecord().FontName.Trimmed());
+  frmMain.cboSize.SetText(FormatNumber(SelectedRecord().FontSize));
+  frmMain.chkBold.SetValue(Ticked(SelectedRecord().Bold));
+  frmMain.chkItalic.SetValue(Ticked(SelectedRecord().Italic));
+  frmMain.lblTextColor.SetBackColor(SelectedRecord().ForeColor);
   PanelLoading = loading_before;
 }
 

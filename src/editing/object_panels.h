@@ -19,9 +19,12 @@ inline Flag TextEditOpen = kFalse;
 
 // Brings the panel of Objects(SelectedObject) to the front and fills it, with PanelLoading set from
 // the first step to the last. A text is opened for typing: from here until it is deselected its hit
-// area shows it and not the painter, and txtTool has the keyboard. txtDSize shows place and size.
-// Nothing at all while a tool is armed.
-void FillPanelFromObject();
+// area shows it and not the painter, and txtTool has the keyboard if it is to have it. txtDSize
+// shows place and size. Nothing at all while a tool is armed.
+void FillPanelFromObject(bool keyboard_to_text = true);
+
+// The style of the selected text in its panel, after it was changed from elsewhere.
+void ShowTextStyle();
 
 // Natural width and height of the picture file on its panel, in the picture's own units. Faults as
 // LoadPicture; the panel keeps its numbers then.

@@ -2,6 +2,8 @@
 
 #include "document/objects.h"
 #include "document/redraw.h"
+#include "document/selection_state.h"
+#include "editing/object_panels.h"
 #include "editing/selection.h"
 #include "forms/frmMain.h"
 #include "platform/fault.h"
@@ -26,10 +28,16 @@ void CopyProperties(const ObjectRecord& source, int index) {
   FitHoldToText(index);
 }
 
+// Measuring takes the caption off the hit area, which an open text is shown by. Its panel follows:
+// what ends the next entry reads the size from there.
 void CopyToSelectedObject(const ObjectRecord& source) {
   if (SelectedObject < 0) return;
+  Label& hold = HoldAt(SelectedObject);
+  const bool open = IsShownByHold(SelectedObject);
   CopyProperties(source, SelectedObject);
-  ShowHandles(HoldAt(SelectedObject));
+  if (open) hold.SetCaption(ObjectAt(SelectedObject).Text.Trimmed());
+  ShowTextStyle();
+  ShowHandles(hold);
 }
 
 void CopyToGroup(const ObjectRecord& source) {

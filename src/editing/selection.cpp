@@ -85,6 +85,17 @@ void EndText(int index) {
   RedrawBoard();
 }
 
+// An empty text has gone, and all that is left was selected: a group of it stays and keeps its
+// frame, while one object alone is deselected like the text.
+void ShowWhatIsLeft() {
+  if (SelectedUpper > -1) {
+    CarryOn(ShowGroupBox);
+  } else {
+    DisableSelectionCommands();
+    ForgetCount();
+  }
+}
+
 // --- group ---------------------------------------------------------------------------------------
 
 void Put(int index) {
@@ -154,13 +165,14 @@ void SelectGroup() {
 void DeselectObject() {
   if (ModifierHeld) return;
   DisableSelectionCommands();
-  SelectedUpper = -1;
+  EndGroup();
   if (SelectedObject == -1) return ShowSizeFields();
   LeaveFields();
   frmMain.sB1.SetPanelText(2, "");
   if (IsText(SelectedObject)) CarryOn([] { EndText(SelectedObject); });
   HideHandles();
   SelectedObject = -1;
+  ShowWhatIsLeft();
   ShowSizeFields();
 }
 

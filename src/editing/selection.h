@@ -11,8 +11,8 @@ inline bool CopyPropsPending = false;  // the next click on a text copies its pr
 
 // Ends the selection: a text takes the place and size of its hit area and is painted again, an
 // empty one goes away (with all others like it, and the rest is selected, where it is not the
-// last). Frame and handles are hidden, the keyboard goes to the board. Nothing while ModifierHeld,
-// so that a group can be built.
+// last). Frame, handles and count are hidden, the keyboard goes to the board from one object.
+// Nothing while ModifierHeld, so that a group can be built.
 void DeselectObject();
 
 // Adds an object to the group or takes it out. The first one joins the object that is selected by

@@ -23,6 +23,7 @@
 #include "shell/window.h"
 #include "tools/barcode_panel.h"
 #include "tools/board.h"
+#include "tools/board_keys.h"
 #include "tools/context_menus.h"
 #include "tools/font_box.h"
 #include "tools/hold_mouse.h"
@@ -41,6 +42,8 @@ void WireWindow(FrmMain& f) {
   f.WindowEvents().KeyDown = [](int& KeyCode, int Shift) {
     Form_KeyDown(KeyCode, Shift);
     FlyoutKeyDown(KeyCode);
+    TextMenuKeyDown(KeyCode, Shift);
+    BoardKeyDown(KeyCode, Shift);
   };
   f.WindowEvents().KeyUp = Form_KeyUp;
 
@@ -96,6 +99,7 @@ void WireTextPanel(FrmMain& f) {
   f.txtTool.Events().Change = txtTool_Change;
   f.chkBold.Events().Click = ApplyFontProperties;
   f.chkItalic.Events().Click = ApplyFontProperties;
+  f.picText.Events().MouseDown = [](int Button, int, double, double) { picText_MouseDown(Button); };
   f.cmdAlign.Events().Click = cmdAlign_Click;
   f.cmdTextColor.Events().Click = cmdTextColor_Click;
 }

@@ -4,7 +4,8 @@
 
 #include "barcode/validation.h"
 #include "document/redraw.h"
-#include "document/shown_size.h"
+#include "document/selection_state.h"
+#include "editing/selection.h"
 #include "forms/frmMain.h"
 #include "platform/dialogs.h"
 #include "platform/fault.h"
@@ -137,9 +138,13 @@ void chkPriCharacter_Click() {
   DirtyFlag = kTrue;
 }
 
+// The object is deselected also where a modifier is held.
 void cmdBCode_Click() {
-  SelectedObject = -1;
-  ShowSizeFields();
+  DeselectObject();
+  if (SelectedObject > -1) {
+    DropSelection();
+    RedrawBoard();
+  }
   CurrentTool = kBarcode;
   CursorShape = kBarcodePointer;
   frmMain.SetMouseIcon(frmMain.Image5.Icon());

@@ -41,22 +41,13 @@ void ShowCrossHairs(double X, double Y) {
 
 void EndSelection() {
   if (SelectedObject > -1) DeselectObject();
-  if (SelectedUpper < 0) return;
-  SelectedUpper = -1;
-  HideHandles();
-  ShowSizeFields();
+  if (SelectedUpper > -1) DeselectObject();  // also what an empty text has left selected
 }
 
 void EndEntry() {
   TextEntryActive = false;
   RedrawSkip = -1;
   frmMain.picMag.SetVisible(false);
-}
-
-void PlaceFieldAt(double X, double Y) {
-  AnchorX = SnapX(X);
-  AnchorY = SnapY(Y) - PanelTextHeight();
-  PlaceObject();
 }
 
 void ShowDefaultPointer() {

@@ -11,9 +11,13 @@
 #include "platform/dialogs.h"
 #include "platform/fault.h"
 #include "platform/locale.h"
+#include "platform/windows.h"
 
 namespace tagwright {
 namespace {
+
+constexpr int kMenuKey = 93;
+constexpr int kF10Key = 121;
 
 std::int16_t KindOfEntry(int index) {
   switch (index) {
@@ -67,6 +71,17 @@ std::optional<double> AskForLength(const std::string& side) {
 }
 
 }  // namespace
+
+void TextMenuKeyDown(int& KeyCode, int Shift) {
+  const bool asked = KeyCode == kMenuKey || (KeyCode == kF10Key && Shift == kShift);
+  if (!asked || !(TextIsSelected() || SelectedUpper > -1)) return;
+  KeyCode = 0;
+  PopupMenu(frmMain, frmMain.mnuText);
+}
+
+void picText_MouseDown(int Button) {
+  if (Button == kRightButton) PopupMenu(frmMain, frmMain.mnuText);
+}
 
 void mnuDrawChange_Click(int Index) {
   CarryOn([&] { SelectedRecord().ObjType = KindOfEntry(Index); });

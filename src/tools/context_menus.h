@@ -4,6 +4,12 @@
 
 namespace tagwright {
 
+// The menu of texts. By keyboard the menu key or Shift+F10 opens it while a text or a group is
+// selected, and goes no further then; by mouse a right press on the panel of texts does, since a
+// right press on the text itself opens nothing.
+void TextMenuKeyDown(int& KeyCode, int Shift);
+void picText_MouseDown(int Button);
+
 // Makes the selected shape an ellipse (0), a rectangle (1) or a rounded rectangle (2); redraws.
 void mnuDrawChange_Click(int Index);
 

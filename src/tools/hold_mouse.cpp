@@ -54,11 +54,16 @@ void ShowGroup() {
   CarryOn(ShowGroupBox);
 }
 
+void HideGroup() {
+  DisableSelectionCommands();
+  HideHandles();
+}
+
 void EditGroup(int index) {
   if (SelectedObject >= 0) HoldAt(SelectedObject).SetAutoSize(false);
   ToggleInSelection(index);
   SelectedObject = -1;
-  SelectedUpper < 0 ? HideHandles() : ShowGroup();
+  SelectedUpper < 0 ? HideGroup() : ShowGroup();
   ShowSizeFields();
 }
 
@@ -143,6 +148,17 @@ double BoardY(int index, double y) {
   return HoldAt(index).Top() + frmMain.picBoard.ScaleY(y, kTwips, kUserScale);
 }
 
+void SelectAlone(int index) {
+  EndGroup();
+  EnableSelectionCommands(false);
+  SelectedObject = static_cast<std::int16_t>(index);
+}
+
+void ShowFrameOf(int index) {
+  frmMain.shpBox.SetShape(FrameShapeOf(ObjectAt(index).ObjType));
+  ShowHandles(HoldAt(index));
+}
+
 // A column lands beside what is on the label, and a zoom leaves it selected.
 bool ToolMakesAnObjectHere() { return CurrentTool != kDataField && CurrentTool < kZoomIn; }
 
@@ -158,12 +174,11 @@ void BeginToolOver(int index, double x, double y) {
 // left everything selected.
 void SelectOne(int index, int button, double x, double y) {
   DeselectObject();
-  if (index > ObjectUB) return HideStaleHold(index);
-  EnableSelectionCommands(false);
-  SelectedUpper = -1;
-  SelectedObject = static_cast<std::int16_t>(index);
-  if (button == kRightButton) CarryOn([&] { OpenMenuOf(index); });
+  if (index > ObjectUB) return HoldAt(index).SetVisible(false);
+  SelectAlone(index);
   const bool left = button == kLeftButton;
+  if (!left) CarryOn([&] { ShowFrameOf(index); });
+  if (button == kRightButton) CarryOn([&] { OpenMenuOf(index); });
   if (CurrentTool > kNoTool) {
     if (left) BeginToolOver(index, x, y);
   } else {
@@ -183,9 +198,17 @@ void lblHold_MouseDown(int Index, int Button, int /*Shift*/, double X, double Y)
   TextEntryActive = false;
   frmMain.sB1.SetPanelText(3, "");
   if (ModifierHeld) return EditGroup(Index);
-  if (!InGroup(Index)) SelectedUpper = -1;
+  if (!InGroup(Index)) EndGroup();
   if (SelectedUpper < 0) return SelectOne(Index, Button, X, Y);
   if (Button == kLeftButton) BeginGroupDrag(Index, X, Y);
+}
+
+void SelectWithoutMouse(int index) {
+  SelectAlone(index);
+  CarryOn([&] { FitHoldToText(index); });
+  CarryOn([&] { ShowFrameOf(index); });
+  FillPanelFromObject(false);
+  ShowObject(index);
 }
 
 void lblHold_MouseMove(int Index, int /*Button*/, int /*Shift*/, double X, double Y) {

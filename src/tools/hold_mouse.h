@@ -12,6 +12,10 @@ namespace tagwright {
 // begins the armed tool or, without one, a drag. The object's panel is filled.
 void lblHold_MouseDown(int Index, int Button, int Shift, double X, double Y);
 
+// Selects the object alone, as a press that drags nothing. A text is opened, but the keyboard stays
+// where it is.
+void SelectWithoutMouse(int index);
+
 // Puts the pointer back and follows it with what is dragged or drawn up.
 void lblHold_MouseMove(int Index, int Button, int Shift, double X, double Y);
 

@@ -215,12 +215,16 @@ void TakeNaturalSize(const Picture& picture) {
   const Extent extent = PictureExtent(NaturalExtent(picture), {LabelWidth, LabelHeight});
   TakeExtent(NewHold(), extent);
   TakeExtent(NewRecord(), extent);
+  const Shape& box = frmMain.shpBox;
+  if (CentrePicture) {
+    frmMain.shpBox.Move(box.Left() - extent.width / 2, box.Top() - extent.height / 2);
+  }
 }
 
 void RefusePicture() {
   MessageBox("This picture type is not supported");
   --ObjectUB;
-  frmMain.shpBox.SetVisible(false);
+  DropSelection();
   CurrentTool = kNoTool;
 }
 
@@ -394,6 +398,13 @@ void Zoom(const Selection& before) {
   TinyBox ? ZoomAtAnchor() : ZoomToBox();
 }
 
+// The commands were enabled for the object that was to come.
+void ShowSelectionAfterGesture() {
+  if (SelectedUpper > -1) return EnableSelectionCommands(true);
+  ForgetCount();
+  if (SelectedObject < 0) DisableSelectionCommands();
+}
+
 void CompleteGesture() {
   const Selection before{SelectedObject, SelectedUpper};
   if (!Traced(AppendObject)) return;
@@ -453,12 +464,20 @@ void PlaceObject() {
   } else {
     Traced(CompleteGesture);
   }
+  ShowSelectionAfterGesture();
   ShowSizeFields();
+}
+
+void PlaceFieldAt(double X, double Y) {
+  AnchorX = SnapX(X);
+  AnchorY = SnapY(Y) - PanelTextHeight();
+  PlaceObject();
 }
 
 void CreateTextObject() {
   PrepareTextHold(NewHold());
   FillEmptyText(NewRecord());
+  EnableSelectionCommands(false);
   NewHold().SetCaption("|");
   SetBoxExtent({NewRecord().Width, NewRecord().Height});
   EmptyTextBox();
@@ -477,14 +496,28 @@ void InsertPicture() {
   dialog.FileName.clear();
   dialog.Filter = kPictureFilter;
   dialog.CancelError = true;
-  if (!CarryOn([&] { dialog.ShowOpen(); }) || dialog.FileName.empty()) return;
+  if (!CarryOn([&] { dialog.ShowOpen(); }) || dialog.FileName.empty()) return Disarm();
   PicturePath = dialog.FileName;
   frmMain.lblGraphicFName.SetCaption(PicturePath);
   CarryOn([] { ShowPictureSize(PicturePath); });
   CursorShape = kCross;
 }
 
+void Disarm() {
+  CurrentTool = kNoTool;
+  ShowDefaultPointer();
+  if (!RubberBox && !RubberLine) return;
+  RubberBox = kFalse;
+  RubberLine = kFalse;
+  frmMain.shpLine.SetVisible(false);
+  HideHandles();
+  if (SelectedObject > -1) CarryOn([] { ShowHandles(SelectedHold()); });
+  CarryOn(ShowGroupBox);
+  ShowSizeFields();
+}
+
 void ResetPlacement() {
+  CentrePicture = false;
   PicturePath.clear();
   TinyBox = false;
 }

@@ -32,17 +32,27 @@ double PanelTextHeight();
 // Ends the gesture: appends the object of CurrentTool, fills it from the panels and the rubber box
 // or line, selects and shows it, and disarms the tool. A barcode that is not really dragged is not
 // made, and its tool stays armed; the zoom tools zoom and stay armed. Faults are traced and passed
-// over, but for an unreadable picture: a message, and the object is dropped, which leaves
-// SelectedObject where it would have been.
+// over, but for an unreadable picture: a message, and the object is dropped, so that nothing is
+// selected.
 void PlaceObject();
+
+// The end of a data field's gesture at this place, board units: it stands above the snapped point.
+void PlaceFieldAt(double X, double Y);
 
 // Makes record ObjectUB, whose hit area stands where the text begins, an empty text that is open
 // for typing: it shows "|" until then.
 void CreateTextObject();
 
-// Asks for a picture and shows its name and size on its panel. Cancelled, the tool stays armed with
-// the former PicturePath.
+// Asks for a picture and shows its name and size on its panel. Without a file there is no tool
+// either.
 void InsertPicture();
+
+// No tool is armed any more: the pointer goes back, and a box or line that is being drawn goes
+// without leaving an object.
+void Disarm();
+
+// PlaceObject puts a picture of its natural size around the box's corner and not below it.
+inline bool CentrePicture = false;
 
 // This module's state as at program start.
 void ResetPlacement();

@@ -45,15 +45,15 @@ bool TextIsSelected() {
 }
 
 // A selected text is shown by its hit area and not by the painter, so the hit area takes the new
-// size; its caption must be away while the board is painted under it. Whatever becomes of the hit
-// area, the board is painted and the mark of the object to skip does not outlive it.
+// size, and one that was only painted so far its whole style. Whatever becomes of the hit area, the
+// board is painted and the mark of the object to skip does not outlive it.
 void RedrawWithSelectedText() {
   const int index = SelectedObject;
-  CarryOn([&] { HoldAt(index).SetCaption(""); });
+  if (!IsShownByHold(index)) CarryOn([&] { FitHoldToText(index); });
   CarryOn([&] { HoldAt(index).SetFontSize(ObjectAt(index).FontSize * ZoomFactor); });
+  CarryOn([&] { HoldAt(index).SetCaption(ObjectAt(index).Text.Trimmed()); });
   RedrawBoard();
   RedrawSkip = -1;
-  CarryOn([&] { HoldAt(index).SetCaption(ObjectAt(index).Text.Trimmed()); });
   CarryOn([&] { ShowHandles(HoldAt(index)); });
 }
 

@@ -461,6 +461,27 @@ TEST_F(RedrawTest, UnreadablePictureDropsTheNewestObjectAndLeavesAtOnce) {
   EXPECT_FALSE(frmMain.shpBox.Visible());
 }
 
+// It would point past the end, and the next Delete would take an innocent object.
+TEST_F(RedrawTest, AfterAnUnreadablePictureNothingIsSelected) {
+  Add(ShapeObject(kRectangle, 0, 0, 1, 1));
+  Add(PictureObject(Made("bad.gif", "rubbish")));
+  SelectedObject = 1;
+  frmMain.mnuEditCut.SetEnabled(true);
+  ShowHandles(HoldAt(1));
+  Redraw();
+  EXPECT_EQ(ObjectUB, 0);
+  EXPECT_EQ(SelectedObject, -1);
+  EXPECT_FALSE(frmMain.mnuEditCut.Enabled());
+  EXPECT_FALSE(frmMain.shpBox.Visible());
+
+  Add(PictureObject(Made("bad.gif", "rubbish")));
+  SelectedMember(0) = 0;
+  SelectedMember(1) = 1;
+  SelectedUpper = 1;
+  Redraw();
+  EXPECT_EQ(SelectedUpper, -1);
+}
+
 TEST_F(RedrawTest, UnreadablePictureAsTheOnlyObjectEmptiesTheDocument) {
   Add(PictureObject(Made("bad.gif", "rubbish")));
   Redraw();
@@ -501,6 +522,43 @@ TEST_F(RedrawTest, MeasuringEndsForEveryHitAreaButTheSelectedOnes) {
   EXPECT_FALSE(HoldAt(0).AutoSize());
   EXPECT_EQ(HoldAt(1).Caption(), "Abc");
   EXPECT_TRUE(HoldAt(1).AutoSize());
+}
+
+// What its hit area shows would stand twice on the board, and stay when it is erased.
+TEST_F(RedrawTest, AnOpenTextIsLeftToItsHitAreaWhichFollowsTheLabel) {
+  Add(TextObject("open", 10, 10));
+  Add(TextObject("other", 10, 20));
+  SelectedObject = 0;
+  HoldAt(0).SetVisible(true);
+  HoldAt(0).SetCaption("open");
+  Redraw();
+  ASSERT_EQ(Board().Of(What::kText).size(), 1u);
+  EXPECT_EQ(Board().Of(What::kText)[0].Text(), "other");
+  EXPECT_EQ(HoldAt(0).Left(), 110);
+  frmMain.hS1.SetValue(260);
+  Redraw();
+  EXPECT_EQ(Board().Of(What::kText).size(), 1u);
+  EXPECT_EQ(HoldAt(0).Left(), 100);
+}
+
+TEST_F(RedrawTest, AnOpenTextIsPrinted) {
+  Add(TextObject("open", 10, 10));
+  SelectedObject = 0;
+  HoldAt(0).SetVisible(true);
+  HoldAt(0).SetCaption("open");
+  EXPECT_EQ(FirstOf(PageAfter(0, 0), What::kText).Text(), "open");
+}
+
+TEST_F(RedrawTest, ATextThatIsSelectedButNotOpenIsPainted) {
+  Add(TextObject("selected", 10, 10));
+  SelectedObject = 0;
+  HoldAt(0).SetVisible(true);
+  Redraw();
+  EXPECT_EQ(Board().Of(What::kText).size(), 1u);
+  HoldAt(0).SetCaption("selected");
+  HoldAt(0).SetVisible(false);  // nobody sees that one
+  Redraw();
+  EXPECT_EQ(Board().Of(What::kText).size(), 1u);
 }
 
 TEST_F(RedrawTest, NegativeSizeLeavesTheHitAreasFormerOne) {

@@ -80,12 +80,45 @@ TEST_F(KeysTest, DeleteDeletesTheObjectOrTheGroup) {
   EXPECT_EQ(ObjectAt(0).Left, 20);
 }
 
-TEST_F(KeysTest, DeleteWhileAFieldIsEnteredDeletesNoObject) {
+// Each of them, whether or not anything has been typed there yet, and lists that are typed in too.
+TEST_F(KeysTest, DeleteInAFieldThatTakesTextDeletesNoObject) {
   SelectObject(PutBox(10, 10));
-  TextEntryActive = true;
+  frmMain.cboFont.SetVisible(true);
+  std::vector<TextControl*> fields = {&frmMain.txtTool,      &frmMain.txtBCodeData,
+                                      &frmMain.txtPrintFrom, &frmMain.txtPrintTo,
+                                      &frmMain.txtNoCopies,  &frmMain.cboFont};
+  for (const auto& [index, field] : frmMain.txtDSize) fields.push_back(field.get());
+  for (TextControl* field : fields) {
+    field->SetFocus();
+    KeyDown(kDelete);
+    EXPECT_EQ(ObjectUB, 0) << field->Name();
+    EXPECT_TRUE(TextEntryActive) << field->Name();
+  }
+  frmMain.txtSetFocus(0).SetFocus();  // which is the board itself
   KeyDown(kDelete);
-  EXPECT_EQ(ObjectUB, 0);
-  TextEntryActive = false;
+  EXPECT_EQ(ObjectUB, -1);
+  EXPECT_FALSE(TextEntryActive);
+}
+
+TEST_F(KeysTest, DeleteOnWhatTakesNoTextDeletesTheObject) {
+  frmMain.cboSize.SetVisible(true);
+  frmMain.txtLabLayout(0).SetLocked(true);
+  for (Control* control : std::initializer_list<Control*>{
+           &frmMain.cboSize, &frmMain.txtLabLayout(0), &frmMain.chkBold, &frmMain.cmdRect}) {
+    SelectObject(PutBox(10, 10));
+    control->SetFocus();
+    KeyDown(kDelete);
+    EXPECT_EQ(ObjectUB, -1) << control->Name();
+  }
+}
+
+// Hiding it tells nobody that the entry is over.
+TEST_F(KeysTest, DeleteAfterAFieldWasHiddenDeletesTheObject) {
+  SelectObject(PutBox(10, 10));
+  frmMain.cboFont.SetVisible(true);
+  frmMain.cboFont.SetFocus();
+  frmMain.cboFont.UserType("A");
+  frmMain.cboFont.SetVisible(false);
   KeyDown(kDelete);
   EXPECT_EQ(ObjectUB, -1);
 }

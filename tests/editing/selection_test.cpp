@@ -58,21 +58,35 @@ TEST_F(SelectionTest, WhileAModifierIsHeldNothingIsDeselected) {
   EXPECT_EQ(HandlesShown(), "0123");
 }
 
-TEST_F(SelectionTest, AGroupIsDroppedWithItsCommandsAndItsBoxStays) {
+TEST_F(SelectionTest, AGroupIsDroppedWithItsCommandsItsBoxAndItsCount) {
   PutBox(10, 10);
   PutBox(40, 10);
   SelectGroup({0, 1});
   EnableSelectionCommands(true);
   frmMain.sB1.SetPanelText(2, "kept");
+  frmMain.sB1.SetPanelText(3, "Objects Selected: 2");
   frmMain.txtDSize(0).SetText("10.00");  // of the first, before the second joined it
   const auto redraws = RedrawCount;
   DeselectObject();
   EXPECT_EQ(SelectedUpper, -1);
   EXPECT_EQ(CommandsEnabled(), "-------");
-  EXPECT_TRUE(frmMain.shpBox.Visible());
+  EXPECT_FALSE(frmMain.shpBox.Visible());
   EXPECT_EQ(frmMain.sB1.PanelText(2), "kept");
+  EXPECT_EQ(frmMain.sB1.PanelText(3), "");
   EXPECT_EQ(frmMain.txtDSize(0).Text(), "0.00");
   EXPECT_EQ(RedrawCount, redraws);
+}
+
+TEST_F(SelectionTest, TheCountOfOneGoesWithItsObjectAndOtherWordsStay) {
+  PutBox(10, 10);
+  mnuEditSelectAll_Click();
+  ASSERT_EQ(frmMain.sB1.PanelText(3), "Objects Selected: 1");
+  DeselectObject();
+  EXPECT_EQ(frmMain.sB1.PanelText(3), "");
+  SelectObject(0);
+  frmMain.sB1.SetPanelText(3, "Magnetic Rule - Zone: 2.0 mm");
+  DeselectObject();
+  EXPECT_EQ(frmMain.sB1.PanelText(3), "Magnetic Rule - Zone: 2.0 mm");
 }
 
 TEST_F(SelectionTest, AnObjectThatIsNoTextIsLeftWithoutARedraw) {
@@ -152,7 +166,7 @@ TEST_F(SelectionTest, AnEmptyTextThatIsTheLastObjectIsDropped) {
   EXPECT_EQ(HandlesShown(), "");
 }
 
-// On purpose: the whole command runs. The group stays selected, without its box.
+// On purpose: the whole command runs. The group stays selected, and seen to be.
 TEST_F(SelectionTest, AnEmptyTextThatIsNotTheLastObjectSelectsEverythingThatIsLeft) {
   SelectObject(PutText(""));
   PutBox(10, 10);
@@ -164,9 +178,22 @@ TEST_F(SelectionTest, AnEmptyTextThatIsNotTheLastObjectSelectsEverythingThatIsLe
   EXPECT_EQ(ObjectAt(1).Left, 40);
   EXPECT_EQ(GroupMembers(), (Members{0, 1}));
   EXPECT_EQ(SelectedObject, -1);
-  EXPECT_FALSE(frmMain.shpBox.Visible());
+  ExpectFrame(110, 85, 50, 10);
+  EXPECT_EQ(HandlesShown(), "");
   EXPECT_EQ(CommandsEnabled(), "cxhfbAS");
   EXPECT_EQ(frmMain.sB1.PanelText(3), "Objects Selected: 2");
+}
+
+// A single object that is left is deselected like the text: nothing may tell of it any more.
+TEST_F(SelectionTest, AnEmptyTextBeforeASingleObjectLeavesNothingSelected) {
+  SelectObject(PutText(""));
+  PutBox(10, 10);
+  DeselectObject();
+  EXPECT_EQ(ObjectUB, 0);
+  EXPECT_EQ(SelectedObject, -1);
+  EXPECT_EQ(CommandsEnabled(), "-------");
+  EXPECT_EQ(frmMain.sB1.PanelText(3), "");
+  EXPECT_FALSE(frmMain.shpBox.Visible());
 }
 
 // --- the group ----------------------------------------------------------------------------------

@@ -394,6 +394,24 @@ TEST_F(MouseTest, AWaitingReleaseOfAFormThatIsDestroyedIsForgotten) {
   EXPECT_EQ(log, Lines{"passing(0) down 1/0 at 10,10"});
 }
 
+// The surface stays, and hears the next press as ever.
+TEST_F(MouseTest, AWaitingReleaseOfAControlThatIsUnloadedIsForgotten) {
+  auto passing = std::make_unique<Label>(&form.board, "lblPassing");
+  passing->Move(0, 0, 450, 450);
+  passing->Events().MouseUp = [&](int, int, double, double) { Log("passing up"); };
+  form.board.UserMouseDown(kLeftButton, 0, 10, 10);
+  ASSERT_EQ(form.board.Captured(), passing.get());
+  RunHandler([&] {
+    form.board.UserMouseUp(kLeftButton, 0, 10, 10);
+    passing.reset();
+  });
+  EXPECT_EQ(form.board.Captured(), nullptr);
+  EXPECT_TRUE(log.empty());
+  form.board.UserMouseDown(kLeftButton, 0, 10, 10);
+  form.board.UserMouseUp(kLeftButton, 0, 20, 20);
+  EXPECT_EQ(log, (Lines{"hold(0) down 1/0 at 10,10", "hold(0) up 1/0 at 20,20"}));
+}
+
 TEST_F(MouseTest, ADoubleClickIsRaisedByListsOnly) {
   form.lstRows.Events().DblClick = [&] { Log("double"); };
   form.lstRows.UserDblClick();

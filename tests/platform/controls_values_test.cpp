@@ -25,6 +25,18 @@ TEST_F(ValuesTest, AListBoxRaisesClickForEachRowChosenAndFaultsOutside) {
   EXPECT_EQ(FaultOf([&] { form.lstRows.List(-1); }), kOutOfBounds);
 }
 
+TEST_F(ValuesTest, AUserChoosesTheFirstRowOfAListBox) {
+  form.lstRows.AddItem("first");
+  form.lstRows.AddItem("second");
+  form.lstRows.Events().Click = [&] { Log("click " + form.lstRows.Text()); };
+  form.lstRows.UserChoose(0);
+  EXPECT_EQ(log, Lines{"click first"});
+  form.lstRows.UserChoose(-1);
+  form.lstRows.UserChoose(2);
+  EXPECT_EQ(log.size(), 1u);
+  EXPECT_EQ(form.lstRows.ListIndex(), 0);
+}
+
 TEST_F(ValuesTest, ClearingAListBoxRaisesNothing) {
   form.lstRows.AddItem("one");
   form.lstRows.SetListIndex(0);

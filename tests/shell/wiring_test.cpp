@@ -5,7 +5,10 @@
 #include "document/objects.h"
 #include "document/project_file.h"
 #include "document/redraw.h"
+#include "editing/object_panels.h"
+#include "editing/selection.h"
 #include "shell/shell_fixture.h"
+#include "tools/placement.h"
 
 namespace tagwright {
 namespace {
@@ -57,6 +60,33 @@ TEST_F(WiringTest, SaveNewAndOpenFromTheRecentList) {
   EXPECT_EQ(ObjectUB, 0);
   EXPECT_EQ(frmMain.cboLabelLayout.ListIndex(), 5);
   EXPECT_EQ(LabelWidth, 63);
+}
+
+// A field left open for a text that is gone would keep Ctrl+A and Ctrl+C for itself.
+TEST_F(WiringTest, AfterALoadAndANewLabelTheBoardHasTheKeyboard) {
+  const auto type_text = [] {
+    frmMain.cmdTools(3).Press();
+    StartTool(BoardOriginX + 10, BoardOriginY + 20);
+    frmMain.txtTool.UserType("Fig jam");
+    ASSERT_TRUE(frmMain.txtTool.HasFocus());
+  };
+  type_text();
+  dialogs.files = {folder.File("a.twp")};
+  frmMain.mnuFileSaveAs.SetEnabled(true);
+  frmMain.mnuFileSaveAs.Press();
+  frmMain.mnuFileOld(0).Press();
+  EXPECT_TRUE(frmMain.txtSetFocus(0).HasFocus());
+  EXPECT_EQ(TextEditOpen, kFalse);
+  EXPECT_EQ(frmMain.txtTool.Text(), "");
+  ASSERT_EQ(ObjectUB, 0);
+  EXPECT_EQ(ObjectAt(0).Text.Trimmed(), "Fig jam");
+
+  type_text();
+  DirtyFlag = kFalse;
+  ModifierHeld = true;  // as in the shortcut itself
+  frmMain.mnuFileNew.Press();
+  EXPECT_TRUE(frmMain.txtSetFocus(0).HasFocus());
+  EXPECT_EQ(ObjectUB, -1);
 }
 
 TEST_F(WiringTest, ATableGoesInAndATableOfAnotherKindReplacesIt) {

@@ -1,9 +1,80 @@
 #include "tools/context_menus.h"
 
+#include "platform/windows.h"
 #include "tools/hand_fixture.h"
 
 namespace tagwright {
 namespace {
+
+// Notes the menus that open.
+class MenuService : public WindowService {
+ public:
+  std::vector<std::string> opened;
+  void Create(Form&) override {}
+  void Show(Form&) override {}
+  void RunModal(Form&) override {}
+  void Destroy(Form&) override {}
+  void PopupMenu(Form&, Menu& menu) override { opened.push_back(menu.Name()); }
+  void SendTab() override {}
+};
+
+constexpr int kMenuKey = 93;
+constexpr int kF10 = 121;
+
+class TextMenuTest : public HandTest {
+ protected:
+  TextMenuTest() { SetWindowService(&menus); }
+  ~TextMenuTest() override { SetWindowService(nullptr); }
+  // Whether the key opens the menu of texts, and goes no further then.
+  bool Opens(int key, int shift = 0) {
+    menus.opened.clear();
+    const bool goes_on = frmMain.UserKeyDown(key, shift);
+    const bool opened = menus.opened == std::vector<std::string>{"mnuText"};
+    EXPECT_NE(goes_on, opened);
+    return opened;
+  }
+  MenuService menus;
+};
+
+// --- texts --------------------------------------------------------------------------------------
+
+TEST_F(TextMenuTest, TheMenuKeyAndShiftF10OpenItForATextAlsoWhileItIsTyped) {
+  SelectObject(PutText("Abc"));
+  EXPECT_TRUE(Opens(kMenuKey));
+  EXPECT_TRUE(Opens(kF10, kShift));
+  EXPECT_FALSE(Opens(kF10));
+  FillPanelFromObject();
+  ASSERT_TRUE(frmMain.txtTool.HasFocus());
+  EXPECT_TRUE(Opens(kMenuKey));
+}
+
+TEST_F(TextMenuTest, TheyOpenItForAGroupButForNothingElse) {
+  EXPECT_FALSE(Opens(kMenuKey));
+  PutBox(10, 10);
+  PutBox(40, 10);
+  SelectObject(0);
+  EXPECT_FALSE(Opens(kMenuKey));
+  EXPECT_FALSE(Opens(kF10, kShift));
+  SelectGroup({0, 1});
+  EXPECT_TRUE(Opens(kMenuKey));
+}
+
+TEST_F(TextMenuTest, OnAZoomButtonTheMenuKeyOpensTheFlyout) {
+  SelectObject(PutText("Abc"));
+  frmMain.cmdTools(5).SetFocus();
+  EXPECT_FALSE(frmMain.UserKeyDown(kMenuKey, 0));
+  EXPECT_TRUE(menus.opened.empty());
+  EXPECT_TRUE(frmMain.picMag.Visible());
+}
+
+TEST_F(TextMenuTest, ARightPressOnThePanelOfTextsOpensItToo) {
+  frmMain.picText.UserMouseDown(kLeftButton, 0, 0, 0);
+  frmMain.picText.UserMouseUp(kLeftButton, 0, 0, 0);
+  EXPECT_TRUE(menus.opened.empty());
+  frmMain.picText.UserMouseDown(kRightButton, 0, 0, 0);
+  frmMain.picText.UserMouseUp(kRightButton, 0, 0, 0);
+  EXPECT_EQ(menus.opened, std::vector<std::string>{"mnuText"});
+}
 
 class ContextMenusTest : public HandTest {
  protected:

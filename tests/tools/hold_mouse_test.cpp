@@ -167,8 +167,9 @@ TEST_F(HoldMouseTest, ASelectedTextIsShownByItsHitAreaOverABoardWithoutIt) {
   EXPECT_EQ(RedrawSkip, -1);
 }
 
-// The panel picks the row "13", and what ends the entry later reads the box.
-TEST_F(HoldMouseTest, ASizeWithoutARowIsNotLost) {
+// The panel picks the row "13", as filling it alone shows; the press then shows the size itself,
+// since what ends the entry later reads the box, and the row would cost half a point.
+TEST_F(HoldMouseTest, ARealPressOnATextOfThirteenAndAHalfPointsShowsJustThat) {
   ObjectRecord text = TextObject("Abc", 10, 10);
   text.FontSize = 13.5;
   text.Width = 20;
@@ -297,6 +298,33 @@ TEST_F(HoldMouseTest, TheRightButtonOpensTheMenuOfTheKind) {
         << row.kind;
     EXPECT_EQ(SelectedObject, 0) << row.kind;
     EXPECT_FALSE(Dragging) << row.kind;
+  }
+}
+
+// The frame that stood around the group must not stay for it.
+TEST_F(HoldMouseTest, ARightPressBesideAGroupFramesTheObjectThatItSelects) {
+  PutBox(10, 10);
+  PutBox(40, 10);
+  Put(ShapeObject(kEllipse, 70, 10, 20, 10));
+  SelectGroup({0, 1});
+  frmMain.sB1.SetPanelText(3, "Objects Selected: 2");
+  Click(175, 90, kRightButton);
+  EXPECT_EQ(SelectedObject, 2);
+  EXPECT_EQ(SelectedUpper, -1);
+  ExpectFrame(170, 85, 20, 10);
+  EXPECT_EQ(frmMain.shpBox.ShapeCode(), 2);
+  EXPECT_EQ(HandlesShown(), "0123");
+  EXPECT_EQ(frmMain.sB1.PanelText(3), "");
+}
+
+TEST_F(HoldMouseTest, AGroupThatIsEmptiedByModifierLeavesNoCommandEnabled) {
+  PutBox(10, 10);
+  CtrlClick(115, 90);
+  EXPECT_TRUE(frmMain.mnuEditCopy.Enabled());
+  CtrlClick(115, 90);
+  EXPECT_EQ(SelectedUpper, -1);
+  for (const Menu* entry : {&frmMain.mnuEditCopy, &frmMain.mnuEditCut, &frmMain.mnuArrAlign}) {
+    EXPECT_FALSE(entry->Enabled()) << entry->Name();
   }
 }
 
@@ -932,6 +960,30 @@ TEST_F(PropertyPickTest, AClickOnATextGivesItsLooksToTheSelectedObject) {
   EXPECT_EQ(CursorShape, 0);
   EXPECT_EQ(frmMain.MousePointer(), 0);
   EXPECT_FALSE(Dragging);
+}
+
+// The painter leaves it to its hit area, which measuring empties. Its panel must follow, or the end
+// of the next entry would give it the former size again.
+TEST_F(PropertyPickTest, AnOpenTextStaysShownAndKeepsWhatItWasGiven) {
+  PutText("Target");
+  PutSource();
+  Click(112, 86);
+  ASSERT_EQ(SelectedObject, 0);
+  mnuTextCopy_Click();
+  Click(115, 112);
+  ExpectLooksOfSource(0);
+  EXPECT_EQ(frmMain.lblHold(0).Caption(), "Target");
+  EXPECT_EQ(frmMain.lblHold(0).Font().Name, "Courier New");
+  EXPECT_EQ(frmMain.cboSize.Text(), FormatNumber(2 * kTenMillimetres));
+  EXPECT_EQ(frmMain.cboFont.Text(), "Courier New");
+  EXPECT_EQ(frmMain.chkBold.Value(), 1);
+  EXPECT_EQ(frmMain.chkItalic.Value(), 1);
+  EXPECT_EQ(frmMain.lblTextColor.BackColor(), 0x00FF00);
+  frmMain.txtTool.SetFocus();
+  frmMain.txtTool.UserType("s");
+  DeselectObject();
+  EXPECT_EQ(ObjectAt(0).Text.Trimmed(), "Targets");
+  EXPECT_NEAR(ObjectAt(0).FontSize, 2 * kTenMillimetres, 1e-9);
 }
 
 TEST_F(PropertyPickTest, AGroupTakesTheLooksWhateverItsKindsAndIsRedrawn) {

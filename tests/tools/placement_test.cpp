@@ -79,8 +79,12 @@ TEST_F(PlacementTest, ToolsWithAPointerOfTheirOwnShowIt) {
 
 TEST_F(PlacementTest, TheBarcodeToolForgetsTheSelection) {
   SelectObject(PutBox(10, 10));
+  EnableSelectionCommands(false);
   frmMain.cmdBCode.Press();
   EXPECT_EQ(SelectedObject, -1);
+  EXPECT_EQ(HandlesShown(), "");
+  EXPECT_FALSE(frmMain.shpBox.Visible());
+  EXPECT_FALSE(frmMain.mnuEditCut.Enabled());
 }
 
 // --- the press ----------------------------------------------------------------------------------
@@ -106,9 +110,37 @@ TEST_F(PlacementTest, ALeftPressDropsTheGroup) {
   PutBox(10, 10);
   PutBox(40, 10);
   SelectGroup({0, 1});
+  EnableSelectionCommands(true);
+  frmMain.sB1.SetPanelText(3, "Objects Selected: 2");
   Click(200, 150);
   EXPECT_EQ(SelectedUpper, -1);
   EXPECT_FALSE(frmMain.shpBox.Visible());
+  EXPECT_EQ(frmMain.sB1.PanelText(3), "");
+  for (const Menu* entry : {&frmMain.mnuEditCopy, &frmMain.mnuEditCut, &frmMain.mnuArrAlign}) {
+    EXPECT_FALSE(entry->Enabled()) << entry->Name();
+  }
+}
+
+// The tool's own selection begins when its object is there.
+TEST_F(PlacementTest, AToolButtonDropsTheGroupToo) {
+  PutBox(10, 10);
+  PutBox(40, 10);
+  SelectGroup({0, 1});
+  EnableSelectionCommands(true);
+  frmMain.sB1.SetPanelText(3, "Objects Selected: 2");
+  frmMain.cmdTools(3).Press();
+  EXPECT_FALSE(frmMain.shpBox.Visible());
+  EXPECT_EQ(frmMain.sB1.PanelText(3), "");
+  EXPECT_FALSE(frmMain.mnuEditCopy.Enabled());
+}
+
+TEST_F(PlacementTest, AGestureWithoutAnObjectEnablesNoCommands) {
+  frmMain.cmdBCode.Press();
+  ClickOnLabel(10, 10);
+  EXPECT_FALSE(frmMain.mnuEditCopy.Enabled());
+  frmMain.cmdTools(5).Press();
+  ClickOnLabel(10, 10);
+  EXPECT_FALSE(frmMain.mnuEditCopy.Enabled());
 }
 
 TEST_F(PlacementTest, WhileAGroupIsBuiltThePressKeepsItAndStartsNoTool) {
@@ -435,12 +467,22 @@ TEST_F(PlacementTest, InsertPictureShowsTheFileOnItsPanel) {
   EXPECT_EQ(CursorShape, 2);
 }
 
-TEST_F(PlacementTest, ACancelledPictureDialogSaysNothingAndLeavesTheToolArmed) {
+// A click would make a picture without a file, which complains at every redraw.
+TEST_F(PlacementTest, ACancelledPictureDialogSaysNothingAndLeavesNoTool) {
   frmMain.cmdTools(2).Press();
   EXPECT_TRUE(dialogs.messages.empty());
-  EXPECT_EQ(CurrentTool, 2);
-  EXPECT_EQ(CursorShape, 0);
+  ExpectDisarmed();
   EXPECT_EQ(PicturePath, "");
+  ClickOnLabel(10, 10);
+  EXPECT_EQ(ObjectUB, -1);
+  EXPECT_TRUE(dialogs.messages.empty());
+}
+
+TEST_F(PlacementTest, ACancelledDialogDisarmsThePictureThatWasChosenBefore) {
+  ChoosePicture(PictureFile("good.gif", "100 100"));
+  ASSERT_EQ(CurrentTool, 2);
+  frmMain.cmdTools(2).Press();
+  ExpectDisarmed();
 }
 
 TEST_F(PlacementTest, APictureThatCannotBeReadIsStillChosen) {
@@ -479,7 +521,6 @@ TEST_F(PlacementTest, AClickedPictureIsCutToNineTenthsOfTheLabel) {
   ExpectRecord(1, 0, 0, 45, 45);
 }
 
-// Named on its own: the selection is left one past the last record.
 TEST_F(PlacementTest, AnUnreadablePictureIsRefusedAndDropped) {
   ChoosePicture(PictureFile("bad.gif", "bad"));
   DragOnLabel(10, 10, 50, 30);
@@ -488,8 +529,18 @@ TEST_F(PlacementTest, AnUnreadablePictureIsRefusedAndDropped) {
   EXPECT_EQ(ObjectUB, -1);
   EXPECT_FALSE(frmMain.shpBox.Visible());
   EXPECT_EQ(CurrentTool, 0);
-  EXPECT_EQ(SelectedObject, 0);
+  EXPECT_EQ(SelectedObject, -1);
+  EXPECT_FALSE(frmMain.mnuEditCut.Enabled());
   EXPECT_EQ(DirtyFlag, kTrue);
+}
+
+// The next Delete would take the object before it.
+TEST_F(PlacementTest, ARefusedPictureLeavesNothingToDelete) {
+  PutBox(60, 30);
+  ChoosePicture(PictureFile("bad.gif", "bad"));
+  DragOnLabel(10, 10, 50, 30);
+  KeyDown(46);
+  EXPECT_EQ(ObjectUB, 0);
 }
 
 TEST_F(PlacementTest, APictureThatHasGoneIsPlacedAllTheSame) {

@@ -53,6 +53,11 @@ QSize LargestWindow() { return QGuiApplication::primaryScreen()->virtualSize() *
 
 bool MenuIsOpen() { return qobject_cast<QMenu*>(QApplication::activePopupWidget()) != nullptr; }
 
+// Escape with a list unfolded is the list's alone.
+bool ClosesList(const QKeyEvent& event) {
+  return event.key() == Qt::Key_Escape && QApplication::activePopupWidget();
+}
+
 // One form's window, its views, and the way between the two.
 class FormWindow : public QObject, public ControlView {
  public:
@@ -101,6 +106,7 @@ class FormWindow : public QObject, public ControlView {
 
   // --- keyboard ---
   bool FilterKeys(QEvent& event);
+  bool AnnounceMenuKey(const QContextMenuEvent& event);
   bool OverrideShortcut(QKeyEvent& event);
   bool PressKey(QKeyEvent& event);
   bool MoveFocus(QKeyEvent& event);
@@ -121,6 +127,7 @@ class FormWindow : public QObject, public ControlView {
   bool applying_ = false;    // the model is moving the window
   bool told_ = false;        // the key under way has been reported
   bool swallowed_ = false;   // and a handler took it
+  bool announced_ = false;   // the menu key is, by the menu that it asks for
 };
 
 // --- size and state -----------------------------------------------------------------------------
@@ -339,6 +346,8 @@ bool FormWindow::FilterMouse(QEvent& event) {
 
 bool FormWindow::FilterKeys(QEvent& event) {
   switch (event.type()) {
+    case QEvent::ContextMenu:
+      return AnnounceMenuKey(static_cast<QContextMenuEvent&>(event));
     case QEvent::ShortcutOverride:
       return OverrideShortcut(static_cast<QKeyEvent&>(event));
     case QEvent::KeyPress:
@@ -355,6 +364,16 @@ bool FormWindow::FilterKeys(QEvent& event) {
   }
 }
 
+// The window system asks for a menu before it sends the key that asks for it: by then the field
+// that has the keyboard would have opened its own.
+bool FormWindow::AnnounceMenuKey(const QContextMenuEvent& event) {
+  if (event.reason() != QContextMenuEvent::Keyboard || MenuIsOpen()) return false;
+  constexpr int kMenuKey = 93;
+  announced_ = true;
+  swallowed_ = !form_.UserKeyDown(kMenuKey, ShiftCode(event.modifiers()));
+  return swallowed_;
+}
+
 bool FormWindow::IsMenuKey(const QKeyEvent& event) const {
   const QKeySequence keys(event.keyCombination());
   for (const QAction* action : window_->findChildren<QAction*>()) {
@@ -365,9 +384,12 @@ bool FormWindow::IsMenuKey(const QKeyEvent& event) const {
 
 // The first that is heard of a key: before the menus' shortcuts, which no handler would see.
 bool FormWindow::OverrideShortcut(QKeyEvent& event) {
-  if (MenuIsOpen()) return false;
+  if (MenuIsOpen() || ClosesList(event)) return false;
   told_ = true;
-  swallowed_ = !form_.UserKeyDown(KeyCode(event), ShiftCode(event.modifiers()));
+  const bool announced = std::exchange(announced_, false) && event.key() == Qt::Key_Menu;
+  if (!announced) {
+    swallowed_ = !form_.UserKeyDown(KeyCode(event), ShiftCode(event.modifiers()));
+  }
   if (swallowed_) {
     event.accept();
     return true;
@@ -382,7 +404,7 @@ bool FormWindow::OverrideShortcut(QKeyEvent& event) {
 }
 
 bool FormWindow::PressKey(QKeyEvent& event) {
-  if (MenuIsOpen()) return false;
+  if (MenuIsOpen() || ClosesList(event)) return false;
   const bool told = std::exchange(told_, false);
   if (!told) swallowed_ = !form_.UserKeyDown(KeyCode(event), ShiftCode(event.modifiers()));
   if (std::exchange(swallowed_, false)) return true;

@@ -393,5 +393,34 @@ TEST_F(KeyboardTest, TheTabKeyOfTheProgramLeavesTheField) {
   ASSERT_TRUE(QTest::qWaitFor([] { return frmMain.chkMailshot.HasFocus(); }, 1000));
 }
 
+// A held key repeats its press and its release; only its real release ends the modifiers.
+TEST_F(KeyboardTest, AHeldKeyThatRepeatsEndsNothing) {
+  NoteKeys();
+  for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease, QEvent::KeyPress}) {
+    QKeyEvent repeated(type, Qt::Key_Right, Qt::ShiftModifier, QString(), true);
+    QCoreApplication::sendEvent(Screen(), &repeated);
+  }
+  EXPECT_EQ(log, Log({"down 39/1", "down 39/1"}));
+  QKeyEvent up(QEvent::KeyRelease, Qt::Key_Right, Qt::ShiftModifier);
+  QCoreApplication::sendEvent(Screen(), &up);
+  EXPECT_EQ(log.back(), "up 39/1");
+}
+
+// The window system asks for a menu first and sends the key then.
+TEST_F(KeyboardTest, TheMenuKeyIsHeardOnceAndBeforeTheFieldsOwnMenu) {
+  const auto press = [this] {
+    QContextMenuEvent asked(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+    QCoreApplication::sendEvent(Screen(), &asked);
+    Key(Qt::Key_Menu);
+  };
+  frmMain.WindowEvents().KeyDown = [this](int& code, int) {
+    log.push_back("down " + std::to_string(code));
+    code = 0;
+  };
+  press();
+  press();
+  EXPECT_EQ(log, Log({"down 93", "down 93"}));
+}
+
 }  // namespace
 }  // namespace tagwright
