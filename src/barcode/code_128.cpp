@@ -133,7 +133,7 @@ Patterns Code128Patterns(std::string_view Data, std::int16_t CodeSet) {
 void DrawCode128(std::string_view Data, std::int16_t CodeSet, float X, float Y, double Height,
                  double Width, bool PrintCharacters, double FontSize) {
   BeginSymbol(X, Y, Height);
-  // Stands until the symbol is measured, and for good where it cannot be.
+  // Stands until the symbol is measured.
   EngineTraced([&] { ModuleWidth = Quotient(Width, static_cast<double>(Data.size()) * 11); });
   const Patterns patterns = Code128Patterns(Data, CodeSet);
   EngineTraced([&] { MeasureModule(patterns, Width); });

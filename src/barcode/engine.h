@@ -79,11 +79,13 @@ void PaintPattern(std::string_view Pattern, std::string_view Text = {});
 // Paints one pattern after the other, without text.
 void PaintPatterns(const Patterns& patterns);
 
-// The sum of a pattern's digits. Faults 6 above 32,767.
+// The sum of a pattern's digits. A digit that would take it above 32,767 is passed over and traced,
+// as any statement of the engine that faults.
 std::int16_t SumPattern(std::string_view Pattern);
 
-// PatternSum becomes the sum of all patterns and ModuleWidth the `Width` of the symbol shared out
-// among them and `gaps` more modules. A symbol above 32,767 modules faults 6 and changes neither.
+// PatternSum becomes the sum of all patterns, as SumPattern works it out, and ModuleWidth the
+// `Width` of the symbol shared out among them and `gaps` more modules. Faults 11 or 6 where that
+// has no result, which leaves ModuleWidth as it was.
 void MeasureModule(const Patterns& patterns, double Width, std::size_t gaps = 0);
 
 // How a symbol begins whose text, if any, stands centred below the bars.

@@ -154,6 +154,25 @@ int DigitSum(std::string_view pattern) {
   return sum;
 }
 
+// Digit by digit in 16 bits: one that does not fit any more is passed over. That is told once, not
+// for each of the thousands of digits that may follow.
+[[gnu::cold, gnu::noinline]] std::int16_t SumAsFarAsItGoes(const Patterns& patterns) {
+  int sum = 0;
+  for (const std::string_view pattern : patterns) {
+    for (const char digit : pattern) {
+      if (sum + digit - '0' <= INT16_MAX) sum += digit - '0';
+    }
+  }
+  TraceOverflow();
+  return static_cast<std::int16_t>(sum);
+}
+
+std::int16_t SumPatterns(const Patterns& patterns) {
+  std::int64_t sum = 0;
+  for (const std::string_view pattern : patterns) sum += DigitSum(pattern);
+  return sum <= INT16_MAX ? static_cast<std::int16_t>(sum) : SumAsFarAsItGoes(patterns);
+}
+
 }  // namespace
 
 void DrawBarcode(std::string& Data, const std::int16_t& Format, float X, float Y, double Height,
@@ -197,14 +216,10 @@ void PaintPatterns(const Patterns& patterns) {
   for (const std::string_view pattern : patterns) PaintPattern(pattern);
 }
 
-std::int16_t SumPattern(std::string_view Pattern) {
-  return Narrowed<std::int16_t>(DigitSum(Pattern));
-}
+std::int16_t SumPattern(std::string_view Pattern) { return SumPatterns({Pattern}); }
 
 void MeasureModule(const Patterns& patterns, double Width, std::size_t gaps) {
-  std::int64_t sum = 0;
-  for (const std::string_view pattern : patterns) sum += DigitSum(pattern);
-  PatternSum = Narrowed<std::int16_t>(sum);
+  PatternSum = SumPatterns(patterns);
   ModuleWidth = Quotient(Width, PatternSum + static_cast<double>(gaps));
 }
 

@@ -8,17 +8,20 @@
 #include "platform/dialogs.h"
 #include "platform/fault.h"
 #include "platform/files.h"
+#include "platform/text.h"
 
 namespace tagwright {
 namespace {
 
-// Returns false when the user cancels. A save that is cancelled in its dialog does not count.
+// Returns false when the user cancels, and where a label that was to be saved has not been: no file
+// was named, or it could not be written.
 bool MayLeaveLabel() {
   if (!DirtyFlag) return true;
   const Answer answer = MessageBox("Do you want to save the changes you have made to this label?",
                                    MessageButtons::kYesNoCancel, MessageIcon::kQuestion);
-  if (answer == Answer::kYes) SaveProject(kFalse);
-  return answer != Answer::kCancel;
+  if (answer != Answer::kYes) return answer != Answer::kCancel;
+  SaveProject(kFalse);
+  return !DirtyFlag;
 }
 
 void HideHitAreas() {
@@ -40,12 +43,21 @@ void EmptyPanels() {
   frmMain.txtTool.SetText("");
 }
 
+void EmptySourceLists() {
+  frmMain.cboRSet.Clear();
+  frmMain.lstFields.Clear();
+  frmMain.lblRCount.SetCaption("");
+}
+
 void ForgetSource() {
   frmMain.lblFileName.SetCaption("");
   ProjectPath.clear();
   CurrentTable.clear();
   DatabasePassword.clear();
+  SourceDatabase.reset();
   RecordCount = -1;
+  FieldUB = -1;
+  EmptySourceLists();
 }
 
 // Returns false when the user cancels.
@@ -69,6 +81,7 @@ void mnuFileNew_Click() {
   RedrawBoard();
   HideHandles();
   EmptyPanels();
+  ShowSaveNote("");
   DirtyFlag = kFalse;
   ForgetSource();
   frmMain.cmdTools(0).Press();
@@ -80,16 +93,16 @@ void mnuFileNew_Click() {
 void mnuFileOpen_Click() {
   if (!MayLeaveLabel() || !AskForProject()) return;
   LoadProject(frmMain.cd1.FileName);
-  DirtyFlag = kFalse;
 }
 
 void mnuFileSave_Click() { SaveProject(kFalse); }
 
 void mnuFileSaveAs_Click() { SaveProject(kTrue); }
 
-// Asks nothing about unsaved changes.
+// Asks nothing about unsaved changes. The entry's caption has lost the capitals of its file, and
+// may read like another one's name.
 void mnuFileOld_Click(int Index) {
-  const std::string path = frmMain.mnuFileOld(Index).Caption();
+  const std::string path = Trim(RecentFiles.at(static_cast<std::size_t>(Index)));
   if (FileExists(path)) LoadProject(path);
 }
 

@@ -27,16 +27,21 @@ std::string ProjectRecordBytes(const ObjectRecord& record);
 ObjectRecord ProjectRecordFromBytes(std::string_view bytes);
 
 // Saves the document with its trailers to ProjectPath, or to a name asked for when that is empty or
-// `ForceDialog` is set: then the caption shows that name. Deletes an existing file before it
-// writes. Clears DirtyFlag and updates the recent files, whether or not the file could be written.
-// The trailers stay in the slots beyond ObjectUB. A cancelled dialog changes nothing. Never faults.
+// `ForceDialog` is set: then the caption shows that name, which is taken exactly. Deletes an
+// existing file before it writes. Clears DirtyFlag; where the file could not be written that stays
+// as it was, and the status bar says why. Updates the recent files in either case. The trailers
+// stay in the slots beyond ObjectUB. A cancelled dialog changes nothing. Never faults.
 void SaveProject(const Flag& ForceDialog);
 
+// What the status bar says of the last save: nothing where it went well.
+void ShowSaveNote(const std::string& note);
+
 // Replaces the document by the file `Path`: records, serial settings, data source, layout, hit
-// areas, selection, caption and recent files; ends in a redraw. DirtyFlag is the caller's. A file
-// of 32,768 bytes or more opens as that many blank records, and one that cannot be read likewise.
-// If the user will not go on without the data file the document is empty, LoadingProject stays set
-// and nothing is redrawn. Never faults.
+// areas, selection, caption and recent files; ends in a redraw. The project keeps the name that the
+// file has on disk. DirtyFlag is clear at the end, whatever the lists that are filled have said. A
+// file of 32,768 bytes or more opens as that many blank records, and one that cannot be read
+// likewise. If the user will not go on without the data file the document is empty, LoadingProject
+// stays set and nothing is redrawn. Never faults.
 void LoadProject(const std::string& Path);
 
 // Recent files: slots 0 to 6, RecentUB the highest used one (-1 none).
@@ -48,9 +53,12 @@ inline std::int16_t RecentUB = -1;
 // copies the list to ProgSettings.
 void AddRecentFile(const std::string& Path);
 
+// Where the project `path` lies file dialogs open.
+void RememberProjectFolder(const std::string& path);
+
 // Shows mnuFileBar4 and one entry mnuFileOld(i) per slot whose file exists, captioned by its
-// trimmed path in lower case. Start-up calls it alone: the settings keep their gaps until the list
-// changes.
+// trimmed path in lower case, "&" doubled since one alone would mark the letter behind it. Start-up
+// calls it alone: the settings keep their gaps until the list changes.
 void ShowRecentFiles();
 
 // --- state of the data source that a project carries ---

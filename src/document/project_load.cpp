@@ -195,12 +195,10 @@ void RemoveMissingPictures() {
   }
 }
 
-}  // namespace
-
-void LoadProject(const std::string& Path) {
-  const std::string path = Path;  // the caller's text may change on the way
+void Load(const std::string& path) {
   frmMain.SetCaption(ProductTitle + " [" + FileBaseName(path) + "]");
   ProjectPath = path;
+  RememberProjectFolder(path);
   KeyboardToBoard();
   DropSelection();
   frmMain.txtTool.SetText("");
@@ -215,6 +213,14 @@ void LoadProject(const std::string& Path) {
   PlaceHolds();
   RemoveMissingPictures();
   RedrawBoard();
+}
+
+}  // namespace
+
+void LoadProject(const std::string& Path) {
+  Load(ResolvePath(Path));
+  ShowSaveNote("");
+  DirtyFlag = kFalse;
 }
 
 }  // namespace tagwright

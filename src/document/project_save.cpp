@@ -10,6 +10,8 @@
 namespace tagwright {
 namespace {
 
+constexpr int kNotesPanel = 4;  // of the status bar
+
 // Returns false when the user cancels or names nothing.
 bool AskForName() {
   CommonDialog& dialog = frmMain.cd1;
@@ -20,6 +22,7 @@ bool AskForName() {
   CarryOn([&] { dialog.ShowSave(); });
   if (dialog.FileName.empty()) return false;
   ProjectPath = dialog.FileName;
+  RememberProjectFolder(ProjectPath);
   frmMain.SetCaption(ProductTitle + " [" + ProjectPath + "]");
   return true;
 }
@@ -59,25 +62,28 @@ std::string DocumentBytes() {
   return bytes;
 }
 
-// The old file goes first, so that a shorter new one keeps no tail of it. Its name is looked up
-// before that: a name from the recent list has lost its capitals.
-void ReplaceFile(const std::string& path, const std::string& bytes) {
-  const std::string target = ResolvePath(path);
-  CarryOn([&] {
-    if (FileExists(target)) DeleteFile(target);
-  });
-  CarryOn([&] { WriteFile(target, bytes); });
+// Returns why the file could not be written, and nothing when it has been.
+std::string WriteDocument() {
+  try {
+    ReplaceFile(ProjectPath, DocumentBytes());
+  } catch (const Fault& fault) {
+    return "Not saved: " + fault.description;
+  }
+  return {};
 }
 
 }  // namespace
+
+void ShowSaveNote(const std::string& note) { frmMain.sB1.SetPanelText(kNotesPanel, note); }
 
 void SaveProject(const Flag& ForceDialog) {
   if ((ProjectPath.empty() || ForceDialog) && !AskForName()) return;
   const std::int16_t objects = ObjectUB;
   CarryOn([] { AppendTrailer(FillSerialTrailer); });
   CarryOn([] { AppendTrailer(FillSourceTrailer); });
-  ReplaceFile(ProjectPath, DocumentBytes());
-  DirtyFlag = kFalse;
+  const std::string trouble = WriteDocument();
+  ShowSaveNote(trouble);
+  if (trouble.empty()) DirtyFlag = kFalse;
   ObjectUB = objects;  // the trailers stay in their slots
   AddRecentFile(ProjectPath);
 }

@@ -5,6 +5,7 @@
 #include "common/prog_settings.h"
 #include "document/project_file.h"
 #include "forms/frmMain.h"
+#include "platform/dialog_folders.h"
 #include "platform/files.h"
 #include "platform/text.h"
 
@@ -16,10 +17,16 @@ constexpr std::int16_t kLastEntry = 5;  // of the menu and the settings
 
 std::string& Slot(int index) { return RecentFiles.at(static_cast<std::size_t>(index)); }
 
+// One file may have come under two spellings, and two files may differ in no more.
+bool MeanTheSame(const std::string& a, const std::string& b) {
+  if (!EqualPaths(a, b)) return false;
+  return !FileExists(a) || !FileExists(b) || ResolvePath(a) == ResolvePath(b);
+}
+
 // The slot that holds `path`, -1 none.
 int FindRecent(const std::string& path) {
   for (int i = 0; i <= RecentUB; ++i) {
-    if (EqualPaths(Slot(i), path)) return i;
+    if (MeanTheSame(Slot(i), path)) return i;
   }
   return -1;
 }
@@ -50,7 +57,7 @@ void ShowEntry(int index) {
   entry.SetVisible(exists);
   if (!exists) return;
   frmMain.mnuFileBar4.SetVisible(true);
-  entry.SetCaption(LowerCase(path));
+  entry.SetCaption(Replace(LowerCase(path), "&", "&&"));
 }
 
 void CopyToSettings() {
@@ -61,6 +68,11 @@ void CopyToSettings() {
 }
 
 }  // namespace
+
+void RememberProjectFolder(const std::string& path) {
+  RememberFile(kProjectFilter, path);
+  RememberMainFile(path);
+}
 
 void AddRecentFile(const std::string& Path) {
   // A copy: the caller's text may be one of the slots that move.

@@ -2,20 +2,20 @@
 
 #include <utility>
 
+#include "common/diagnostics.h"
 #include "document/objects.h"
 #include "document/redraw.h"
 #include "document/selection_state.h"
 #include "editing/selection.h"
 #include "editing/undo.h"
 #include "forms/frmMain.h"
-#include "platform/fault.h"
 
 namespace tagwright {
 namespace {
 
 void MarkGroup() {
   for (int i = 0; i <= SelectedUpper; ++i) {
-    CarryOn([&] { ObjectAt(SelectedMember(i)).ObjType = kDeleteMark; });
+    Traced([&] { ObjectAt(SelectedMember(i)).ObjType = kDeleteMark; });
   }
 }
 
@@ -28,7 +28,7 @@ void RemoveAt(int index) {
 // along, hence the second test.
 void RemoveMarked() {
   for (int i = ObjectUB; i >= 0; --i) {
-    if (i <= ObjectUB && ObjectAt(i).ObjType == kDeleteMark) RemoveAt(i);
+    if (i <= ObjectUB && ObjectAt(i).ObjType == kDeleteMark) Traced([&] { RemoveAt(i); });
   }
 }
 
@@ -36,6 +36,8 @@ void RemoveGroup() {
   MarkGroup();
   RemoveMarked();
 }
+
+void RemoveSelected() { SelectedUpper < 0 ? RemoveObject() : RemoveGroup(); }
 
 }  // namespace
 
@@ -51,10 +53,11 @@ void SortSelection() {
 
 void DeleteSelection() {
   if (SelectedObject == -1 && SelectedUpper == -1) return;
+  DirtyFlag = kTrue;
   frmMain.sB1.SetPanelText(3, "");
-  SortSelection();
+  Traced(SortSelection);
   SaveUndoDelete();
-  SelectedUpper < 0 ? RemoveObject() : RemoveGroup();
+  Traced(RemoveSelected);
   DropSelection();
   RedrawBoard();
 }

@@ -1,12 +1,12 @@
 #include "editing/property_pick.h"
 
+#include "common/diagnostics.h"
 #include "document/objects.h"
 #include "document/redraw.h"
 #include "document/selection_state.h"
 #include "editing/object_panels.h"
 #include "editing/selection.h"
 #include "forms/frmMain.h"
-#include "platform/fault.h"
 
 namespace tagwright {
 namespace {
@@ -20,6 +20,7 @@ void SetPointer(std::int16_t shape) {
 
 void CopyProperties(const ObjectRecord& source, int index) {
   ObjectRecord& target = ObjectAt(index);
+  DirtyFlag = kTrue;
   target.FontName = source.FontName;
   target.FontSize = source.FontSize;
   target.Bold = source.Bold;
@@ -43,7 +44,7 @@ void CopyToSelectedObject(const ObjectRecord& source) {
 void CopyToGroup(const ObjectRecord& source) {
   if (SelectedUpper < 0) return;
   for (int i = 0; i <= SelectedUpper; ++i) {
-    CarryOn([&] { CopyProperties(source, SelectedMember(i)); });
+    Traced([&] { CopyProperties(source, SelectedMember(i)); });
   }
   RedrawBoard();
 }
@@ -57,7 +58,7 @@ void mnuTextCopy_Click() {
 
 void PickProperties(int index) {
   const ObjectRecord source = ObjectAt(index);
-  CarryOn([&] { CopyToSelectedObject(source); });
+  Traced([&] { CopyToSelectedObject(source); });
   CopyToGroup(source);
   EndPropertyPick();
 }

@@ -103,7 +103,10 @@ void TakeGeometryOfHold() {
 void TakeTypedText() {
   const std::string& text = frmMain.txtTool.Text();
   CarryOn([&] { SelectedHold().SetCaption(text); });
+  const auto before = SelectedRecord().Text;
   SelectedRecord().Text = text;
+  if (SelectedRecord().Text != before)
+    DirtyFlag = kTrue;  // keys that are no characters delete, too
   CarryOn([] { SelectedHold().SetAutoSize(true); });
   TakeGeometryOfHold();
   ShowHandles(SelectedHold());

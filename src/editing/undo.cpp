@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "common/diagnostics.h"
 #include "forms/frmMain.h"
-#include "platform/fault.h"
 
 namespace tagwright {
 namespace {
@@ -15,7 +15,7 @@ int LastSlot() { return static_cast<int>(kSelectionSlots) - 1; }
 void SaveGroup() {
   UndoUpper = SelectedUpper;
   for (int i = 0; i <= std::min<int>(ObjectUB, LastSlot()); ++i) {
-    CarryOn([&] { UndoPlace(i) = ObjectAt(SelectedMember(i)); });
+    Traced([&] { UndoPlace(i) = ObjectAt(SelectedMember(i)); });
   }
 }
 
@@ -25,7 +25,7 @@ void SaveUndoDelete() {
   if (SelectedObject == -1 && SelectedUpper == -1) return;
   UndoKind = UndoOf::kDelete;
   if (SelectedObject != -1) {
-    CarryOn([] { UndoPlace(0) = ObjectAt(SelectedObject); });
+    Traced([] { UndoPlace(0) = ObjectAt(SelectedObject); });
     UndoUpper = 0;
   }
   if (SelectedUpper != -1) SaveGroup();

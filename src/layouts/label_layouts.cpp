@@ -118,7 +118,7 @@ void LoadLabelLayouts() {
 void SaveLabelLayouts() {
   std::string bytes;
   for (const LabelLayout& layout : LabelLayouts) bytes += LabelLayoutBytes(layout);
-  WriteFile(LayoutPath(), bytes);
+  WriteFile(ResolvePath(LayoutPath()), bytes);  // the one that was read, whatever its case
 }
 
 }  // namespace tagwright

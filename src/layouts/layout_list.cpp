@@ -26,9 +26,22 @@ void ShowLength(int box, float millimetres) {
   frmMain.txtLabLayout(box).SetText(FormatFixed(length, 2));
 }
 
+// What a list says while it is filled is no change of the user's.
+class UnchangedLabel {
+ public:
+  UnchangedLabel() = default;
+  ~UnchangedLabel() { DirtyFlag = dirty_; }
+  UnchangedLabel(const UnchangedLabel&) = delete;
+  UnchangedLabel& operator=(const UnchangedLabel&) = delete;
+
+ private:
+  Flag dirty_ = DirtyFlag;
+};
+
 }  // namespace
 
 void FillLayoutList() {
+  const UnchangedLabel unchanged;
   ComboBox& list = frmMain.cboLabelLayout;
   list.Clear();
   for (int i = 0; i <= LabelLayoutTop; ++i) {
@@ -54,6 +67,10 @@ void ShowLayout() {
   RedrawBoard();
 }
 
-void cboLabelLayout_Click() { CarryOn(ShowLayout); }
+// The project stores which layout it has.
+void cboLabelLayout_Click() {
+  DirtyFlag = kTrue;
+  CarryOn(ShowLayout);
+}
 
 }  // namespace tagwright

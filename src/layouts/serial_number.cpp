@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <tuple>
 
 #include "barcode/formats.h"
 #include "common/public_functions.h"
@@ -104,6 +105,12 @@ void TakeBarcode() {
   SerialBarcodeHeight = FromUnit(ToNumber(f.txtBCodeWid(1).Text()));
 }
 
+// What the project stores of it.
+auto SerialState() {
+  return std::tuple(SerialPrefix, SerialValue, SerialIncrement, SerialPrintText, SerialBarcodeType,
+                    SerialBarcodeWidth, SerialBarcodeHeight);
+}
+
 // --- typing -------------------------------------------------------------------------------------
 
 int NumberKey(int key, const TextBox& box) {
@@ -168,12 +175,14 @@ void cboInc_KeyPress(int& KeyAscii) { TypeInCombo(frmSerialNumber.cboInc, KeyAsc
 void cboInc_LostFocus() { LeaveCombo(frmSerialNumber.cboInc); }
 
 void cmdSave_Click() {
+  const auto before = SerialState();
   TakeNumber();
   if (frmSerialNumber.chkBCode.Value() == 1) {
     TakeBarcode();
   } else {
     SerialBarcodeType = kNoBarcode;
   }
+  if (SerialState() != before) SetDirty();
   Unload(frmSerialNumber);
 }
 

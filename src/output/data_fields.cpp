@@ -23,6 +23,7 @@ void TakeSizeOfHold(int index) {
 
 void mnuField_Click(int Index) {
   if (!FieldIsSelected()) return;
+  DirtyFlag = kTrue;
   ObjectAt(SelectedObject).FillColor = Index;
   TakeSizeOfHold(SelectedObject);
   RedrawBoard();
@@ -30,6 +31,7 @@ void mnuField_Click(int Index) {
 
 void mnuFBC_Click(int Index) {
   if (!FieldIsSelected()) return;
+  DirtyFlag = kTrue;
   ObjectAt(SelectedObject).FillColor = Index + kFirstBarcodeFormat;
   RedrawBoard();
 }

@@ -1,5 +1,5 @@
 // The pop-up menu of a data field on the label: how its value is shown. Both do nothing unless a
-// data field is selected, and set no DirtyFlag.
+// data field is selected, and set DirtyFlag.
 #pragma once
 
 namespace tagwright {

@@ -8,6 +8,7 @@
 #include "forms/frmMain.h"
 #include "output/database_source.h"
 #include "output/text_source.h"
+#include "platform/dialog_folders.h"
 #include "platform/dialogs.h"
 #include "platform/fault.h"
 
@@ -28,8 +29,10 @@ int ChosenKind() { return frmMain.cboImportType.ListIndex(); }
 // Returns false when the user cancels or names no file.
 bool AskForDataFile() {
   CommonDialog& dialog = frmMain.cd1;
-  if (ChosenKind() >= kDatabaseSource && ChosenKind() <= kTabSource)
+  if (ChosenKind() >= kDatabaseSource && ChosenKind() <= kTabSource) {
     dialog.Filter = kFilters[ChosenKind()];
+    RememberFile(dialog.Filter, frmMain.lblFileName.Caption());
+  }
   dialog.FileName.clear();
   dialog.CancelError = true;
   try {
@@ -81,6 +84,7 @@ std::string& FieldValueAt(std::size_t slot) {
 
 void cmdBrowse_Click() {
   if (!AskForDataFile()) return;
+  DirtyFlag = kTrue;
   const std::string path = frmMain.cd1.FileName;
   FieldUB = -1;
   if (!SourceOpens()) return;
@@ -98,11 +102,14 @@ void FillFieldList() {
 void ShowRecordCount() { frmMain.lblRCount.SetCaption("Records: " + std::to_string(RecordCount)); }
 
 void cboImportType_Click() {
-  if (ChosenKind() == -1 || LoadingProject) return;
+  if (ChosenKind() == -1) return;
+  DirtyFlag = kTrue;
+  if (LoadingProject) return;
   frmMain.cmdBrowse.Press();
 }
 
 void chkFirstRow_Click() { DirtyFlag = kTrue; }
+void chkQuote_Click() { DirtyFlag = kTrue; }
 
 void lstFields_DblClick() {
   CurrentTool = kDataField;

@@ -62,6 +62,7 @@ void ShowRecordCount();
 void cboImportType_Click();  // opens the file dialog, unless a project is being loaded
 void cboRSet_Click();        // takes the columns and counts the rows of the chosen table
 void chkFirstRow_Click();    // sets DirtyFlag, nothing else
+void chkQuote_Click();       // likewise
 void lstFields_DblClick();   // arms tool 20 with its pointer
 
 // --- the cursor of a print job ------------------------------------------------------------------

@@ -113,6 +113,7 @@ void OpenDatabaseSource() {
 void cboRSet_Click() {
   const int row = frmMain.cboRSet.ListIndex();
   if (row == -1) return;
+  DirtyFlag = kTrue;
   Traced([&] { TakeTable(row); });
   if (Traced(ReadColumns)) StoreColumnNames();
   CurrentTable = frmMain.cboRSet.Text();

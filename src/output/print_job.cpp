@@ -87,6 +87,7 @@ void PaintCell(const Job& job, double col, double row) {
 void RaiseSerial() {
   if (SerialValue == std::numeric_limits<std::int32_t>::max()) RaiseFault(kOverflow);
   ++SerialValue;
+  if (!PreviewMode) DirtyFlag = kTrue;  // or the next start gives the same numbers out again
 }
 
 Leave PrintCell(Job& job, double col, double row) {

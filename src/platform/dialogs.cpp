@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "platform/controls.h"
+#include "platform/dialog_folders.h"
 #include "platform/fault.h"
 
 namespace tagwright {
@@ -48,6 +49,7 @@ void TakeFile(CommonDialog& dialog, const std::optional<std::string>& chosen) {
   if (!WasChosen(chosen, dialog.CancelError)) return;
   dialog.FileName = *chosen;
   dialog.FileTitle = LastPart(*chosen);
+  RememberFile(dialog.Filter, *chosen);
 }
 
 }  // namespace

@@ -66,6 +66,19 @@ std::string EntryNamed(const std::string& folder, const std::string& name, bool 
   return best;
 }
 
+// Where `path` is to be written: under exactly its name, in the folder that the rest of it means.
+std::string PathToWrite(std::string_view path) {
+  const std::string whole = WithSystemSeparators(path);
+  const std::size_t name = whole.rfind('/') + 1;
+  return ResolvePath(whole.substr(0, name)) + whole.substr(name);
+}
+
+// A device, or a link to one, is not ours to remove.
+void RemoveIfFile(const std::string& path) {
+  const auto status = Status(path);
+  if (status && S_ISREG(status->st_mode)) unlink(path.c_str());
+}
+
 // --- descriptors ---
 
 class Descriptor {
@@ -189,7 +202,7 @@ std::string ReadFileStart(std::string_view path, std::size_t limit) {
 
 void WriteFile(std::string_view path, std::string_view bytes) {
   if (!CanBeName(path)) RaiseFault(kFileAccess);
-  Descriptor file(open(ResolvePath(path).c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0666));
+  Descriptor file(open(PathToWrite(path).c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0666));
   if (file.Number() < 0) RaiseWriteFault(errno);
   while (!bytes.empty()) {
     const ssize_t put = write(file.Number(), bytes.data(), bytes.size());
@@ -198,6 +211,17 @@ void WriteFile(std::string_view path, std::string_view bytes) {
     bytes.remove_prefix(static_cast<std::size_t>(put));
   }
   if (!file.Close()) RaiseWriteFault(errno);
+}
+
+void ReplaceFile(std::string_view path, std::string_view bytes) {
+  const std::string target = PathToWrite(path);
+  if (CanBeName(path)) RemoveIfFile(target);
+  try {
+    WriteFile(path, bytes);
+  } catch (const Fault&) {
+    if (CanBeName(path)) RemoveIfFile(target);
+    throw;
+  }
 }
 
 void DeleteFile(std::string_view path) {

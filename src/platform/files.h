@@ -1,5 +1,6 @@
-// Files by name. Names resolve as users of this program's files expect: the exact name first, then
-// ignoring case component by component; "/" and "\" both separate. Bytes are std::string.
+// Files by name. A name to be found is taken as users of this program's files expect: exactly
+// first, then ignoring case component by component. A name to be written is taken exactly, in a
+// folder that is found. "/" and "\" both separate. Bytes are std::string.
 #pragma once
 
 #include <cstdint>
@@ -46,9 +47,14 @@ std::string ReadFile(std::string_view path);
 // The first `limit` bytes at most. Faults as ReadFile.
 std::string ReadFileStart(std::string_view path, std::size_t limit);
 
-// Creates or overwrites the file with `bytes` from its start. An existing file that is longer
-// keeps its tail (callers that want it gone delete it first). Faults 75, 57, 61 (disk full).
+// Creates or overwrites the file of exactly this name with `bytes` from its start. An existing file
+// that is longer keeps its tail (ReplaceFile leaves none). Faults 75, 57, 61 (disk full).
 void WriteFile(std::string_view path, std::string_view bytes);
+
+// Puts a file of exactly this name in the place of what was there: a former file goes first, and
+// after a failure no part of the new one stays. A former one that cannot be deleted is written
+// over. Faults as WriteFile.
+void ReplaceFile(std::string_view path, std::string_view bytes);
 
 // Deletes. Faults 53 when there is no such file, 75 when it cannot be deleted.
 void DeleteFile(std::string_view path);

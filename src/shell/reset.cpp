@@ -12,6 +12,7 @@
 #include "layouts/serial_number.h"
 #include "output/data_sources.h"
 #include "platform/desktop.h"
+#include "platform/dialog_folders.h"
 #include "platform/event.h"
 #include "platform/printer.h"
 #include "platform/windows.h"
@@ -55,6 +56,7 @@ void ResetTools() {
 void ResetProgram() {
   UnloadAll();
   ForgetAfterHandlers(nullptr);
+  ForgetDialogFolders();
   SetScreenMousePointer(0);
   ResetPrinter();
   ResetDataSources();

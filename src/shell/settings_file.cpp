@@ -93,12 +93,12 @@ SettingsRecord ReadSettings(const std::string& path) {
   return SettingsFromBytes(ReadFileStart(path, kSettingsSize));
 }
 
-// Where the folder forbids the deletion the file itself may still take the record.
+// The former file goes under whatever case it was found.
 void WriteSettings(const std::string& path, const SettingsRecord& settings) {
   CarryOn([&] {
     if (FileExists(path)) DeleteFile(path);
   });
-  WriteFile(path, SettingsBytes(settings));
+  ReplaceFile(path, SettingsBytes(settings));
 }
 
 }  // namespace tagwright

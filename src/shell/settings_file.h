@@ -22,7 +22,8 @@ SettingsRecord SettingsFromBytes(std::string_view bytes);
 SettingsRecord ReadSettings(const std::string& path);
 
 // Writes `settings` to the file `path`; an existing one is deleted first, so that the new one is as
-// long as the record. One that cannot be deleted is written over. Faults as WriteFile.
+// long as the record, and a write that fails leaves none. One that cannot be deleted is written
+// over. Faults as WriteFile.
 void WriteSettings(const std::string& path, const SettingsRecord& settings);
 
 }  // namespace tagwright

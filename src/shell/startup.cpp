@@ -70,6 +70,7 @@ void ReadOrBuildSettings() {
   CarryOn([] { ProgSettings = ReadSettings(SettingsPath()); });
   TakeRecentFiles();
   ShowRecentFiles();
+  if (RecentUB >= 0) RememberProjectFolder(RecentFiles[0]);
 }
 
 void CheckMagneticZone() {
@@ -82,12 +83,19 @@ double Coordinate(double value) {
   return value;
 }
 
+// A file that a full disk has cut short holds no width, and a window of none would never be seen. A
+// missing height is made up for by the window's own floor.
+double SavedWidth(double value) {
+  if (!(value >= kTwipsPerPixel)) RaiseFault(kBadValue);
+  return Coordinate(value);
+}
+
 void PlaceWindow() {
   const SettingsRecord& s = ProgSettings;
   if (s.WindowLeft == kNeverSavedLeft && s.WindowTop == kNeverSavedTop) return;
   CarryOn([&] { frmMain.SetLeft(Coordinate(s.WindowLeft)); });
   CarryOn([&] { frmMain.SetTop(Coordinate(s.WindowTop)); });
-  CarryOn([&] { frmMain.SetWidth(Coordinate(s.WindowWidth)); });
+  CarryOn([&] { frmMain.SetWidth(SavedWidth(s.WindowWidth)); });
   CarryOn([&] { frmMain.SetHeight(Coordinate(s.WindowHeight)); });
 }
 

@@ -122,7 +122,7 @@ void Form_Resize() {
   RedrawBoard();
 }
 
-void Timer1_Timer() {
+void ShowWhetherToSave() {
   frmMain.mnuFileSave.SetEnabled(DirtyFlag != kFalse);
   if (DirtyFlag) frmMain.mnuFileSaveAs.SetEnabled(true);
 }

@@ -13,8 +13,9 @@ inline std::string HelpFile;
 // again. Nothing while minimised.
 void Form_Resize();
 
-// Every second: mnuFileSave is enabled exactly while DirtyFlag is set, mnuFileSaveAs from then on.
-void Timer1_Timer();
+// mnuFileSave is enabled exactly while DirtyFlag is set, mnuFileSaveAs from then on. Every second,
+// and whenever a key goes down or a menu opens: what has just changed can be saved at once.
+void ShowWhetherToSave();
 
 // A press on Zoom In or Zoom Out starts the hold, its release ends it; the third tick of 70
 // milliseconds disarms the tool and opens the flyout picMag. The timer also runs from program

@@ -44,10 +44,15 @@ void WireWindow(FrmMain& f) {
     FlyoutKeyDown(KeyCode);
     TextMenuKeyDown(KeyCode, Shift);
     BoardKeyDown(KeyCode, Shift);
+    ShowWhetherToSave();
   };
-  f.WindowEvents().KeyUp = Form_KeyUp;
+  // An opening menu ends held keys, too.
+  f.WindowEvents().KeyUp = [](int KeyCode, int Shift) {
+    Form_KeyUp(KeyCode, Shift);
+    ShowWhetherToSave();
+  };
 
-  f.Timer1.Events().Timer = Timer1_Timer;
+  f.Timer1.Events().Timer = ShowWhetherToSave;
   f.tmrButtons.Events().Timer = tmrButtons_Timer;
 }
 
@@ -173,6 +178,7 @@ void WireDataSources(FrmMain& f) {
   f.cmdBrowse.Events().Click = cmdBrowse_Click;
   f.cboRSet.Events().Click = cboRSet_Click;
   f.chkFirstRow.Events().Click = chkFirstRow_Click;
+  f.chkQuote.Events().Click = chkQuote_Click;
   f.lstFields.Events().DblClick = lstFields_DblClick;
   f.mnuField.Events().Click = mnuField_Click;
   f.mnuFBC.Events().Click = mnuFBC_Click;

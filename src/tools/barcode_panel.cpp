@@ -93,6 +93,13 @@ void FitPostalSize(const std::string& text) {
   if (format == kRoyalMail) CarryOn([&] { FitRoyalMail(length); });
 }
 
+// The label may have been saved since the keys came.
+void TakeData(ObjectRecord& record) {
+  const auto before = record.Text;
+  record.Text = frmMain.txtBCodeData.Text();
+  if (record.Text != before) DirtyFlag = kTrue;
+}
+
 }  // namespace
 
 void cboBCode_Click() {
@@ -127,7 +134,7 @@ void txtBCodeData_KeyPress(int& KeyAscii) {
 
 void txtBCodeData_LostFocus() {
   if (!BarcodeEdited || SelectedObject <= -1) return;
-  CarryOn([] { ObjectAt(SelectedObject).Text = frmMain.txtBCodeData.Text(); });
+  CarryOn([] { TakeData(ObjectAt(SelectedObject)); });
   RedrawBoard();
 }
 

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "common/diagnostics.h"
 #include "common/public_functions.h"
 #include "document/objects.h"
 #include "document/redraw.h"
@@ -58,29 +59,33 @@ void ShowDefaultPointer() {
 }  // namespace
 
 void picBoard_MouseDown(int Button, int /*Shift*/, double X, double Y) {
-  EndEntry();
-  if (Button == kLeftButton && GrabRules(X, Y)) return;
+  Traced(EndEntry);
+  bool grabs = false;
+  Traced([&] { grabs = Button == kLeftButton && GrabRules(X, Y); });
+  if (grabs) return;
   if (Button == kLeftButton && !ModifierHeld) {
-    EndSelection();
-    StartTool(X, Y);
+    Traced(EndSelection);
+    Traced([&] { StartTool(X, Y); });
   }
-  AnchorRubber(X, Y);
+  Traced([&] { AnchorRubber(X, Y); });
 }
 
 void picBoard_MouseMove(int /*Button*/, int /*Shift*/, double X, double Y) {
-  if (frmMain.MousePointer() != kCustomPointer) frmMain.SetMousePointer(CursorShape);
-  if (frmMain.mnuOptXHair.Checked()) ShowCrossHairs(X, Y);
-  ShowPlace(X, Y);
-  if (RubberBox) TrackRubberBox(X, Y, 0);
-  if (RubberLine) TrackRubberLine(X, Y);
-  DragRules(X, Y);
+  if (frmMain.MousePointer() != kCustomPointer) {
+    Traced([] { frmMain.SetMousePointer(CursorShape); });
+  }
+  if (frmMain.mnuOptXHair.Checked()) Traced([&] { ShowCrossHairs(X, Y); });
+  Traced([&] { ShowPlace(X, Y); });
+  if (RubberBox) Traced([&] { TrackRubberBox(X, Y, 0); });
+  if (RubberLine) Traced([&] { TrackRubberLine(X, Y); });
+  Traced([&] { DragRules(X, Y); });
 }
 
 void picBoard_MouseUp(int /*Button*/, int /*Shift*/, double X, double Y) {
-  ReleaseRules(X, Y);
-  if (RubberBox) PlaceObject();
-  if (RubberLine) PlaceObject();
-  if (CurrentTool == kDataField) PlaceFieldAt(X, Y);
+  Traced([&] { ReleaseRules(X, Y); });
+  if (RubberBox) Traced(PlaceObject);
+  if (RubberLine) Traced(PlaceObject);
+  if (CurrentTool == kDataField) Traced([&] { PlaceFieldAt(X, Y); });
   if (CurrentTool == kText) ShowDefaultPointer();
 }
 

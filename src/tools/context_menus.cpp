@@ -32,13 +32,20 @@ std::int16_t KindOfEntry(int index) {
   }
 }
 
+// The selected record, which is being changed. With none selected there is nothing to save either.
+ObjectRecord& ChangedRecord() {
+  ObjectRecord& record = SelectedRecord();
+  DirtyFlag = kTrue;
+  return record;
+}
+
 void CopyHeightToWidth() {
-  SelectedRecord().Width = SelectedRecord().Height;
+  ChangedRecord().Width = SelectedRecord().Height;
   SelectedHold().SetWidth(SelectedRecord().Width);
 }
 
 void CopyWidthToHeight() {
-  SelectedRecord().Height = SelectedRecord().Width;
+  ChangedRecord().Height = SelectedRecord().Width;
   SelectedHold().SetHeight(SelectedRecord().Height);
 }
 
@@ -51,13 +58,13 @@ double Quotient(double value, double divisor) {
 }
 
 void AdjustHeight() {
-  ObjectRecord& record = SelectedRecord();
-  record.Height = ToFinite(Quotient(record.Width, PictureX()) * PictureY());
+  const double height = ToFinite(Quotient(SelectedRecord().Width, PictureX()) * PictureY());
+  ChangedRecord().Height = height;
 }
 
 void AdjustWidth() {
-  ObjectRecord& record = SelectedRecord();
-  record.Width = ToFinite(Quotient(record.Height, PictureY()) * PictureX());
+  const double width = ToFinite(Quotient(SelectedRecord().Height, PictureY()) * PictureX());
+  ChangedRecord().Width = width;
 }
 
 // A length in millimetres, infinite for one beyond a double; nothing for an answer that is no
@@ -84,7 +91,7 @@ void picText_MouseDown(int Button) {
 }
 
 void mnuDrawChange_Click(int Index) {
-  CarryOn([&] { SelectedRecord().ObjType = KindOfEntry(Index); });
+  CarryOn([&] { ChangedRecord().ObjType = KindOfEntry(Index); });
   RedrawBoard();
 }
 

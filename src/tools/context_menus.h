@@ -1,5 +1,5 @@
-// The commands of the context menus on placed objects. All act on SelectedObject and leave
-// DirtyFlag as it is.
+// The commands of the context menus on placed objects. All act on SelectedObject. Those of shapes
+// and pictures set DirtyFlag where they change it, those of a field's barcode leave that as it is.
 #pragma once
 
 namespace tagwright {

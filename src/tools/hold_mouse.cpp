@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "common/diagnostics.h"
 #include "document/objects.h"
 #include "document/redraw.h"
 #include "document/selection_state.h"
@@ -14,7 +15,6 @@
 #include "editing/selection.h"
 #include "editing/track_status.h"
 #include "forms/frmMain.h"
-#include "platform/fault.h"
 #include "platform/locale.h"
 #include "platform/windows.h"
 #include "tools/placement.h"
@@ -28,7 +28,7 @@ constexpr double kDefaultBarcodeHeight = 12;
 
 bool IsText(int index) {
   bool is_text = false;
-  CarryOn([&] { is_text = ObjectAt(index).ObjType == kText; });
+  Traced([&] { is_text = ObjectAt(index).ObjType == kText; });
   return is_text;
 }
 
@@ -51,7 +51,7 @@ void ShowGroup() {
   ShowOverGroupPanel(frmMain.cboFont);
   ShowOverGroupPanel(frmMain.cboSize);
   EnableSelectionCommands(true);
-  CarryOn(ShowGroupBox);
+  Traced(ShowGroupBox);
 }
 
 void HideGroup() {
@@ -60,8 +60,8 @@ void HideGroup() {
 }
 
 void EditGroup(int index) {
-  if (SelectedObject >= 0) HoldAt(SelectedObject).SetAutoSize(false);
-  ToggleInSelection(index);
+  if (SelectedObject >= 0) Traced([] { HoldAt(SelectedObject).SetAutoSize(false); });
+  Traced([&] { ToggleInSelection(index); });
   SelectedObject = -1;
   SelectedUpper < 0 ? HideGroup() : ShowGroup();
   ShowSizeFields();
@@ -73,7 +73,7 @@ void CheckFormat(std::int32_t format) {
   for (const auto& [i, entry] : frmMain.mnuField) entry->SetChecked(false);
   for (const auto& [i, entry] : frmMain.mnuFBC) entry->SetChecked(false);
   const bool barcode = format >= kFirstBarcodeFormat;
-  CarryOn([&] {
+  Traced([&] {
     Menu& entry = barcode ? frmMain.mnuFBC(format - kFirstBarcodeFormat) : frmMain.mnuField(format);
     entry.SetChecked(true);
   });
@@ -130,13 +130,13 @@ void ShowHoldSize(const Label& hold) {
 }
 
 void ShowObject(int index) {
-  CarryOn([&] { ShowFont(ObjectAt(index)); });
+  Traced([&] { ShowFont(ObjectAt(index)); });
   ShowHoldSize(HoldAt(index));
 }
 
 void TakeHold(int index, double x, double y) {
   RedrawSkip = -1;
-  CarryOn([&] { FitHoldToText(index); });
+  Traced([&] { FitHoldToText(index); });
   BeginObjectDrag(index, x, y);
 }
 
@@ -177,12 +177,12 @@ void SelectOne(int index, int button, double x, double y) {
   if (index > ObjectUB) return HoldAt(index).SetVisible(false);
   SelectAlone(index);
   const bool left = button == kLeftButton;
-  if (!left) CarryOn([&] { ShowFrameOf(index); });
-  if (button == kRightButton) CarryOn([&] { OpenMenuOf(index); });
+  if (!left) Traced([&] { ShowFrameOf(index); });
+  if (button == kRightButton) Traced([&] { OpenMenuOf(index); });
   if (CurrentTool > kNoTool) {
     if (left) BeginToolOver(index, x, y);
   } else {
-    if (left) CarryOn([&] { TakeHold(index, x, y); });
+    if (left) Traced([&] { TakeHold(index, x, y); });
     FillPanelFromObject();
   }
   if (!GestureUnderWay()) ShowSizeFields();
@@ -200,7 +200,7 @@ void lblHold_MouseDown(int Index, int Button, int /*Shift*/, double X, double Y)
   if (ModifierHeld) return EditGroup(Index);
   if (!InGroup(Index)) EndGroup();
   if (SelectedUpper < 0) return SelectOne(Index, Button, X, Y);
-  if (Button == kLeftButton) BeginGroupDrag(Index, X, Y);
+  if (Button == kLeftButton) Traced([&] { BeginGroupDrag(Index, X, Y); });
 }
 
 void SelectWithoutMouse(int index) {
@@ -212,17 +212,19 @@ void SelectWithoutMouse(int index) {
 }
 
 void lblHold_MouseMove(int Index, int /*Button*/, int /*Shift*/, double X, double Y) {
-  RestorePointer();
-  TrackStatus(HoldAt(Index), X, Y);
-  if (Dragging) DragHold(Index, X, Y);
-  if (RubberBox) TrackRubberBox(BoardX(Index, X), BoardY(Index, Y), kAnchorTopLeft);
-  if (RubberLine) TrackRubberLine(BoardX(Index, X), BoardY(Index, Y));
+  Traced(RestorePointer);
+  Traced([&] { TrackStatus(HoldAt(Index), X, Y); });
+  if (Dragging) Traced([&] { DragHold(Index, X, Y); });
+  if (RubberBox) {
+    Traced([&] { TrackRubberBox(BoardX(Index, X), BoardY(Index, Y), kAnchorTopLeft); });
+  }
+  if (RubberLine) Traced([&] { TrackRubberLine(BoardX(Index, X), BoardY(Index, Y)); });
 }
 
 void lblHold_MouseUp(int Index, int /*Button*/, int /*Shift*/, double /*X*/, double /*Y*/) {
-  if (Dragging) EndDrag(Index);
+  if (Dragging) Traced([&] { EndDrag(Index); });
   DragMoved = false;
-  if (RubberBox || RubberLine) PlaceObject();
+  if (RubberBox || RubberLine) Traced(PlaceObject);
 }
 
 }  // namespace tagwright

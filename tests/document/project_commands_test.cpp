@@ -2,6 +2,7 @@
 
 #include "document/document_support.h"
 #include "document/selection_state.h"
+#include "platform/dialog_folders.h"
 #include "platform/text.h"
 
 namespace tagwright {
@@ -123,13 +124,45 @@ TEST_F(ProjectCommandsTest, NewSavesOnYesAndForgetsOnNo) {
   EXPECT_EQ(ObjectUB, -1);
 }
 
-TEST_F(ProjectCommandsTest, NewAfterACancelledSaveStillEmptiesTheLabel) {
+// Who wants the label saved wants it kept: with nothing saved the command ends.
+TEST_F(ProjectCommandsTest, NewAfterACancelledSaveKeepsTheLabel) {
   Add(TextObject("a"));
   DirtyFlag = kTrue;
   dialogs.answers = {Answer::kYes};
   mnuFileNew_Click();
   EXPECT_EQ(dialogs.requests.size(), 1u);
-  EXPECT_EQ(ObjectUB, -1);
+  EXPECT_EQ(ObjectUB, 0);
+  EXPECT_EQ(DirtyFlag, kTrue);
+}
+
+TEST_F(ProjectCommandsTest, NewAndOpenAfterAFailedSaveKeepTheLabel) {
+  for (void (*command)() : {mnuFileNew_Click, mnuFileOpen_Click}) {
+    ResetDocumentState();
+    Add(TextObject("a"));
+    ProjectPath = folder.File("no such folder/a.twp");
+    DirtyFlag = kTrue;
+    dialogs.answers = {Answer::kYes};
+    command();
+    EXPECT_EQ(ObjectUB, 0);
+    EXPECT_EQ(DirtyFlag, kTrue);
+    EXPECT_EQ(frmMain.sB1.PanelText(4), "Not saved: Path/File access error");
+    EXPECT_EQ(dialogs.messages.size(), 1u) << "the question alone";
+    EXPECT_TRUE(dialogs.requests.empty());
+    dialogs.messages.clear();
+  }
+}
+
+TEST_F(ProjectCommandsTest, NewEmptiesColumnsTablesAndCountOfTheFormerSource) {
+  frmMain.lstFields.AddItem("Name");
+  frmMain.cboRSet.AddItem("People");
+  frmMain.lblRCount.SetCaption("Records: 2");
+  FieldUB = 0;
+  RecordCount = 2;
+  mnuFileNew_Click();
+  EXPECT_EQ(frmMain.lstFields.ListCount(), 0);
+  EXPECT_EQ(frmMain.cboRSet.ListCount(), 0);
+  EXPECT_EQ(frmMain.lblRCount.Caption(), "") << "as at program start";
+  EXPECT_EQ(FieldUB, -1);
 }
 
 TEST_F(ProjectCommandsTest, OpenLoadsTheChosenFileAndClearsTheDirtyFlag) {
@@ -186,7 +219,7 @@ TEST_F(ProjectCommandsTest, SaveUsesTheOpenNameAndSaveAsAlwaysAsks) {
   EXPECT_EQ(ProjectPath, folder.File("Other.twp"));
 }
 
-TEST_F(ProjectCommandsTest, RecentEntryOpensItsLowerCaseCaptionWithoutAnyQuestion) {
+TEST_F(ProjectCommandsTest, RecentEntryOpensItsFileUnderItsOwnNameWithoutAnyQuestion) {
   std::filesystem::create_directory(folder.File("My Labels"));
   Add(TextObject("saved"));
   ProjectPath = folder.File("My Labels/Label ONE.twp");
@@ -197,8 +230,10 @@ TEST_F(ProjectCommandsTest, RecentEntryOpensItsLowerCaseCaptionWithoutAnyQuestio
   mnuFileOld_Click(0);
   EXPECT_TRUE(dialogs.messages.empty());
   EXPECT_EQ(ObjectUB, 0);
-  EXPECT_EQ(ProjectPath, LowerCase(saved));
-  EXPECT_EQ(DirtyFlag, kTrue) << "it is not cleared here";
+  EXPECT_EQ(frmMain.mnuFileOld(0).Caption(), LowerCase(saved));
+  EXPECT_EQ(ProjectPath, saved);
+  EXPECT_EQ(frmMain.Caption(), "Tagwright Designer Gold [Label ONE.twp]");
+  EXPECT_EQ(DirtyFlag, kFalse) << "a label just loaded has no changes";
   // A save from there goes back to the same file.
   Add(TextObject("second"));
   mnuFileSave_Click();
@@ -219,6 +254,64 @@ TEST_F(ProjectCommandsTest, RecentEntryOpensCapitalsThatDoNotComeBackFromTheirLo
     EXPECT_EQ(ObjectUB, 0) << letter;
     EXPECT_EQ(RecentUB, 0) << letter << " is the same file";
   }
+}
+
+TEST_F(ProjectCommandsTest, OfTwoFilesThatDifferInCaseEachRecentEntryOpensItsOwn) {
+  for (const char* name : {"Label.twp", "label.twp"}) {
+    ObjectUB = -1;
+    Add(TextObject(name));
+    ProjectPath = folder.File(name);
+    SaveProject(kFalse);
+  }
+  mnuFileOld_Click(1);
+  EXPECT_EQ(ProjectPath, folder.File("Label.twp"));
+  EXPECT_EQ(ObjectAt(0).Text.Trimmed(), "Label.twp");
+  mnuFileOld_Click(1);
+  EXPECT_EQ(ProjectPath, folder.File("label.twp"));
+  EXPECT_EQ(ObjectAt(0).Text.Trimmed(), "label.twp");
+}
+
+TEST_F(ProjectCommandsTest, AFileIsOpenedByWhateverCaseAndKeepsItsNameFromThenOn) {
+  SaveOne();
+  mnuFileNew_Click();
+  dialogs.files = {folder.File("LABEL.TWP")};
+  mnuFileOpen_Click();
+  EXPECT_EQ(ProjectPath, Path());
+  EXPECT_EQ(frmMain.Caption(), "Tagwright Designer Gold [Label.twp]");
+  Add(TextObject("second"));
+  mnuFileSave_Click();
+  EXPECT_EQ(FileLength(Path()), 4 * 333);
+  EXPECT_FALSE(std::filesystem::exists(folder.File("LABEL.TWP")));
+}
+
+TEST_F(ProjectCommandsTest, TheDialogsOpenWhereTheProjectLies) {
+  const std::string here = folder.File("here/"), there = folder.File("there/");
+  const std::string pictures = "Pictures|*.gif";
+  std::filesystem::create_directory(here);
+  std::filesystem::create_directory(there);
+  EXPECT_EQ(DialogFolder(kProjectFilter), "") << "nothing is known yet";
+  dialogs.files = {here + "a.twp"};
+  mnuFileSaveAs_Click();
+  EXPECT_EQ(DialogFolder(kProjectFilter), here);
+  EXPECT_EQ(DialogFolder(pictures), here) << "no picture yet";
+  frmMain.cd1.Filter = pictures;
+  dialogs.files = {there + "a.gif"};
+  frmMain.cd1.ShowOpen();
+  EXPECT_EQ(DialogFolder(pictures), there);
+  EXPECT_EQ(DialogFolder(kProjectFilter), here);
+  mnuFileNew_Click();
+  EXPECT_EQ(DialogFolder(kProjectFilter), here) << "where the last project lies";
+}
+
+TEST_F(ProjectCommandsTest, AProjectFromTheRecentListTakesTheDialogsToItsFolder) {
+  const std::string here = folder.File("Here/");
+  std::filesystem::create_directory(here);
+  ProjectPath = here + "a.twp";
+  SaveProject(kFalse);
+  ForgetDialogFolders();
+  mnuFileOld_Click(0);
+  EXPECT_EQ(DialogFolder(kProjectFilter), here);
+  EXPECT_EQ(DialogFolder("Pictures|*.gif"), here);
 }
 
 TEST_F(ProjectCommandsTest, RecentEntryWhoseFileIsGoneDoesNothing) {

@@ -77,6 +77,21 @@ TEST_F(RecentFilesTest, MenuShowsAtMostSixEntriesInLowerCaseWithTheMostRecentFir
   EXPECT_TRUE(frmMain.mnuFileBar4.Visible());
 }
 
+// In a menu's caption one "&" marks the letter behind it.
+TEST_F(RecentFilesTest, AnAmpersandOfTheNameIsNoMark) {
+  AddRecentFile(Project("Salt & Pepper.twp"));
+  EXPECT_EQ(Shown(), List{LowerCase(folder.File("salt && pepper.twp"))});
+}
+
+TEST_F(RecentFilesTest, TwoFilesThatDifferInCaseAreTwoEntries) {
+  const std::string capital = Project("Label.twp"), small = Project("label.twp");
+  AddRecentFile(capital);
+  AddRecentFile(small);
+  EXPECT_EQ(Slots(), (List{small, capital}));
+  AddRecentFile(capital);
+  EXPECT_EQ(RecentFiles[0], capital);
+}
+
 TEST_F(RecentFilesTest, FileThatIsGoneShowsNothingButStaysInTheList) {
   const std::string here = Project("here.twp");
   AddRecentFile("/gone.twp");

@@ -51,6 +51,35 @@ TEST_F(ClipboardTest, DeletingNothingDoesNothing) {
   EXPECT_EQ(UndoUpper, -1);
 }
 
+TEST_F(ClipboardTest, ADeletionIsAnUnsavedChangeAndNothingToDeleteIsNone) {
+  PutFive();
+  DeleteSelection();
+  EXPECT_EQ(DirtyFlag, kFalse);
+  SelectObject(1);
+  DeleteSelection();
+  EXPECT_EQ(DirtyFlag, kTrue);
+  DirtyFlag = kFalse;
+  SelectGroup({0, 1});
+  DeleteSelection();
+  EXPECT_EQ(DirtyFlag, kTrue);
+}
+
+TEST_F(ClipboardTest, TheMarkerTellsOfAMemberThatIsNoObject) {
+  PutFive();
+  SelectedUpper = 1;
+  SelectedList = {1, 40};
+  DeleteSelection();
+  EXPECT_EQ(ObjectUB, 3);
+  EXPECT_TRUE(dialogs.messages.empty());
+  Made("tracemark.flg", "");
+  SelectedUpper = 1;
+  SelectedList = {1, 40};
+  DeleteSelection();
+  EXPECT_EQ(ObjectUB, 2);
+  ASSERT_FALSE(dialogs.messages.empty());
+  EXPECT_EQ(dialogs.messages[0].text, "9 - Subscript out of range");
+}
+
 TEST_F(ClipboardTest, DeletingOneObjectKeepsItForUndoAndRedraws) {
   PutFive();
   SelectObject(1);

@@ -150,6 +150,17 @@ TEST_F(LayoutListTest, TheLabelTakesTheSizeAndObjectsStay) {
   EXPECT_EQ(ObjectAt(0).Left, 90);
 }
 
+TEST_F(LayoutListTest, ChoosingALayoutIsAChangeOfTheProjectAndFillingTheListIsNone) {
+  for (const Flag dirty : {kFalse, kTrue}) {
+    DirtyFlag = dirty;
+    FillLayoutList();
+    EXPECT_EQ(DirtyFlag, dirty);
+  }
+  DirtyFlag = kFalse;
+  list.UserChoose(0);
+  EXPECT_EQ(DirtyFlag, kTrue);
+}
+
 TEST_F(LayoutListTest, TheBoardIsRedrawn) {
   FillLayoutList();
   ReadyBoard();

@@ -450,5 +450,15 @@ TEST_F(SerialOnLabelTest, PrintSerialNumberOnBarcodeChangesNothing) {
   EXPECT_EQ(Print(), with);
 }
 
+// Not every way of changing a field is a key that is a character.
+TEST_F(SerialNumberTest, SavingAnotherNumberIsAChangeAndSavingTheSameOneIsNone) {
+  Opened();
+  Save();
+  EXPECT_EQ(DirtyFlag, kFalse);
+  Opened().txtSerIncr.SetText("10");
+  Save();
+  EXPECT_EQ(DirtyFlag, kTrue);
+}
+
 }  // namespace
 }  // namespace tagwright

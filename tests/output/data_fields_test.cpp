@@ -57,11 +57,13 @@ TEST_F(DataFieldsTest, ABarcodeIsStoredFromAHundredOnAndKeepsTheSize) {
   }
 }
 
-TEST_F(DataFieldsTest, NeitherCountsAsAChange) {
+TEST_F(DataFieldsTest, EachCountsAsAChange) {
   Select(kDataField);
   frmMain.mnuField(1).Press();
+  EXPECT_EQ(DirtyFlag, kTrue);
+  DirtyFlag = kFalse;
   frmMain.mnuFBC(1).Press();
-  EXPECT_EQ(DirtyFlag, kFalse);
+  EXPECT_EQ(DirtyFlag, kTrue);
 }
 
 TEST_F(DataFieldsTest, WithoutASelectedFieldNothingHappens) {
@@ -74,6 +76,7 @@ TEST_F(DataFieldsTest, WithoutASelectedFieldNothingHappens) {
   }
   EXPECT_EQ(ObjectAt(0), text);
   EXPECT_EQ(RedrawCount, redraws);
+  EXPECT_EQ(DirtyFlag, kFalse);
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include "output/data_sources.h"
 
 #include "output/source_fixture.h"
+#include "platform/dialog_folders.h"
 
 namespace tagwright {
 namespace {
@@ -82,6 +83,12 @@ TEST_F(DataSourcesTest, ASaveDialogsNameIsNotOfferedForData) {
   EXPECT_EQ(dialogs.requests.at(0).file_name, "");
 }
 
+TEST_F(DataSourcesTest, TheDialogOpensWhereThePresentSourceLies) {
+  frmMain.lblFileName.SetCaption(folder.File("data.csv"));
+  frmMain.cboImportType.UserChoose(1);
+  EXPECT_EQ(DialogFolder(dialogs.requests.at(0).filter), folder.Path() + "/");
+}
+
 // The button alone, before any kind was chosen: the file is shown and nothing is read.
 TEST_F(DataSourcesTest, WithoutAKindAFileIsOnlyNamed) {
   FieldUB = 3;
@@ -131,13 +138,21 @@ TEST_F(DataSourcesTest, FillingTheListEmptiesItFirst) {
   EXPECT_EQ(ListedFields(), (Texts{}));
 }
 
-TEST_F(DataSourcesTest, ChoosingASourceDoesNotCountAsAChange) {
+TEST_F(DataSourcesTest, ChoosingASourceCountsAsAChange) {
   BrowseCsv("a\n");
+  EXPECT_EQ(DirtyFlag, kTrue);
+  DirtyFlag = kFalse;
+  dialogs.files.push_back(Written("other.csv", "b\n"));
+  frmMain.cmdBrowse.Press();
+  EXPECT_EQ(DirtyFlag, kTrue);
+  DirtyFlag = kFalse;
+  frmMain.cmdBrowse.Press();  // cancelled
   EXPECT_EQ(DirtyFlag, kFalse);
 }
 
 TEST_F(DataSourcesTest, TheBoxOfTheFirstRowOnlySetsTheDirtyFlag) {
   BrowseCsv("a\nb\n");
+  DirtyFlag = kFalse;
   frmMain.chkFirstRow.Press();
   EXPECT_EQ(DirtyFlag, kTrue);
   EXPECT_EQ(RecordCount, 2);

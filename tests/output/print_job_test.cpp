@@ -654,5 +654,16 @@ TEST_F(PreviewLoopTest, ARangeThatBeginsLaterShowsAnEmptyPage) {
   EXPECT_TRUE(paper.Texts().empty());
 }
 
+// Or the next start gives the same numbers out again.
+TEST_F(PrintJobTest, AJobThatRaisedTheNumberLeavesUnsavedChanges) {
+  Add(kText, "no number");
+  Print();
+  EXPECT_EQ(DirtyFlag, kFalse);
+  AddSerial();
+  Print();
+  EXPECT_GT(SerialValue, 1001);
+  EXPECT_EQ(DirtyFlag, kTrue);
+}
+
 }  // namespace
 }  // namespace tagwright

@@ -9,6 +9,7 @@
 #include "platform/desktop.h"
 #include "platform/text.h"
 #include "support/fault_of.h"
+#include "support/file_size_limit.h"
 #include "support/test_support.h"
 
 namespace tagwright {
@@ -120,7 +121,7 @@ TEST_F(FilesTest, BytesComeBackAsTheyWere) {
 
 TEST_F(FilesTest, WritingKeepsTheTailOfALongerFile) {
   WriteFile(folder.File("a"), "0123456789");
-  WriteFile(folder.File("A"), "abc");
+  WriteFile(folder.File("a"), "abc");
   EXPECT_EQ(ReadFile(folder.File("a")), "abc3456789");
   WriteFile(folder.File("a"), "");
   EXPECT_EQ(ReadFile(folder.File("a")), "abc3456789");
@@ -130,6 +131,34 @@ TEST_F(FilesTest, WritingGrowsAShorterFile) {
   WriteFile(folder.File("a"), "abc");
   WriteFile(folder.File("a"), "0123456789");
   EXPECT_EQ(ReadFile(folder.File("a")), "0123456789");
+}
+
+TEST_F(FilesTest, ANameToBeWrittenIsTakenExactly) {
+  Make("Label.twp");
+  WriteFile(folder.File("label.twp"), "new");
+  EXPECT_EQ(ReadFile(folder.File("Label.twp")), "Label.twp");
+  EXPECT_EQ(ReadFile(folder.File("label.twp")), "new");
+}
+
+TEST_F(FilesTest, ReplacingLeavesNothingOfTheFormerFile) {
+  WriteFile(folder.File("a"), "0123456789");
+  Make("A");
+  ReplaceFile(folder.File("a"), "abc");
+  EXPECT_EQ(ReadFile(folder.File("a")), "abc");
+  EXPECT_EQ(ReadFile(folder.File("A")), "A");
+  ReplaceFile(folder.File("new"), "x");
+  EXPECT_EQ(ReadFile(folder.File("new")), "x");
+}
+
+TEST_F(FilesTest, AReplacementThatFailsLeavesNoPartOfItself) {
+  Make("a");
+  {
+    const FileSizeLimit limit(10);
+    EXPECT_EQ(FaultOf([&] { ReplaceFile(folder.File("a"), std::string(100, 'x')); }), kDiskFull);
+  }
+  EXPECT_FALSE(FileExists(folder.File("a")));
+  EXPECT_EQ(FaultOf([&] { ReplaceFile("", "x"); }), kFileAccess);
+  EXPECT_EQ(FaultOf([&] { ReplaceFile(folder.Path(), "x"); }), kFileAccess);
 }
 
 TEST_F(FilesTest, DeletingIgnoresCaseToo) {

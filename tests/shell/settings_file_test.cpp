@@ -5,6 +5,7 @@
 #include "common/prog_settings.h"
 #include "platform/files.h"
 #include "support/fault_of.h"
+#include "support/file_size_limit.h"
 #include "support/test_support.h"
 
 namespace tagwright {
@@ -158,6 +159,19 @@ TEST_F(SettingsFileTest, TheFileIsFoundWhateverItsCaseAndComesBackUnderItsOwnNam
   WriteSettings(path, {});
   EXPECT_TRUE(std::filesystem::exists(path));
   EXPECT_FALSE(std::filesystem::exists(folder.File("ProgSettings.TWD")));
+}
+
+// A next start with part of a record would be without its window's size; without one it has the
+// defaults.
+TEST_F(SettingsFileTest, AWriteThatFailsLeavesNoFileBehind) {
+  for (const bool exists : {false, true}) {
+    if (exists) WriteSettings(path, {});
+    {
+      const FileSizeLimit limit(100);
+      EXPECT_EQ(FaultOf([&] { WriteSettings(path, {}); }), kDiskFull);
+    }
+    EXPECT_FALSE(std::filesystem::exists(path)) << exists;
+  }
 }
 
 TEST_F(SettingsFileTest, AnEmptyFileIsARecordOfZeros) {

@@ -12,6 +12,7 @@
 #include "editing/magnetic_rule.h"
 #include "layouts/label_layouts.h"
 #include "platform/desktop.h"
+#include "platform/dialog_folders.h"
 #include "platform/fonts.h"
 #include "shell/reset.h"
 #include "shell/shell_fixture.h"
@@ -405,6 +406,15 @@ TEST_F(StartUpTest, TheFarthestCoordinatesAreTaken) {
   EXPECT_EQ(frmMain.Top(), 491505);
 }
 
+TEST_F(StartUpTest, FileDialogsOpenWhereTheLastProjectOfTheSessionBeforeLies) {
+  SettingsRecord settings;
+  settings.RecentFile2 = folder.File("One.twp");
+  settings.RecentFile3 = "/elsewhere/Two.twp";
+  WriteSettingsFile(settings);
+  StartProgram();
+  EXPECT_EQ(DialogFolder(kProjectFilter), folder.Path() + "/");
+}
+
 // --- recent files -------------------------------------------------------------------------------
 
 TEST_F(StartUpTest, ARecentListWithAGapShowsNoGapAndTheFileKeepsIt) {
@@ -471,6 +481,28 @@ TEST_F(StartUpTest, AnEmptySettingsFileStartsToo) {
   StartProgram();
   EXPECT_EQ(BoardReady, -1);
   EXPECT_EQ(frmMain.cboZoom.Text(), "100%");
+}
+
+// A full disk at exit has left such files. A window without a width is none.
+TEST_F(StartUpTest, ASettingsFileThatEndsBeforeTheWindowsSizeStillShowsAWindow) {
+  const FrmMain design;
+  for (const std::size_t length : {0, 58, 1080, 1096, 1098, 1103}) {
+    WriteFile(SettingsFile(), std::string(1190, '\1').substr(0, length));
+    StartProgram();
+    EXPECT_EQ(frmMain.Width(), design.Width()) << length;
+    EXPECT_EQ(frmMain.Height(), 8250) << length;
+    DeleteFile(SettingsFile());
+  }
+}
+
+TEST_F(StartUpTest, ASavedWidthOfOnePixelIsAWidth) {
+  SettingsRecord settings;
+  settings.WindowLeft = 300;
+  settings.WindowWidth = 15;
+  settings.WindowHeight = 9000;
+  WriteSettingsFile(settings);
+  StartProgram();
+  EXPECT_EQ(frmMain.Width(), 15);
 }
 
 // Its bytes cannot be read, as on a failing disk; yet the file is there, so these are no defaults.

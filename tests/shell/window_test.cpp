@@ -163,6 +163,27 @@ TEST_F(WindowTest, SaveAsIsNeverDisabledByTheTimer) {
   EXPECT_FALSE(frmMain.mnuFileSaveAs.Enabled());
 }
 
+constexpr int kSKey = 'S';
+constexpr int kCtrl = 2;
+
+// What has changed since the last tick can be saved at once, by key and from the menu.
+TEST_F(WindowTest, SaveGoesByTheDirtyFlagWhenItIsUsed) {
+  DirtyFlag = kTrue;
+  ProjectPath = folder.File("a.twp");
+  ASSERT_FALSE(frmMain.mnuFileSave.Enabled());
+  frmMain.UserKeyDown(kSKey, kCtrl);
+  EXPECT_TRUE(frmMain.mnuFileSaveAs.Enabled());
+  frmMain.mnuFileSave.Press();
+  EXPECT_EQ(DirtyFlag, kFalse);
+  EXPECT_TRUE(FileExists(ProjectPath));
+
+  frmMain.UserKeyDown(kSKey, kCtrl);
+  EXPECT_FALSE(frmMain.mnuFileSave.Enabled()) << "nothing is left to save";
+  DirtyFlag = kTrue;
+  ModalOpens();  // a menu
+  EXPECT_TRUE(frmMain.mnuFileSave.Enabled());
+}
+
 // --- the hold -----------------------------------------------------------------------------------
 
 class HoldTest : public WindowTest {

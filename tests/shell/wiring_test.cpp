@@ -2,6 +2,8 @@
 // next.
 #include "shell/wiring.h"
 
+#include <functional>
+
 #include "document/objects.h"
 #include "document/project_file.h"
 #include "document/redraw.h"
@@ -33,6 +35,52 @@ TEST_F(WiringTest, AUnitChangeRedrawsForTheUnitAndForTheLayoutThatItSelects) {
   EXPECT_EQ(RedrawCount, redraws + 2);
   EXPECT_EQ(frmMain.cboLabelLayout.Text(), "A4 14 per sheet");
   EXPECT_EQ(LabelWidth, 99);
+}
+
+TEST_F(WiringTest, AStartLeavesNothingToSave) { EXPECT_EQ(DirtyFlag, kFalse); }
+
+TEST_F(WiringTest, WhatTheUserChoosesOfWhatTheProjectStoresCountsAsAChange) {
+  WriteFile(folder.File("a.csv"), "Name\nAda\n");
+  frmMain.cboRSet.AddItem("People");
+  const std::function<void()> choices[] = {
+      [] { frmMain.cboLabelLayout.UserChoose(5); },
+      [&] {
+        dialogs.files = {folder.File("a.csv")};
+        frmMain.cmdBrowse.Press();
+      },
+      [] { frmMain.cboImportType.UserChoose(2); },
+      [] { frmMain.cboRSet.UserChoose(0); },
+      [] { frmMain.chkFirstRow.Press(); },
+      [] { frmMain.chkQuote.Press(); },
+  };
+  for (const auto& choose : choices) {
+    DirtyFlag = kFalse;
+    choose();
+    EXPECT_EQ(DirtyFlag, kTrue) << &choose - choices;
+  }
+}
+
+TEST_F(WiringTest, AUnitChangeIsNoChangeOfTheLabel) {
+  frmMain.mnuUnitIn.Press();
+  frmMain.mnuUnitMM.Press();
+  EXPECT_EQ(DirtyFlag, kFalse);
+}
+
+TEST_F(WiringTest, AnOpenedLabelHasNoUnsavedChangesWhereverItIsOpened) {
+  frmMain.cboLabelLayout.UserChoose(5);
+  WriteFile(folder.File("a.csv"), "Name\nAda\n");
+  dialogs.files = {folder.File("a.csv"), folder.File("a.twp"), folder.File("a.twp")};
+  frmMain.cboImportType.UserChoose(1);
+  frmMain.chkFirstRow.Press();
+  SaveProject(kTrue);
+  EXPECT_EQ(DirtyFlag, kFalse);
+  frmMain.mnuFileNew.Press();
+  frmMain.cboLabelLayout.UserChoose(0);
+  frmMain.mnuFileOld(0).Press();
+  EXPECT_EQ(frmMain.cboLabelLayout.ListIndex(), 5);
+  EXPECT_EQ(DirtyFlag, kFalse);
+  frmMain.mnuFileOpen.Press();
+  EXPECT_EQ(DirtyFlag, kFalse);
 }
 
 TEST_F(WiringTest, NewPressesTheSelectTool) {

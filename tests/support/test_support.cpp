@@ -9,6 +9,7 @@
 #include "forms/frmMain.h"
 #include "platform/clock.h"
 #include "platform/desktop.h"
+#include "platform/dialog_folders.h"
 #include "platform/locale.h"
 #include "platform/progress.h"
 #include "platform/windows.h"
@@ -85,6 +86,7 @@ std::string SharedDataFolder() {
 void FreshProgram(const std::string& app_folder) {
   UnloadAll();
   ForgetAfterHandlers(nullptr);
+  ForgetDialogFolders();
   SetFaultReporter({});
   SetLocale({});
   SetCodePage(1252);

@@ -1,7 +1,9 @@
 #include "tools/board.h"
 
+#include "common/prog_settings.h"
 #include "document/objects.h"
 #include "forms/frmMain.h"
+#include "platform/files.h"
 #include "support/test_support.h"
 #include "tools/view.h"
 
@@ -75,6 +77,18 @@ TEST_F(BoardTest, TheToolsPointerReturnsUnlessItIsACustomOne) {
   frmMain.SetMousePointer(99);
   picBoard_MouseMove(0, 0, 0, 0);
   EXPECT_EQ(frmMain.MousePointer(), 99);
+}
+
+TEST_F(BoardTest, OnlyTheMarkerTellsOfAFaultAndTheMouseGoesOnAfterIt) {
+  CursorShape = 50;  // no pointer
+  EXPECT_NO_THROW(picBoard_MouseMove(0, 0, 100, 50));
+  EXPECT_EQ(frmMain.sB1.PanelText(1), "X: 0.00 - Y:0.00mm");
+  EXPECT_TRUE(dialogs.messages.empty());
+  WriteFile(AppFolder + "tracemark.flg", "");
+  picBoard_MouseMove(0, 0, 110, 50);
+  EXPECT_EQ(frmMain.sB1.PanelText(1), "X: 10.00 - Y:0.00mm");
+  ASSERT_EQ(dialogs.messages.size(), 1U);
+  EXPECT_EQ(dialogs.messages[0].text, "380 - Invalid property value");
 }
 
 }  // namespace

@@ -93,8 +93,9 @@ TEST_F(ContextMenusTest, AShapeChangesItsKindAndIsRedrawn) {
     frmMain.mnuDrawChange(i).Press();
     EXPECT_EQ(Object().ObjType, kinds[i]) << i;
     EXPECT_EQ(RedrawCount, i + 1);
+    EXPECT_EQ(DirtyFlag, kTrue);
+    DirtyFlag = kFalse;
   }
-  EXPECT_EQ(DirtyFlag, kFalse);
 }
 
 TEST_F(ContextMenusTest, AspectCopiesOneSideToTheOther) {
@@ -102,13 +103,15 @@ TEST_F(ContextMenusTest, AspectCopiesOneSideToTheOther) {
   EXPECT_EQ(Object().Width, 20);
   EXPECT_NEAR(HoldAt(0).Width(), 20, 1e-9);
   EXPECT_EQ(frmMain.txtDSize(2).Text(), "20.00");
+  EXPECT_EQ(DirtyFlag, kTrue);
+  DirtyFlag = kFalse;
   Object().Width = 44;
   frmMain.mnuShpAspect(1).Press();
   EXPECT_EQ(Object().Height, 44);
   EXPECT_NEAR(HoldAt(0).Height(), 44, 1e-9);
   EXPECT_EQ(frmMain.txtDSize(3).Text(), "44.00");
   EXPECT_EQ(RedrawCount, 2);
-  EXPECT_EQ(DirtyFlag, kFalse);
+  EXPECT_EQ(DirtyFlag, kTrue);
 }
 
 TEST_F(ContextMenusTest, AspectShowsInches) {
@@ -126,9 +129,12 @@ TEST_F(ContextMenusTest, ThePicturesSidesComeFromItsPanel) {
   frmMain.mnuGraphicHeight.Press();
   EXPECT_DOUBLE_EQ(Object().Height, 7.5);
   EXPECT_DOUBLE_EQ(Object().Width, 30);
+  EXPECT_EQ(DirtyFlag, kTrue);
+  DirtyFlag = kFalse;
   Object().Height = 20;
   frmMain.mnuGraphicWidth.Press();
   EXPECT_DOUBLE_EQ(Object().Width, 80);
+  EXPECT_EQ(DirtyFlag, kTrue);
   EXPECT_EQ(RedrawCount, 2);
 }
 
@@ -142,6 +148,7 @@ TEST_F(ContextMenusTest, WithoutNumbersThePictureStaysAndIsRedrawn) {
     EXPECT_EQ(Object().Height, 20) << caption;
   }
   EXPECT_EQ(RedrawCount, 6);
+  EXPECT_EQ(DirtyFlag, kFalse) << "nothing has changed";
 }
 
 TEST_F(ContextMenusTest, AnOverflowingSideKeepsTheOldOne) {
@@ -228,6 +235,7 @@ TEST_F(ContextMenusTest, WithoutASelectionNoCommandFaults) {
   EXPECT_TRUE(faults.empty());
   EXPECT_EQ(Object().ObjType, kRectangle);
   EXPECT_EQ(Object().Width, 30);
+  EXPECT_EQ(DirtyFlag, kFalse);
 }
 
 }  // namespace

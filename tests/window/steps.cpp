@@ -54,6 +54,17 @@ void StartPrintToPdf(const Program& program, const std::string& path) {
   Key("Return");
 }
 
+void Answer(const Program& program, const std::string& button) {
+  std::string box;  // nothing is active for a moment while one window gives way to another
+  WaitFor("the message to have the keyboard", [&] {
+    box = Shell("xdotool getactivewindow", false);
+    return !box.empty() && box != program.Window();
+  });
+  const Spoken found = Find(program, button, "push button");
+  Click(found.box);
+  WaitFor("the message to go", [&] { return Shell("xdotool getactivewindow", false) != box; });
+}
+
 int Leave(Program& program) {
   ChooseMenu(program, {"File", "Exit"});
   return program.WaitForExit();

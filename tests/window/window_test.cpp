@@ -40,18 +40,6 @@ bool IsTicked(const Program& program, const std::vector<std::string>& path) {
   return ticked;
 }
 
-// Presses a message box's button and waits for that box to go.
-void Answer(const Program& program, const std::string& button) {
-  std::string box;  // nothing is active for a moment while one window gives way to another
-  WaitFor("the message to have the keyboard", [&] {
-    box = Shell("xdotool getactivewindow", false);
-    return !box.empty() && box != program.Window();
-  });
-  const Spoken found = Find(program, button, "push button");
-  Click(found.box);
-  WaitFor("the message to go", [&] { return Shell("xdotool getactivewindow", false) != box; });
-}
-
 std::string InLowerCase(std::string text) {
   for (char& letter : text) letter = static_cast<char>(std::tolower(letter));
   return text;
@@ -240,7 +228,7 @@ TEST_F(Window, SavesUnderANewNameAndFindsItAgainAfterTheNextStart) {
   WaitFor("the window at its place", [&] { return program.Frame() == place; });
   ChooseMenu(program, {"File", InLowerCase(saved)});
   WaitFor("the recent file", [&] { return Coloured(program, kMist) > 1000; });
-  EXPECT_NE(program.Title().find("[harbour label.twp]"), std::string::npos);
+  EXPECT_NE(program.Title().find("[Harbour Label.twp]"), std::string::npos);
 }
 
 // A label that travels without its files still opens: each file that is gone is asked or told

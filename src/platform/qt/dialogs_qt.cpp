@@ -9,6 +9,7 @@
 #include <QMessageBox>
 #include <QSplitter>
 
+#include "platform/dialog_folders.h"
 #include "platform/qt/color_qt.h"
 #include "platform/qt/theme.h"
 #include "platform/qt/views.h"
@@ -113,7 +114,7 @@ class ToolkitDialogs : public DialogService {
                                         QFileDialog::AcceptMode mode) {
     const ModalRun run;
     const bool opens = mode == QFileDialog::AcceptOpen;
-    QFileDialog dialog(WindowForDialogs(), opens ? "Open" : "Save As", folder_);
+    QFileDialog dialog(WindowForDialogs(), opens ? "Open" : "Save As", FolderFor(request));
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setAcceptMode(mode);
     dialog.setFileMode(opens ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
@@ -126,6 +127,11 @@ class ToolkitDialogs : public DialogService {
     if (result != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
     folder_ = dialog.directory().absolutePath();
     return QDir::toNativeSeparators(dialog.selectedFiles().front()).toStdString();
+  }
+
+  QString FolderFor(const FileDialogRequest& request) const {
+    const QString folder = ToQt(DialogFolder(request.filter));
+    return !folder.isEmpty() && QDir(folder).exists() ? folder : folder_;
   }
 
   // Names of folders and files are read whole, on the left and on the right.
@@ -149,7 +155,7 @@ class ToolkitDialogs : public DialogService {
     dialog.selectFile(info.fileName());
   }
 
-  // Where the last file was chosen: the next dialog starts there.
+  // Where the last file was chosen: a dialog that is told nothing better starts there.
   QString folder_ = QDir::homePath();
 };
 

@@ -17,6 +17,7 @@
 #include <optional>
 
 #include "platform/controls.h"
+#include "platform/dialog_folders.h"
 #include "platform/dialogs.h"
 #include "platform/fault.h"
 #include "platform/qt/fonts_qt.h"
@@ -60,10 +61,11 @@ Fault NoPageOf(const std::string& name) {
 // --- a file -------------------------------------------------------------------------------------
 
 std::string AskForFile() {
-  const FileDialogRequest request{"PDF files (*.pdf)|*.pdf", "pdf", ""};
+  static const std::string kFilter = "PDF files (*.pdf)|*.pdf";
   ModalOpens();
-  const std::optional<std::string> path = Dialogs().SaveFile(request);
+  const std::optional<std::string> path = Dialogs().SaveFile({kFilter, "pdf", ""});
   if (!path) RaiseFault(kDialogCancelled);
+  RememberFile(kFilter, *path);
   return *path;
 }
 

@@ -11,6 +11,7 @@
 #include <fstream>
 #include <functional>
 
+#include "platform/dialog_folders.h"
 #include "platform/qt_windows/window_fixture.h"
 
 namespace tagwright {
@@ -97,6 +98,42 @@ TEST_F(DialogsQtTest, AFileIsChosenByItsPatternAndGetsItsEnding) {
   dialog.ShowSave();
   EXPECT_EQ(dialog.FileName, folder.File("wine.twp"));
   EXPECT_EQ(dialog.FileTitle, "wine.twp");
+}
+
+TEST_F(DialogsQtTest, SaveAsProposesTheNameAndOpensWhereItLies) {
+  const TempFolder folder;
+  CommonDialog dialog;
+  dialog.Filter = "Label Projects|*.twp";
+  dialog.FileName = folder.File("wine.twp");
+  Meanwhile<QFileDialog>([&](QFileDialog& box) {
+    EXPECT_EQ(box.findChild<QLineEdit*>()->text(), "wine.twp");
+    EXPECT_EQ(box.directory().absolutePath().toStdString(), folder.Path());
+    box.reject();
+  });
+  dialog.ShowSave();
+}
+
+TEST_F(DialogsQtTest, ADialogOpensWhereTheLastFileOfItsKindLies) {
+  const TempFolder labels, pictures;
+  ForgetDialogFolders();
+  RememberMainFile(labels.File("wine.twp"));
+  RememberFile("Pictures|*.gif", pictures.File("grape.gif"));
+  const auto opens_in = [&](const std::string& filter) {
+    std::string opened;
+    CommonDialog dialog;
+    dialog.Filter = filter;
+    Meanwhile<QFileDialog>([&](QFileDialog& box) {
+      opened = box.directory().absolutePath().toStdString();
+      box.reject();
+    });
+    dialog.ShowOpen();
+    return opened;
+  };
+  EXPECT_EQ(opens_in("Pictures|*.gif"), pictures.Path());
+  EXPECT_EQ(opens_in("Tables|*.csv"), labels.Path());
+  RememberFile("Pictures|*.gif", "/no/such/folder/grape.gif");
+  EXPECT_TRUE(QDir(QString::fromStdString(opens_in("Pictures|*.gif"))).exists());
+  ForgetDialogFolders();
 }
 
 TEST_F(DialogsQtTest, ACancelledFileDialogIsAFaultForThoseWhoAsked) {
