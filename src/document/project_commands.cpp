@@ -4,6 +4,7 @@
 #include "document/project_file.h"
 #include "document/redraw.h"
 #include "document/selection_state.h"
+#include "document/source_state.h"
 #include "forms/frmMain.h"
 #include "platform/dialogs.h"
 #include "platform/fault.h"
@@ -40,14 +41,6 @@ void EmptyPanels() {
   frmMain.txtTool.SetText("");
 }
 
-void ForgetSource() {
-  frmMain.lblFileName.SetCaption("");
-  ProjectPath.clear();
-  CurrentTable.clear();
-  DatabasePassword.clear();
-  RecordCount = -1;
-}
-
 // Returns false when the user cancels.
 bool AskForProject() {
   CommonDialog& dialog = frmMain.cd1;
@@ -69,6 +62,7 @@ void mnuFileNew_Click() {
   HideHandles();
   EmptyPanels();
   DirtyFlag = kFalse;
+  ProjectPath.clear();
   ForgetSource();
   frmMain.cmdTools(0).Press();
   DropSelection();  // the tool has not ended it where a modifier is held, as in this very shortcut

@@ -10,6 +10,7 @@
 #include "output/text_source.h"
 #include "platform/dialogs.h"
 #include "platform/fault.h"
+#include "platform/files.h"
 
 namespace tagwright {
 namespace {
@@ -58,18 +59,28 @@ void RefusePassword() {
   DatabasePassword.clear();
 }
 
-// Returns false where the source is a database that refuses the password.
-bool SourceOpens() {
+void OpenChosenSource() {
   try {
     OpenSource();
   } catch (const Fault& fault) {
-    if (fault.number == kPasswordNeeded) {
-      RefusePassword();
-      return false;
-    }
-    MarkerTail(fault);
+    if (fault.number != kPasswordNeeded) return MarkerTail(fault);
+    RefusePassword();
   }
-  return true;
+}
+
+// The load of a project has named the file and opened it where it is a database.
+void ReadTextOfProject() {
+  const std::string path = frmMain.lblFileName.Caption();
+  if (ChosenKind() == kDatabaseSource || !FileExists(path)) return;
+  FieldUB = -1;
+  TakeTextSource(path, ChosenKind() == kCommaSource);
+}
+
+std::string WhyNoRows(const std::string& file) {
+  if (ChosenKind() != kDatabaseSource) return "the data file " + file + " cannot be read";
+  const std::string table = frmMain.cboRSet.Text();
+  if (table.empty()) return "no table of the data file " + file + " is chosen";
+  return "the table " + table + " of the data file " + file + " cannot be read";
 }
 
 }  // namespace
@@ -82,8 +93,8 @@ std::string& FieldValueAt(std::size_t slot) {
 void cmdBrowse_Click() {
   if (!AskForDataFile()) return;
   const std::string path = frmMain.cd1.FileName;
-  FieldUB = -1;
-  if (!SourceOpens()) return;
+  CloseSource();
+  OpenChosenSource();
   frmMain.lblFName(1).SetVisible(frmMain.cboRSet.Visible());
   frmMain.lblFileName.SetCaption(path);
 }
@@ -98,7 +109,8 @@ void FillFieldList() {
 void ShowRecordCount() { frmMain.lblRCount.SetCaption("Records: " + std::to_string(RecordCount)); }
 
 void cboImportType_Click() {
-  if (ChosenKind() == -1 || LoadingProject) return;
+  if (ChosenKind() == -1) return;
+  if (LoadingProject) return ReadTextOfProject();
   frmMain.cmdBrowse.Press();
 }
 
@@ -122,6 +134,16 @@ void OpenMergeSource() {
     default:
       return;
   }
+}
+
+std::string WhyNoSource() {
+  if (ChosenKind() == kDatabaseSource ? SourceRecordset != nullptr : SourceFile != nullptr) {
+    return {};
+  }
+  const std::string file = frmMain.lblFileName.Caption();
+  if (file.empty()) return "no data file is chosen";
+  if (!FileExists(file)) return "the data file " + file + " does not exist";
+  return WhyNoRows(file);
 }
 
 void NextMergeRecord(bool& More) {
