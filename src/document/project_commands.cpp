@@ -4,6 +4,7 @@
 #include "document/project_file.h"
 #include "document/redraw.h"
 #include "document/selection_state.h"
+#include "document/source_state.h"
 #include "forms/frmMain.h"
 #include "platform/dialogs.h"
 #include "platform/fault.h"
@@ -43,23 +44,6 @@ void EmptyPanels() {
   frmMain.txtTool.SetText("");
 }
 
-void EmptySourceLists() {
-  frmMain.cboRSet.Clear();
-  frmMain.lstFields.Clear();
-  frmMain.lblRCount.SetCaption("");
-}
-
-void ForgetSource() {
-  frmMain.lblFileName.SetCaption("");
-  ProjectPath.clear();
-  CurrentTable.clear();
-  DatabasePassword.clear();
-  SourceDatabase.reset();
-  RecordCount = -1;
-  FieldUB = -1;
-  EmptySourceLists();
-}
-
 // Returns false when the user cancels.
 bool AskForProject() {
   CommonDialog& dialog = frmMain.cd1;
@@ -83,6 +67,7 @@ void mnuFileNew_Click() {
   EmptyPanels();
   ShowSaveNote("");
   DirtyFlag = kFalse;
+  ProjectPath.clear();
   ForgetSource();
   frmMain.cmdTools(0).Press();
   DropSelection();  // the tool has not ended it where a modifier is held, as in this very shortcut

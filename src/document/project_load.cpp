@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <set>
 #include <string>
 
 #include "common/prog_settings.h"
@@ -6,6 +7,7 @@
 #include "document/project_file.h"
 #include "document/redraw.h"
 #include "document/selection_state.h"
+#include "document/source_state.h"
 #include "forms/frmMain.h"
 #include "platform/dialogs.h"
 #include "platform/fault.h"
@@ -74,13 +76,15 @@ void ShowSourceFields(bool database) {
   frmMain.chkQuote.SetVisible(!database);
 }
 
-// A database that does not open leaves the list of tables empty.
+// A database that does not open leaves the list of tables empty, and says so: one that is missing
+// has been asked about already.
 void ListTables(const std::string& path) {
-  frmMain.cboRSet.Clear();
-  CarryOn([&] {
+  try {
     SourceDatabase = OpenDatabase(path, DatabasePassword.empty() ? "" : ";PWD=" + DatabasePassword);
     for (const std::string& table : SourceDatabase->TableNames()) frmMain.cboRSet.AddItem(table);
-  });
+  } catch (const Fault& fault) {
+    if (FileExists(path)) TellNoDatabase(path, fault);
+  }
 }
 
 void PrepareSource(bool database, const std::string& path) {
@@ -98,7 +102,8 @@ void ChooseTable(int row) {
   CurrentTable = frmMain.cboRSet.Text();
 }
 
-// Returns false when the user would rather not load a project without its data.
+// Choosing the kind reads the columns and rows of a text file. Returns false when the user would
+// rather not load a project without its data.
 bool TakeSourceTrailer() {
   if (!LastIs(kSourceTrailer)) return true;
   const ObjectRecord trailer = ObjectAt(ObjectUB);
@@ -177,18 +182,23 @@ bool IsMissingPicture(int index) {
   return ObjectAt(index).ObjType == kPicture && !FileExists(PathOf(ObjectAt(index)));
 }
 
-void RemovePicture(int index) {
-  MessageBox("The file " + PathOf(ObjectAt(index)) +
-             " referenced in this project does not exist and will be removed");
+// Told once for each file, however many objects show it.
+void RemovePicture(int index, std::set<std::string>& told) {
+  const std::string path = PathOf(ObjectAt(index));
+  if (told.insert(path).second) {
+    MessageBox("The file " + path +
+               " referenced in this project does not exist and will be removed");
+  }
   SelectedObject = static_cast<std::int16_t>(index);
   RemoveRecord(index);
   SelectedObject = -1;
 }
 
 void RemoveMissingPictures() {
+  std::set<std::string> told;
   for (int i = 0; i <= ObjectUB;) {
     if (IsMissingPicture(i)) {
-      RemovePicture(i);
+      RemovePicture(i, told);
     } else {
       ++i;
     }
@@ -203,9 +213,11 @@ void Load(const std::string& path) {
   DropSelection();
   frmMain.txtTool.SetText("");
   EmptySelectionStatus();
+  ForgetSource();
   RecreateObjects(path);
   AddRecentFile(path);
   ReadRecords(path);
+  const MissingPictures untold(MissingPictures::kUntold);  // the load has its own words for them
   LoadingProject = true;
   if (!TakeSourceTrailer()) return;  // the guard stays, and the window as it is
   TakeSerialTrailer();

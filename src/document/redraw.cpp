@@ -215,14 +215,21 @@ void PaintBarcodeObject(const ObjectRecord& object) {
                object.Bold != kFalse, object.FontSize * ZoomFactor, object.FontName.Trimmed());
 }
 
-// A missing file is reported at every redraw; its record stays in the document.
+MissingPictures* missing_pictures = nullptr;  // null: each redraw tells
+
+void TellMissingPicture(const std::string& path) {
+  if (missing_pictures && !missing_pictures->IsToTell(path)) return;
+  MessageBox("The file: " + path + " has been removed");
+}
+
+// Its record stays in the document.
 bool LoadIntoPicTemp(const std::string& path) {
   try {
     frmMain.picTemp.SetImage(LoadPicture(path));
     return true;
   } catch (const Fault& fault) {
     if (fault.number != kFileNotFound) throw;
-    MessageBox("The file: " + path + " has been removed");
+    TellMissingPicture(path);
     return false;
   }
 }
@@ -352,6 +359,18 @@ void RunPass(const RedrawPass& pass) {
 }
 
 }  // namespace
+
+MissingPictures::MissingPictures(Telling telling) : telling_(telling) {
+  if (!missing_pictures) missing_pictures = this;
+}
+
+MissingPictures::~MissingPictures() {
+  if (missing_pictures == this) missing_pictures = nullptr;
+}
+
+bool MissingPictures::IsToTell(const std::string& path) {
+  return telling_ == kOnce && told_.insert(path).second;
+}
 
 void RedrawBoard(const double& OffsetX, const double& OffsetY, const bool& Output) {
   if (BoardReady == 0 || SuspendRedraw != 0 || !DrawTarget) return;

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <set>
 #include <string>
 
 #include "platform/controls.h"
@@ -18,6 +19,26 @@ namespace tagwright {
 // on the screen PendingScrollX and PendingScrollY too. An unreadable picture drops the newest
 // object and ends the redraw: ZoomFactor and RedrawSkip are not put back then. Never faults.
 void RedrawBoard(const double& OffsetX, const double& OffsetY, const bool& Output);
+
+// How a redraw tells of pictures whose files are missing, from construction to destruction; without
+// one, and after it, each redraw does. Many redraws of one label are one thing to the user: a job
+// tells of each file once, and a load, which removes such pictures with words of its own, never.
+// Within another one the outer one holds.
+class MissingPictures {
+ public:
+  enum Telling { kOnce, kUntold };
+  explicit MissingPictures(Telling telling);
+  ~MissingPictures();
+  MissingPictures(const MissingPictures&) = delete;
+  MissingPictures& operator=(const MissingPictures&) = delete;
+
+  // Whether the missing file `path` is to be told now.
+  bool IsToTell(const std::string& path);
+
+ private:
+  Telling telling_;
+  std::set<std::string> told_;
+};
 
 // The screen's redraw: offsets are ignored there.
 inline void RedrawBoard() { RedrawBoard(0, 0, false); }

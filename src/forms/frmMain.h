@@ -143,6 +143,7 @@ struct FrmMain : Form {
   TextBox txtPrintTo{&picPrint, "txtPrintTo"};
   TextBox txtNoCopies{&picPrint, "txtNoCopies"};
   CheckBox chkMailshot{&picPrint, "chkMailshot"};
+  Label lblLabels{&picPrint, "lblLabels"};  // how many the job will have
   CommandButton cmdPrint{&picPrint, "cmdPrint"};
   CommandButton cmdPreview{&picPrint, "cmdPreview"};
   CommandButton cmdSerNo{&picPrint, "cmdSerNo"};

@@ -11,6 +11,7 @@
 #include "platform/dialog_folders.h"
 #include "platform/dialogs.h"
 #include "platform/fault.h"
+#include "platform/files.h"
 
 namespace tagwright {
 namespace {
@@ -61,18 +62,28 @@ void RefusePassword() {
   DatabasePassword.clear();
 }
 
-// Returns false where the source is a database that refuses the password.
-bool SourceOpens() {
+void OpenChosenSource() {
   try {
     OpenSource();
   } catch (const Fault& fault) {
-    if (fault.number == kPasswordNeeded) {
-      RefusePassword();
-      return false;
-    }
-    MarkerTail(fault);
+    if (fault.number != kPasswordNeeded) return MarkerTail(fault);
+    RefusePassword();
   }
-  return true;
+}
+
+// The load of a project has named the file and opened it where it is a database.
+void ReadTextOfProject() {
+  const std::string path = frmMain.lblFileName.Caption();
+  if (ChosenKind() == kDatabaseSource || !FileExists(path)) return;
+  FieldUB = -1;
+  TakeTextSource(path, ChosenKind() == kCommaSource);
+}
+
+std::string WhyNoRows(const std::string& file) {
+  if (ChosenKind() != kDatabaseSource) return "the data file " + file + " cannot be read";
+  const std::string table = frmMain.cboRSet.Text();
+  if (table.empty()) return "no table of the data file " + file + " is chosen";
+  return "the table " + table + " of the data file " + file + " cannot be read";
 }
 
 }  // namespace
@@ -86,8 +97,8 @@ void cmdBrowse_Click() {
   if (!AskForDataFile()) return;
   DirtyFlag = kTrue;
   const std::string path = frmMain.cd1.FileName;
-  FieldUB = -1;
-  if (!SourceOpens()) return;
+  CloseSource();
+  OpenChosenSource();
   frmMain.lblFName(1).SetVisible(frmMain.cboRSet.Visible());
   frmMain.lblFileName.SetCaption(path);
 }
@@ -104,7 +115,7 @@ void ShowRecordCount() { frmMain.lblRCount.SetCaption("Records: " + std::to_stri
 void cboImportType_Click() {
   if (ChosenKind() == -1) return;
   DirtyFlag = kTrue;
-  if (LoadingProject) return;
+  if (LoadingProject) return ReadTextOfProject();
   frmMain.cmdBrowse.Press();
 }
 
@@ -129,6 +140,16 @@ void OpenMergeSource() {
     default:
       return;
   }
+}
+
+std::string WhyNoSource() {
+  if (ChosenKind() == kDatabaseSource ? SourceRecordset != nullptr : SourceFile != nullptr) {
+    return {};
+  }
+  const std::string file = frmMain.lblFileName.Caption();
+  if (file.empty()) return "no data file is chosen";
+  if (!FileExists(file)) return "the data file " + file + " does not exist";
+  return WhyNoRows(file);
 }
 
 void NextMergeRecord(bool& More) {

@@ -3,7 +3,8 @@
 //
 // While designing FieldValues holds the names of the columns, while printing the row under the
 // cursor. RecordCount, CurrentTable, DatabasePassword and SourceDatabase travel with a project and
-// are declared in document/project_file.h.
+// are declared in document/project_file.h, SourceTable and SourceRecordset in
+// document/source_state.h.
 //
 // A fault in these routines goes through the marker tail, what it would have set keeps its old
 // value, and the next step runs. Where it says so below it ends there instead.
@@ -12,9 +13,8 @@
 #include <cstddef>
 #include <memory>
 #include <string>
-#include <vector>
 
-#include "platform/database.h"
+#include "document/source_state.h"
 #include "platform/line_reader.h"
 
 namespace tagwright {
@@ -22,23 +22,15 @@ namespace tagwright {
 // The kinds of source: the rows of cboImportType.
 enum SourceKind : int { kDatabaseSource = 0, kCommaSource = 1, kTabSource = 2 };
 
-// A table as its database describes it.
-struct TableDef {
-  std::string Name;
-  std::vector<std::string> Fields;  // names of the columns
-};
-
-inline std::string FieldSeparator;                  // "," or a tab
-inline TableDef SourceTable;                        // the chosen table
-inline std::unique_ptr<Recordset> SourceRecordset;  // the open rows, null none
-inline std::unique_ptr<LineReader> SourceFile;      // the open text source of a print, null none
+inline std::string FieldSeparator;              // "," or a tab
+inline std::unique_ptr<LineReader> SourceFile;  // the open text source of a print, null none
 
 // --- choosing a source --------------------------------------------------------------------------
 
 // Asks for a file of the kind that cboImportType shows and opens it as the source: its columns go
-// to FieldValues and lstFields, its path to lblFileName. A cancelled dialog changes nothing. A
-// database whose password stays wrong ends the command with a message and an empty
-// DatabasePassword.
+// to FieldValues and lstFields, its path to lblFileName. A cancelled dialog changes nothing; with a
+// file the former source is gone, whether or not the new one can be read. A database whose password
+// stays wrong leaves a message and an empty DatabasePassword.
 void cmdBrowse_Click();
 
 // Reads the columns and counts the rows, the first line included, of the text file cd1.FileName.
@@ -47,7 +39,8 @@ void cmdBrowse_Click();
 void OpenTextSource(bool Comma);
 
 // Opens the database cd1.FileName, asking for a password if it wants one, and lists its tables in
-// cboRSet. An empty answer ends the routine. Faults 3031 for a wrong one, after saying so.
+// cboRSet. A file that does not open, or an empty answer, ends the routine with words that it
+// cannot be read as a database. Faults 3031 for a wrong password, after saying so.
 void OpenDatabaseSource();
 
 // FieldValues(slot). Faults 9 past the last slot.
@@ -59,17 +52,25 @@ void FillFieldList();
 // lblRCount shows RecordCount.
 void ShowRecordCount();
 
-void cboImportType_Click();  // opens the file dialog, unless a project is being loaded
-void cboRSet_Click();        // takes the columns and counts the rows of the chosen table
-void chkFirstRow_Click();    // sets DirtyFlag, nothing else
-void chkQuote_Click();       // likewise
-void lstFields_DblClick();   // arms tool 20 with its pointer
+// Opens the file dialog. While a project is being loaded it takes the columns and counts the rows
+// of the text file that lblFileName names instead; a database's come with its table.
+void cboImportType_Click();
+// Takes the columns and counts the rows of the chosen table; those of the former one are gone. Says
+// so of a table that lies in another file.
+void cboRSet_Click();
+void chkFirstRow_Click();   // sets DirtyFlag, nothing else
+void chkQuote_Click();      // likewise
+void lstFields_DblClick();  // arms tool 20 with its pointer
 
 // --- the cursor of a print job ------------------------------------------------------------------
 
 // Opens the source that lblFileName, cboImportType and cboRSet name and stands on its first row,
-// which is passed over: the first NextMergeRecord gives the second one.
+// which is passed over: the first NextMergeRecord gives the second one. Where it does not open no
+// source is.
 void OpenMergeSource();
+
+// Why no source is open, for the user to read; empty where one is.
+std::string WhyNoSource();
 
 // Moves to the next row and fills FieldValues with it. `More` is false at the end of the data, and
 // where no source is open. A row of a text source shorter than the one before keeps the values of

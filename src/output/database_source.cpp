@@ -41,36 +41,39 @@ Recordset& OpenedRows() {
 
 // --- choosing -----------------------------------------------------------------------------------
 
-// A fault is the caller's: this runs where one is being dealt with already.
-void OpenWithPassword(const std::string& path) {
+// A file that does not open leaves none open. Says so, and returns false for its callers to do the
+// same.
+bool Refused(const std::string& path, const Fault& fault) {
+  MarkerTail(fault);
+  TellNoDatabase(path, fault);
+  return false;
+}
+
+bool OpenWithPassword(const std::string& path) {
   try {
     SourceDatabase = OpenDatabase(path, Connect());
+    return true;
   } catch (const Fault& fault) {
-    if (fault.number == kPasswordNeeded) {
-      MessageBox("Not a valid Password", MessageButtons::kOk, MessageIcon::kNone);
-    }
+    if (fault.number != kPasswordNeeded) return Refused(path, fault);
+    MessageBox("Not a valid Password", MessageButtons::kOk, MessageIcon::kNone);
     throw;
   }
 }
 
-// Returns false where the user gives no password.
-bool AskForPassword(const std::string& path) {
+bool AskForPassword(const std::string& path, const Fault& fault) {
   DatabasePassword = InputBox("Please enter Password");
-  if (DatabasePassword.empty()) return false;
-  OpenWithPassword(path);
-  return true;
+  if (!DatabasePassword.empty()) return OpenWithPassword(path);
+  TellNoDatabase(path, fault);
+  return false;
 }
 
-// Returns false where the user gives no password. A database that does not open for another reason
-// leaves the one before it open.
 bool OpenAsking(const std::string& path) {
   try {
     SourceDatabase = OpenDatabase(path);
+    return true;
   } catch (const Fault& fault) {
-    if (fault.number == kPasswordNeeded) return AskForPassword(path);
-    MarkerTail(fault);
+    return fault.number == kPasswordNeeded ? AskForPassword(path, fault) : Refused(path, fault);
   }
-  return true;
 }
 
 void ListTables() {
@@ -85,7 +88,25 @@ void TakeTable(int row) {
   SourceTable = {tables[static_cast<std::size_t>(row)], {}};
 }
 
-void ReadColumns() { SourceTable.Fields = OpenedDatabase().FieldNames(SourceTable.Name); }
+// Returns whether the table's columns are known. Those of a table that another file holds are not.
+bool ReadColumns() {
+  try {
+    SourceTable.Fields = OpenedDatabase().FieldNames(SourceTable.Name);
+    return true;
+  } catch (const Fault& fault) {
+    MarkerTail(fault);
+    if (fault.number == kLinkedTable) {
+      MessageBox("The table " + SourceTable.Name + " lies in another file");
+    }
+    return false;
+  }
+}
+
+void LeaveTable() {
+  SourceTable = {};
+  SourceRecordset.reset();
+  FieldUB = -1;
+}
 
 // A table may have more columns than there are slots: FieldUB counts them all the same.
 void StoreColumnNames() {
@@ -114,8 +135,9 @@ void cboRSet_Click() {
   const int row = frmMain.cboRSet.ListIndex();
   if (row == -1) return;
   DirtyFlag = kTrue;
+  LeaveTable();
   Traced([&] { TakeTable(row); });
-  if (Traced(ReadColumns)) StoreColumnNames();
+  if (ReadColumns()) StoreColumnNames();
   CurrentTable = frmMain.cboRSet.Text();
   Traced([] { SourceRecordset = OpenedDatabase().OpenRecordset(Query(SourceTable.Name)); });
   RecordCount = 0;
@@ -127,6 +149,8 @@ void cboRSet_Click() {
 
 void OpenDatabaseRows() {
   const std::string path = frmMain.lblFileName.Caption();
+  SourceRecordset.reset();
+  SourceDatabase.reset();
   Traced([&] { SourceDatabase = OpenDatabase(path, DatabasePassword.empty() ? "" : Connect()); });
   Traced([] { SourceRecordset = OpenedDatabase().OpenRecordset(Query(frmMain.cboRSet.Text())); });
   MeetAllRows();

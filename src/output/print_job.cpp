@@ -1,5 +1,7 @@
 #include "output/print_job.h"
 
+#include <algorithm>
+#include <cmath>
 #include <cstdint>
 #include <limits>
 #include <string>
@@ -7,10 +9,13 @@
 #include "common/diagnostics.h"
 #include "common/public_functions.h"
 #include "document/objects.h"
+#include "document/project_file.h"
 #include "document/redraw.h"
 #include "forms/frmMain.h"
 #include "layouts/label_layouts.h"
 #include "output/data_sources.h"
+#include "platform/dialogs.h"
+#include "platform/locale.h"
 #include "platform/printer.h"
 #include "platform/progress.h"
 
@@ -21,6 +26,9 @@ constexpr int kPortrait = 1;
 constexpr int kLetter = 1;
 constexpr int kA4 = 9;
 
+// The whole part of a count, which may be larger than any counter; a negative one is none.
+double Whole(double number) { return std::max(0.0, std::floor(number)); }
+
 // How far a step wants the loops around it to be left.
 enum class Leave { kNothing, kCopy, kJob };
 
@@ -29,6 +37,12 @@ struct Job {
   double margin_x = 0;    // dead margins of the printer, millimetres
   double margin_y = 0;    // likewise
   std::int64_t page = 1;  // runs on across copies
+
+  std::int64_t labels = 0;   // painted so far
+  std::int64_t rows = 0;     // of the data that went by
+  bool ended_early = false;  // by the user or the printer
+  bool data_ended = false;   // before the range did
+  std::string no_source{};   // why there are no data to merge
 };
 
 // --- what the boxes say -------------------------------------------------------------------------
@@ -58,6 +72,8 @@ std::int32_t Copies() {
 
 bool Merges() { return frmMain.chkMailshot.Value() == 1; }
 bool PassesTitles() { return frmMain.chkFirstRow.Value() == 1; }
+
+double CellsOfSheet() { return Whole(Across()) * Whole(Down()); }
 
 // --- one cell -----------------------------------------------------------------------------------
 
@@ -90,11 +106,20 @@ void RaiseSerial() {
   if (!PreviewMode) DirtyFlag = kTrue;  // or the next start gives the same numbers out again
 }
 
+void PrintLabel(Job& job, double col, double row) {
+  Traced([&] { PaintCell(job, col, row); });
+  ++job.labels;
+}
+
 Leave PrintCell(Job& job, double col, double row) {
   if (!GoesOn(job)) return Leave::kJob;
-  if (Merges() && !NextRecord()) return Leave::kCopy;
+  if (Merges() && !NextRecord()) {
+    job.data_ended = true;
+    return Leave::kCopy;
+  }
+  ++job.rows;
   SerialUsed = false;
-  if (IsAsked(job.page)) Traced([&] { PaintCell(job, col, row); });
+  if (IsAsked(job.page)) PrintLabel(job, col, row);
   if (SerialUsed) Traced(RaiseSerial);
   return Leave::kNothing;
 }
@@ -137,7 +162,10 @@ Leave PrintPages(Job& job) {
 }
 
 Leave PrintCopy(Job& job) {
-  if (Merges()) Traced(OpenMergeSource);
+  if (Merges()) {
+    Traced(OpenMergeSource);
+    job.no_source = WhyNoSource();
+  }
   if (PassesTitles()) NextRecord();
   const Leave leave = PrintPages(job);
   if (Merges()) Traced(CloseMergeSource);
@@ -147,7 +175,8 @@ Leave PrintCopy(Job& job) {
 void PrintCopies(Job& job) {
   const std::int32_t copies = Copies();
   for (std::int32_t copy = 1; copy <= copies; ++copy) {
-    if (PrintCopy(job) == Leave::kJob) return;
+    job.ended_early = PrintCopy(job) == Leave::kJob;
+    if (job.ended_early) return;
   }
 }
 
@@ -172,12 +201,65 @@ void RestoreScreen(double zoom) {
   RedrawBoard();
 }
 
-void PrintLabels(Progress& progress) {
+Job PrintLabels(Progress& progress) {
   const double zoom = ZoomFactor;
+  const MissingPictures told(MissingPictures::kOnce);
   Job job{progress};
   Traced([&] { MeasureDeadMargins(job); });
   PrintCopies(job);
   RestoreScreen(zoom);
+  return job;
+}
+
+// --- how many labels it has, and why none
+// ---------------------------------------------------------
+
+// The pages asked for that a job of so many pages has.
+double FirstPageAsked() { return std::max(1.0, std::ceil(FirstPage())); }
+double PagesAsked(double pages) {
+  return Whole(std::min(pages, Whole(LastPage())) - FirstPageAsked() + 1);
+}
+
+// Without data the first copy goes to the end of the range, and nothing is left for the others.
+double LabelsWithoutData() { return PagesAsked(LastPage()) * CellsOfSheet(); }
+
+// The rows that labels show: the first one is passed over, and another one with titles.
+double RowsToMerge() { return Whole(RecordCount - 1.0 - (PassesTitles() ? 1 : 0)); }
+
+// How many of the multiples of `step`, up to `count` times, lie from `first` to `last`.
+double MultiplesBetween(double first, double last, double step, double count) {
+  const double from = std::max(1.0, std::ceil(first / step));
+  return Whole(std::min(count, std::floor(last / step)) - from + 1);
+}
+
+// A copy fills whole sheets; the rest of its rows stand on the page where the next copy begins.
+double LabelsOfData(double copies) {
+  const double cells = CellsOfSheet(), rows = RowsToMerge();
+  if (cells < 1) return 0;
+  const double sheets = Whole(rows / cells);
+  const double rest = rows - sheets * cells;
+  if (sheets < 1) return rest * copies * PagesAsked(1);
+  return PagesAsked(sheets * copies) * cells +
+         MultiplesBetween(FirstPageAsked() - 1, Whole(LastPage()) - 1, sheets, copies) * rest;
+}
+
+std::string RangeWithoutLabels() {
+  return "there is none from page " + FormatNumber(FirstPage()) + " to page " +
+         FormatNumber(LastPage());
+}
+
+std::string WhyNoLabel(const Job& job) {
+  if (Copies() < 1) return "the number of copies is less than 1";
+  if (CellsOfSheet() < 1) {
+    return "the layout has " + FormatNumber(Across()) + " labels across and " +
+           FormatNumber(Down()) + " down";
+  }
+  if (!job.no_source.empty()) return job.no_source;
+  const bool range_is_empty = PagesAsked(LastPage()) < 1;
+  if (job.data_ended && (job.rows == 0 || !range_is_empty)) {
+    return "no rows are left in the data file " + frmMain.lblFileName.Caption();
+  }
+  return RangeWithoutLabels();
 }
 
 bool job_under_way = false;
@@ -211,25 +293,39 @@ int PaperOfLayout() {
   return LabelLayouts[static_cast<std::size_t>(index)].Paper == kPaperA4 ? kA4 : kLetter;
 }
 
+// Returns why no label was printed; nothing where some were, and where the user or the printer has
+// ended the job: both know. The window of the job stands until it has been sent: what is pressed
+// meanwhile prints nothing.
+std::string SendJob() {
+  Progress progress("Printing");
+  PreparePrinter();
+  Traced([] { DrawTarget = &Printer().Page(); });
+  const Job job = PrintLabels(progress);
+  Traced([] { Printer().EndDoc(); });
+  DrawOnBoard();
+  return job.labels > 0 || job.ended_early ? "" : WhyNoLabel(job);
+}
+
 }  // namespace
 
-// The window of the job stands until it has been sent: what is pressed meanwhile prints nothing.
 void cmdPrint_Click() {
   if (job_under_way) return;
   const JobUnderWay mark;
   if (!OpenJob()) return;
-  Progress progress("Printing");
-  PreparePrinter();
-  Traced([] { DrawTarget = &Printer().Page(); });
-  PrintLabels(progress);
-  Traced([] { Printer().EndDoc(); });
-  DrawOnBoard();
+  const std::string nothing = SendJob();
+  if (!nothing.empty()) MessageBox("No label was printed: " + nothing);
 }
 
 void PreparePrinter() {
   Traced([] { Printer().Page().Scale().SetScaleMode(kMillimetres); });
   Traced([] { Printer().SetOrientation(kPortrait); });
   Traced([] { Printer().SetPaperSize(PaperOfLayout()); });
+}
+
+double LabelsOfJob() {
+  const double copies = Copies();
+  if (copies < 1) return 0;
+  return Merges() ? LabelsOfData(copies) : LabelsWithoutData();
 }
 
 void PrintLabels() {

@@ -10,8 +10,12 @@ namespace tagwright {
 
 // Prints on the chosen printer. A printer that asks where the job goes (a file) does so before
 // anything else: a user who backs out has changed nothing, and neither has a printer that refuses.
-// Nobody is asked for a job without copies. Pressed again while a job runs it does nothing.
+// Nobody is asked for a job without copies. A job that ran to its end without a label says so, and
+// why. Pressed again while a job runs it does nothing.
 void cmdPrint_Click();
+
+// How many labels a job would have now, by the boxes of both panels and RecordCount.
+double LabelsOfJob();
 
 // The chosen printer's page: millimetres, portrait, on the paper of the layout that is shown. A
 // landscape sheet is a layout on a portrait page.
@@ -24,7 +28,7 @@ void PreparePrinter();
 //
 // The page counter runs on across copies. A merge ends its copy where the data ends, without a page
 // feed. SerialValue rises by 1 for each cell that printed it. At the end picBoard is the DrawTarget
-// again and redrawn, PreviewMode is off and ZoomFactor as before.
+// again and redrawn, PreviewMode is off and ZoomFactor as before. A missing picture is told once.
 void PrintLabels();
 
 }  // namespace tagwright

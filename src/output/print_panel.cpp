@@ -9,6 +9,7 @@
 #include "document/objects.h"
 #include "document/project_file.h"
 #include "forms/frmMain.h"
+#include "output/print_job.h"
 #include "platform/locale.h"
 #include "platform/printer.h"
 #include "platform/text.h"
@@ -54,7 +55,16 @@ void ProposeFirstPageOnly() {
 
 void OfferMerge(bool possible) {
   frmMain.chkMailshot.SetVisible(possible);
-  if (possible) frmMain.chkMailshot.SetValue(1);
+  frmMain.chkMailshot.SetValue(possible ? 1 : 0);
+}
+
+// A merge passes over the first row, and with the tick for titles over another one. A tick that a
+// database hides counts too.
+void TellFirstRow() {
+  const std::string row = frmMain.chkFirstRow.Value() == 1 ? "third" : "second";
+  frmMain.chkMailshot.SetToolTipText("Fill the labels from the data file, beginning with its " +
+                                     row + " row");
+  frmMain.chkMailshot.SetSpokenName("Include Mailshot Data, beginning with the " + row + " row");
 }
 
 }  // namespace
@@ -64,7 +74,17 @@ void mnuFilePrint_Click() {
   HasDataFile() ? ProposeLastPage() : ProposeFirstPageOnly();
   ShowPanel(frmMain.picPrint);
   OfferMerge(HasDataFile());
+  TellFirstRow();
   HideFontBoxes();
+  ShowLabelsOfJob();
+}
+
+void ShowLabelsOfJob() { frmMain.lblLabels.SetCaption("Labels: " + FormatNumber(LabelsOfJob())); }
+
+void FollowLabel() {
+  if (HasDataFile() != frmMain.chkMailshot.Visible()) OfferMerge(HasDataFile());
+  TellFirstRow();
+  ShowLabelsOfJob();
 }
 
 void cboPrinter_Click() {

@@ -9,6 +9,13 @@ namespace tagwright {
 // data fills: 24 for 7 records on 3 cells. A step that faults leaves what it would have set.
 void mnuFilePrint_Click();
 
+// lblLabels shows how many labels a job would have now.
+void ShowLabelsOfJob();
+
+// The panel follows another label, without a new proposal: merging is offered as at first where it
+// was not, and withdrawn where there is nothing to merge any more.
+void FollowLabel();
+
 // Chooses the printer whose name the list shows. One that is gone leaves the former.
 void cboPrinter_Click();
 

@@ -70,8 +70,9 @@ std::int32_t CountRows(const std::string& path) {
 
 }  // namespace
 
-void OpenTextSource(bool Comma) {
-  const std::string path = frmMain.cd1.FileName;
+void OpenTextSource(bool Comma) { TakeTextSource(frmMain.cd1.FileName, Comma); }
+
+void TakeTextSource(const std::string& path, bool Comma) {
   std::string line;
   ShowTextControls();
   Traced([&] { line = FirstLine(path); });
@@ -84,6 +85,7 @@ void OpenTextSource(bool Comma) {
 }
 
 void OpenTextRows(bool Comma) {
+  SourceFile.reset();
   Traced([] { SourceFile = std::make_unique<LineReader>(frmMain.lblFileName.Caption()); });
   Traced([] {
     if (SourceFile) ReadLine(*SourceFile);

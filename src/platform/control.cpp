@@ -134,6 +134,12 @@ void Control::SetToolTipText(std::string value) {
   Notify(Aspect::kText);
 }
 
+void Control::SetSpokenName(std::string value) {
+  if (value == spoken_name_) return;
+  spoken_name_ = std::move(value);
+  Notify(Aspect::kText);
+}
+
 void Control::SetMousePointer(int value) {
   constexpr int kLastPointer = 15;
   constexpr int kIconPointer = 99;

@@ -147,6 +147,9 @@ class Control {
 
   const std::string& ToolTipText() const { return tool_tip_; }
   void SetToolTipText(std::string value);
+  // What screen readers call it, where that changes; empty: what the form file says.
+  const std::string& SpokenName() const { return spoken_name_; }
+  void SetSpokenName(std::string value);
   // 0 default, 1 arrow, 2 cross, 3 I-beam, 6 and 8 sizing along a diagonal (up right, down right),
   // 11 hourglass, 14 arrow and question mark, 99 MouseIcon. Faults 380 outside 0 to 15 and 99.
   int MousePointer() const { return pointer_; }
@@ -234,6 +237,7 @@ class Control {
   std::int64_t order_ = 0;
   int pointer_ = 0;
   std::string tool_tip_;
+  std::string spoken_name_;
   std::string mouse_icon_;
 };
 

@@ -39,14 +39,16 @@ class Recordset {
 class Database {
  public:
   virtual ~Database() = default;
-  // The names of all tables in the engine's order, system tables included.
+  // The names of all tables in the engine's order, system tables and linked ones included.
   virtual std::vector<std::string> TableNames() = 0;
   // The names of a table's fields in their order, without reading any row. Unlike OpenRecordset it
-  // takes every table's name, whatever characters are in it. Faults kDatabaseFault.
+  // takes every table's name, whatever characters are in it. Faults kLinkedTable for a table that
+  // lies in another file, kDatabaseFault otherwise.
   virtual std::vector<std::string> FieldNames(const std::string& table) = 0;
   // The rows of one table: `source` is "SELECT * FROM " and its name. Unquoted as it is, the name
   // has to consist of letters, digits and underscores and begin with no digit. Faults
-  // kDatabaseFault for any other source and for a table that is not there.
+  // kDatabaseFault for any other source and for a table that is not there, kLinkedTable for one
+  // that lies in another file.
   virtual std::unique_ptr<Recordset> OpenRecordset(const std::string& source) = 0;
 };
 

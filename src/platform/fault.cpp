@@ -47,6 +47,8 @@ std::string FaultDescription(int number) {
       return "Printer error";
     case kPasswordNeeded:
       return "Not a valid password";
+    case kLinkedTable:
+      return "The table lies in another file";
     case kDatabaseFault:
       return "Unrecognized database format";
     case kDialogCancelled:

@@ -28,6 +28,7 @@ enum FaultNumber : int {
   kBadPicture = 481,         // a file that is no readable picture
   kPrinterFault = 482,       // a printer that refuses
   kPasswordNeeded = 3031,    // a database that wants a password
+  kLinkedTable = 3044,       // a table of a database that lies in another file
   kDatabaseFault = 3343,     // a database that cannot be opened or read
   kDialogCancelled = 32755,  // a common dialog that the user cancelled
 };

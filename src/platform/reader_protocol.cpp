@@ -97,11 +97,15 @@ StoredValue TakeValue(std::string_view& from) {
 }
 
 FrameKind KindOf(char byte) {
-  const auto kind = static_cast<FrameKind>(byte);
-  if (kind != FrameKind::kName && kind != FrameKind::kRow && kind != FrameKind::kEnd) {
-    RaiseFault(kDatabaseFault);
+  switch (const auto kind = static_cast<FrameKind>(byte)) {
+    case FrameKind::kName:
+    case FrameKind::kLinked:
+    case FrameKind::kRow:
+    case FrameKind::kEnd:
+      return kind;
+    default:
+      RaiseFault(kDatabaseFault);
   }
-  return kind;
 }
 
 }  // namespace

@@ -4,7 +4,7 @@
 // a program of its own, the reader, started once for each question; its death or its silence is
 // then no more than an answer. The question stands in the reader's arguments:
 //
-//   tagwright-reader tables FILE         the names of all tables
+//   tagwright-reader tables FILE         the names of all tables, linked ones as such
 //   tagwright-reader fields FILE TABLE   the names of a table's fields
 //   tagwright-reader rows FILE TABLE     the names of a table's fields, then all its rows
 //
@@ -30,9 +30,10 @@
 namespace tagwright {
 
 enum class FrameKind : char {
-  kName = 'N',  // content: a name in UTF-8
-  kRow = 'R',   // content: the values of one row
-  kEnd = 'E',   // no content
+  kName = 'N',    // content: a name in UTF-8
+  kLinked = 'L',  // content: the name of a table that lies in another file
+  kRow = 'R',     // content: the values of one row
+  kEnd = 'E',     // no content
 };
 
 struct Frame {

@@ -187,6 +187,13 @@ StoredValue ValueOf(MdbHandle* file, const MdbColumn& column, const MdbField& fi
   return ValueAt(file, column, field.start, static_cast<std::size_t>(field.siz));
 }
 
+// Linked to another file of this format, or to a database of another one. With the bits above them
+// the same numbers stand for reports and the like.
+bool IsLinked(std::uint32_t kind) {
+  constexpr std::uint32_t kForeignDatabase = 4;
+  return kind == MDB_LINKED_TABLE || kind == kForeignDatabase;
+}
+
 std::optional<std::uint32_t> WholeNumber(const StoredValue& value) {
   const auto* number = std::get_if<DecimalValue>(&value);
   if (number == nullptr) return std::nullopt;
@@ -208,8 +215,8 @@ struct JetFile::Library {
 };
 
 struct JetFile::CatalogueEntry {
-  std::string name;
-  unsigned long page;
+  Table table;
+  unsigned long page;  // of a linked table none
 };
 
 JetFile::JetFile(const std::string& path) : library_(std::make_unique<Library>()) {
@@ -253,21 +260,23 @@ void JetFile::ForEachTable(const std::function<void(const CatalogueEntry&)>& vis
   while (NextRow(row)) {
     const auto page = WholeNumber(row[id]), kind = WholeNumber(row[type]);
     const auto* text = std::get_if<std::string>(&row[name]);
-    if (!page || !kind || text == nullptr || (*kind & kTypeBits) != MDB_TABLE) continue;
-    visit({*text, *page & kPageBits});
+    if (!page || !kind || text == nullptr) continue;
+    const bool linked = IsLinked(*kind);
+    if (!linked && (*kind & kTypeBits) != MDB_TABLE) continue;
+    visit({{*text, linked}, *page & kPageBits});
   }
 }
 
-std::vector<std::string> JetFile::TableNames() {
-  std::vector<std::string> names;
-  ForEachTable([&](const CatalogueEntry& entry) { names.push_back(entry.name); });
-  return names;
+std::vector<JetFile::Table> JetFile::Tables() {
+  std::vector<Table> tables;
+  ForEachTable([&](const CatalogueEntry& entry) { tables.push_back(entry.table); });
+  return tables;
 }
 
 void JetFile::OpenTable(const std::string& name) {
   std::optional<unsigned long> page;
   ForEachTable([&](const CatalogueEntry& entry) {
-    if (!page && entry.name == name) page = entry.page;
+    if (!page && !entry.table.linked && entry.table.name == name) page = entry.page;
   });
   if (!page) RaiseFault(kDatabaseFault);
   OpenPage(*page, name);

@@ -18,11 +18,18 @@ class JetFile {
   explicit JetFile(const std::string& path);
   ~JetFile();
 
-  // The names of all tables in the order of their catalogue, system tables included; linked tables,
-  // queries, forms and the like are none. Faults kDatabaseFault without a readable catalogue.
-  std::vector<std::string> TableNames();
+  // A table, and whether it only points to one in another file.
+  struct Table {
+    std::string name;
+    bool linked = false;
+  };
 
-  // Goes to a table and before its first row. Faults kDatabaseFault when there is no such table.
+  // All tables in the order of their catalogue, system tables and linked ones included; queries,
+  // forms and the like are none. Faults kDatabaseFault without a readable catalogue.
+  std::vector<Table> Tables();
+
+  // Goes to a table and before its first row. Faults kDatabaseFault when there is no such table in
+  // this file.
   void OpenTable(const std::string& name);
 
   // The names of the open table's fields.

@@ -95,6 +95,12 @@ void PutNames(Answer& answer, const std::vector<std::string>& names) {
   for (const std::string& name : names) answer.Put(FrameKind::kName, name);
 }
 
+void PutTables(Answer& answer, JetFile& file) {
+  for (const JetFile::Table& table : file.Tables()) {
+    answer.Put(table.linked ? FrameKind::kLinked : FrameKind::kName, table.name);
+  }
+}
+
 void PutRows(Answer& answer, JetFile& file) {
   std::vector<StoredValue> row;
   while (file.NextRow(row)) answer.Put(FrameKind::kRow, RowContent(row));
@@ -105,7 +111,7 @@ void AnswerQuestion(const std::vector<std::string>& arguments, Answer& answer) {
   const std::string& question = arguments[0];
   JetFile file(arguments[1]);
   if (question == "tables" && arguments.size() == 2) {
-    PutNames(answer, file.TableNames());
+    PutTables(answer, file);
   } else if ((question == "fields" || question == "rows") && arguments.size() == 3) {
     file.OpenTable(arguments[2]);
     PutNames(answer, file.FieldNames());

@@ -57,13 +57,22 @@ void WireWindow(FrmMain& f) {
 }
 
 void WireMenus(FrmMain& f) {
-  f.mnuFileNew.Events().Click = mnuFileNew_Click;
-  f.mnuFileOpen.Events().Click = mnuFileOpen_Click;
+  f.mnuFileNew.Events().Click = [] {
+    mnuFileNew_Click();
+    FollowLabel();
+  };
+  f.mnuFileOpen.Events().Click = [] {
+    mnuFileOpen_Click();
+    FollowLabel();
+  };
   f.mnuFileSave.Events().Click = mnuFileSave_Click;
   f.mnuFileSaveAs.Events().Click = mnuFileSaveAs_Click;
   f.mnuFileImport.Events().Click = mnuFileImport_Click;
   f.mnuFileSerial.Events().Click = mnuFileSerial_Click;
-  f.mnuFileOld.Events().Click = mnuFileOld_Click;
+  f.mnuFileOld.Events().Click = [](int Index) {
+    mnuFileOld_Click(Index);
+    FollowLabel();
+  };
   f.mnuFileExit.Events().Click = mnuFileExit_Click;
 
   f.mnuEditSelectAll.Events().Click = mnuEditSelectAll_Click;
@@ -188,6 +197,10 @@ void WireDataSources(FrmMain& f) {
 void WirePrinting(FrmMain& f) {
   f.mnuFilePrint.Events().Click = mnuFilePrint_Click;
   f.cboPrinter.Events().Click = cboPrinter_Click;
+  f.chkMailshot.Events().Click = ShowLabelsOfJob;
+  f.txtNoCopies.Events().Change = ShowLabelsOfJob;
+  f.txtPrintFrom.Events().Change = ShowLabelsOfJob;
+  f.txtPrintTo.Events().Change = ShowLabelsOfJob;
   f.txtNoCopies.Events().KeyPress = [](int, int&) { txtNoCopies_KeyPress(); };
   f.txtPrintFrom.Events().KeyPress = [](int, int&) { txtPrintFrom_KeyPress(); };
   f.txtPrintTo.Events().KeyPress = [](int, int&) { txtPrintTo_KeyPress(); };

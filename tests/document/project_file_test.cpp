@@ -646,11 +646,11 @@ TEST_F(ProjectFileTest, DatabaseWithoutAPasswordOpensWithoutAConnectText) {
   ObjectRecord source = SourceTrailer();
   source.Param = 0;
   source.Text = Made("a.mdb", "x");
-  CurrentTable = "as before";
+  CurrentTable = "of the label before";
   Load(Bytes({SerialTrailer(), source}));
   EXPECT_EQ(asked, "");
   EXPECT_EQ(frmMain.cboRSet.ListIndex(), -1) << "no table was stored";
-  EXPECT_EQ(CurrentTable, "as before");
+  EXPECT_EQ(CurrentTable, "");
 }
 
 TEST_F(ProjectFileTest, TableBeyondTheListIsPassedOverAndNoTextRemembered) {
@@ -666,26 +666,28 @@ TEST_F(ProjectFileTest, TableBeyondTheListIsPassedOverAndNoTextRemembered) {
   EXPECT_EQ(CurrentTable, "") << "the statement after the one that failed still runs";
 }
 
-TEST_F(ProjectFileTest, DatabaseSourceWithoutAFileLeavesItsFieldsAsTheyAre) {
+TEST_F(ProjectFileTest, DatabaseSourceWithoutAFileShowsTheSameFieldsWithoutTables) {
   ObjectRecord source = SourceTrailer();
   source.Param = 0;
   frmMain.cboRSet.SetVisible(false);
   frmMain.chkQuote.SetVisible(true);
-  frmMain.cboRSet.AddItem("as before");
+  frmMain.cboRSet.AddItem("of the label before");
   Load(Bytes({SerialTrailer(), source}));
   EXPECT_FALSE(frmMain.cboRSet.Visible());
   EXPECT_TRUE(frmMain.chkQuote.Visible());
-  EXPECT_EQ(frmMain.cboRSet.ListCount(), 1);
+  EXPECT_EQ(frmMain.cboRSet.ListCount(), 0);
   EXPECT_EQ(frmMain.cboImportType.ListIndex(), 0);
 }
 
-TEST_F(ProjectFileTest, DatabaseThatCannotBeOpenedIsPassedOver) {
+TEST_F(ProjectFileTest, DatabaseThatCannotBeOpenedIsToldAndTheLoadGoesOn) {
   ObjectRecord source = SourceTrailer();
   source.Param = 0;
   source.Text = Made("a.mdb", "x");
   source.FillColor = 0;
   Load(Bytes({TextObject("a"), SerialTrailer(), source}));
-  EXPECT_TRUE(dialogs.messages.empty());
+  ASSERT_EQ(dialogs.messages.size(), 1u);
+  EXPECT_EQ(dialogs.messages[0].text,
+            "The file " + folder.File("a.mdb") + " cannot be read as a database");
   EXPECT_EQ(frmMain.cboRSet.ListCount(), 0);
   EXPECT_EQ(frmMain.lblFileName.Caption(), folder.File("a.mdb"));
   EXPECT_EQ(ObjectUB, 0);
@@ -756,6 +758,18 @@ TEST_F(ProjectFileTest, UnreadablePictureInTheLayoutsRedrawCostsTheSerialTrailer
   EXPECT_EQ(SerialPrefix, "kept");
   EXPECT_EQ(dialogs.messages.size(), 2u) << "once in each redraw";
   EXPECT_EQ(ObjectUB, -1);
+}
+
+// The redraws on the way say nothing, and several objects of one file are one message.
+TEST_F(ProjectFileTest, AMissingPictureIsToldOnceForALoad) {
+  frmMain.cboLabelLayout.Events().Click = [] { RedrawBoard(); };
+  Load(Bytes({PictureObject("/x/1.gif"), PictureObject("/x/1.gif"), TextObject("a"),
+              SerialTrailer(), SourceTrailer()}));
+  EXPECT_EQ(RedrawCount, 2);
+  ASSERT_EQ(dialogs.messages.size(), 1u);
+  EXPECT_EQ(dialogs.messages[0].text,
+            "The file /x/1.gif referenced in this project does not exist and will be removed");
+  EXPECT_EQ(ObjectUB, 0);
 }
 
 TEST_F(ProjectFileTest, MissingPicturesAreNamedAndRemovedOneByOne) {

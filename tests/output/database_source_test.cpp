@@ -22,6 +22,26 @@ class DatabaseSourceTest : public SourceTest {
     }
     FAIL() << name;
   }
+
+  void OpenPeople() {
+    Browse(kDatabaseSource, "a.mdb");
+    ChooseTable("People");
+    ASSERT_EQ(ListedFields(), (Texts{"Name", "Town"}));
+    ASSERT_EQ(RecordCount, 2);
+  }
+
+  // The former database, its tables, columns and rows are gone.
+  static void ExpectNoSource() {
+    EXPECT_FALSE(SourceDatabase);
+    EXPECT_FALSE(SourceRecordset);
+    EXPECT_EQ(ListedTables(), Texts{});
+    EXPECT_EQ(ListedFields(), Texts{});
+    EXPECT_EQ(FieldUB, -1);
+    EXPECT_EQ(RecordCount, -1);
+    EXPECT_EQ(frmMain.lblRCount.Caption(), "");
+    EXPECT_EQ(CurrentTable, "");
+    EXPECT_EQ(Merged(), Texts{});
+  }
 };
 
 // --- opening ---
@@ -42,16 +62,51 @@ TEST_F(DatabaseSourceTest, AnotherDatabaseReplacesTheList) {
   EXPECT_EQ(ListedTables(), (Texts{"Only"}));
 }
 
-// What cannot be opened leaves the database before it open, and that one's tables are listed.
-TEST_F(DatabaseSourceTest, ADamagedFileListsTheTablesOfTheDatabaseBeforeIt) {
+// Whatever was open: nothing of it is left to print from.
+TEST_F(DatabaseSourceTest, ADamagedFileLeavesNothingOfTheDatabaseBeforeIt) {
   databases.files["broken.mdb"] = {{}, "", true};
+  OpenPeople();
   Browse(kDatabaseSource, "broken.mdb");
-  EXPECT_EQ(ListedTables(), (Texts{}));
-  Browse(kDatabaseSource, "a.mdb");
-  Browse(kDatabaseSource, "broken.mdb");
-  EXPECT_EQ(ListedTables().size(), 4U);
+  ExpectNoSource();
   EXPECT_EQ(frmMain.lblFileName.Caption(), "broken.mdb");
-  EXPECT_TRUE(dialogs.messages.empty());
+  EXPECT_EQ(Messages(), (Texts{"The file broken.mdb cannot be read as a database"}));
+}
+
+TEST_F(DatabaseSourceTest, AFileThatIsMissingLikewise) {
+  OpenPeople();
+  Browse(kDatabaseSource, "nowhere.mdb");
+  ExpectNoSource();
+  EXPECT_EQ(Messages(), (Texts{"The file nowhere.mdb cannot be read as a database"}));
+}
+
+TEST_F(DatabaseSourceTest, WithoutTheProgramThatReadsThemTheReasonIsTold) {
+  OpenPeople();
+  SetDatabaseEngine([](const std::string&, const std::string&) -> std::unique_ptr<Database> {
+    RaiseFault(kDatabaseFault, "The program that reads databases does not start: x");
+  });
+  Browse(kDatabaseSource, "a.mdb");
+  ExpectNoSource();
+  EXPECT_EQ(Messages(), (Texts{"The file a.mdb cannot be read as a database\r\n"
+                               "The program that reads databases does not start: x"}));
+}
+
+TEST_F(DatabaseSourceTest, ATextFileLeavesNothingOfTheDatabaseBeforeIt) {
+  OpenPeople();
+  BrowseCsv("only\nrow\n");
+  EXPECT_FALSE(SourceDatabase);
+  EXPECT_FALSE(SourceRecordset);
+  EXPECT_EQ(ListedTables(), Texts{});
+  EXPECT_EQ(Columns(), (Texts{"only"}));
+}
+
+// The kind is chosen before the dialog, and stays when that is cancelled: what is named is no
+// database then.
+TEST_F(DatabaseSourceTest, AKindThatTheFileIsNotOfMergesNothing) {
+  OpenPeople();
+  BrowseCsv("only\nrow\n");
+  dialogs.files.push_back(std::nullopt);
+  frmMain.cboImportType.UserChoose(kDatabaseSource);
+  EXPECT_EQ(Merged(), Texts{});
 }
 
 TEST_F(DatabaseSourceTest, TheMarkerTellsOfADamagedFile) {
@@ -59,7 +114,8 @@ TEST_F(DatabaseSourceTest, TheMarkerTellsOfADamagedFile) {
   Browse(kDatabaseSource, "a.mdb");
   LeaveMarker();
   Browse(kDatabaseSource, "broken.mdb");
-  EXPECT_EQ(Messages(), (Texts{"3343 - Unrecognized database format"}));
+  EXPECT_EQ(Messages(), (Texts{"3343 - Unrecognized database format",
+                               "The file broken.mdb cannot be read as a database"}));
 }
 
 // --- passwords ---
@@ -77,18 +133,19 @@ TEST_F(DatabaseSourceTest, APasswordIsAskedForAndTaken) {
 
 // An answer that is none ends the opening and not the command: the file is named on the panel.
 TEST_F(DatabaseSourceTest, AnEmptyPasswordEndsTheOpening) {
+  OpenPeople();
   DatabasePassword = "old";
   dialogs.inputs.push_back("");
   Browse(kDatabaseSource, "locked.mdb");
   EXPECT_EQ(DatabasePassword, "");
-  EXPECT_EQ(ListedTables(), (Texts{}));
+  ExpectNoSource();
   EXPECT_EQ(frmMain.lblFileName.Caption(), "locked.mdb");
-  EXPECT_TRUE(dialogs.messages.empty());
+  EXPECT_EQ(Messages(), (Texts{"The file locked.mdb cannot be read as a database"}));
 }
 
 // The opening says so in its words, and passes the fault on to the command, which has its own.
 TEST_F(DatabaseSourceTest, AWrongPasswordIsToldTwiceWithDifferentCapitals) {
-  frmMain.lblFileName.SetCaption("before");
+  OpenPeople();
   dialogs.inputs.push_back("guess");
   Browse(kDatabaseSource, "locked.mdb");
   EXPECT_EQ(Messages(), (Texts{"Not a valid Password", "Not a Valid Password"}));
@@ -97,8 +154,8 @@ TEST_F(DatabaseSourceTest, AWrongPasswordIsToldTwiceWithDifferentCapitals) {
     EXPECT_EQ(message.icon, MessageIcon::kNone);
   }
   EXPECT_EQ(DatabasePassword, "");
-  EXPECT_EQ(ListedTables(), (Texts{}));
-  EXPECT_EQ(frmMain.lblFileName.Caption(), "before");
+  ExpectNoSource();
+  EXPECT_EQ(frmMain.lblFileName.Caption(), "locked.mdb") << "the former one is gone";
 }
 
 TEST_F(DatabaseSourceTest, ADatabaseThatBreaksAtItsSecondOpeningListsNothing) {
@@ -109,7 +166,8 @@ TEST_F(DatabaseSourceTest, ADatabaseThatBreaksAtItsSecondOpeningListsNothing) {
   dialogs.inputs.push_back("secret");
   LeaveMarker();
   Browse(kDatabaseSource, "locked.mdb");
-  EXPECT_EQ(Messages(), (Texts{"3343 - Unrecognized database format"}));
+  EXPECT_EQ(Messages(), (Texts{"3343 - Unrecognized database format",
+                               "The file locked.mdb cannot be read as a database"}));
   EXPECT_EQ(DatabasePassword, "secret");
   EXPECT_EQ(frmMain.lblFileName.Caption(), "locked.mdb");
 }
@@ -148,37 +206,57 @@ TEST_F(DatabaseSourceTest, ATableWithABlankInItsNameFailsToOpen) {
   EXPECT_EQ(Merged(), (Texts{}));
 }
 
-// The rows before it stay open, and they are what is counted and merged.
-TEST_F(DatabaseSourceTest, ATableThatFailsToOpenShowsTheCountOfTheOneBeforeIt) {
-  Browse(kDatabaseSource, "a.mdb");
-  ChooseTable("People");
+// The rows of the table before it are not its own.
+TEST_F(DatabaseSourceTest, ATableThatFailsToOpenHasNoRows) {
+  OpenPeople();
   ChooseTable("Two Words");
   EXPECT_EQ(Columns(), (Texts{"x"}));
-  EXPECT_EQ(RecordCount, 2);
-  EXPECT_EQ(Merged(), (Texts{"Bob"}));
+  EXPECT_EQ(RecordCount, 0);
+  EXPECT_EQ(frmMain.lblRCount.Caption(), "Records: 0");
+  EXPECT_FALSE(SourceRecordset);
+  EXPECT_EQ(Merged(), (Texts{}));
 }
 
 TEST_F(DatabaseSourceTest, ATableWhoseColumnsCannotBeReadIsChosenWithoutThem) {
-  Browse(kDatabaseSource, "a.mdb");
-  ChooseTable("People");
-  databases.files["b.mdb"] = {{{"T", {"x"}, {{"1"}}}}};
-  Browse(kDatabaseSource, "b.mdb");
+  OpenPeople();
   databases.columns_fail = true;
   databases.log.clear();
-  ChooseTable("T");
-  EXPECT_EQ(SourceTable.Name, "T");
+  ChooseTable("Empty");
+  EXPECT_EQ(SourceTable.Name, "Empty");
   EXPECT_EQ(FieldUB, -1);
-  EXPECT_EQ(Columns(), Texts{});
-  EXPECT_EQ(databases.log.front(), "rows SELECT * FROM T");
+  EXPECT_EQ(ListedFields(), Texts{});
+  EXPECT_EQ(databases.log.front(), "rows SELECT * FROM Empty");
 }
 
-// No table is chosen in the new database: what was open is still merged.
-TEST_F(DatabaseSourceTest, ANewDatabaseWithoutATableMergesTheRowsOfTheFormerOne) {
-  Browse(kDatabaseSource, "a.mdb");
-  ChooseTable("People");
+TEST_F(DatabaseSourceTest, ANewDatabaseWithoutATableMergesNothing) {
+  OpenPeople();
   databases.files["b.mdb"] = {{{"T", {"x"}, {{"1"}, {"2"}}}}};
   Browse(kDatabaseSource, "b.mdb");
-  EXPECT_EQ(Merged(), (Texts{"Bob"}));
+  EXPECT_EQ(ListedFields(), Texts{});
+  EXPECT_EQ(RecordCount, -1);
+  EXPECT_EQ(frmMain.lblRCount.Caption(), "");
+  EXPECT_EQ(Merged(), (Texts{}));
+}
+
+// It is in the list, and counts in it.
+TEST_F(DatabaseSourceTest, ATableInAnotherFileSaysSo) {
+  FakeTable linked{"Far", {"f"}, {{"1"}, {"2"}}};
+  linked.linked = true;
+  databases.files["a.mdb"].tables.insert(databases.files["a.mdb"].tables.begin(), linked);
+  OpenPeople();
+  EXPECT_EQ(frmMain.cboRSet.ListIndex(), 2);
+  ChooseTable("Far");
+  EXPECT_EQ(Messages(), (Texts{"The table Far lies in another file"}));
+  EXPECT_EQ(ListedFields(), Texts{});
+  EXPECT_EQ(frmMain.lblRCount.Caption(), "Records: 0");
+  EXPECT_EQ(Merged(), (Texts{}));
+}
+
+TEST_F(DatabaseSourceTest, AMergeOfADatabaseThatIsGoneHasNoRows) {
+  OpenPeople();
+  databases.files["a.mdb"].damaged = true;
+  EXPECT_EQ(Merged(), (Texts{}));
+  EXPECT_FALSE(SourceDatabase);
 }
 
 TEST_F(DatabaseSourceTest, NoTableChosenDoesNothing) {
@@ -299,6 +377,42 @@ TEST_F(DatabaseSourceTest, AProjectsTableIsTakenAsIfChosenByHand) {
   EXPECT_EQ(ListedFields(), (Texts{"Name", "Town"}));
   EXPECT_EQ(frmMain.lblRCount.Caption(), "Records: 2");
   EXPECT_EQ(Merged(), (Texts{"Bob"}));
+}
+
+TEST_F(DatabaseSourceTest, AProjectWhoseDatabaseCannotBeReadLeavesNothingOfTheFormerOne) {
+  const std::string path = Written("b.mdb", "");
+  databases.files[path] = {{{"MSysObjects", {"Id"}, {{"1"}}}, {"T", {"x"}, {{"1"}, {"2"}}}}};
+  Browse(kDatabaseSource, path);
+  ChooseTable("T");
+  ProjectPath = folder.File("label.twp");
+  SaveProject(kFalse);
+  for (const char* password : {"", "other"}) {
+    OpenPeople();
+    databases.files[path].password = password;
+    databases.files[path].damaged = *password == '\0';
+    dialogs.messages.clear();
+    LoadProject(folder.File("label.twp"));
+    EXPECT_EQ(frmMain.lblFileName.Caption(), path);
+    ExpectNoSource();
+    EXPECT_EQ(Messages(), (Texts{"The file " + path + " cannot be read as a database"}));
+  }
+}
+
+TEST_F(DatabaseSourceTest, AProjectWithoutDataLeavesNothingOfTheFormerOne) {
+  ProjectPath = folder.File("label.twp");
+  SaveProject(kFalse);
+  OpenPeople();
+  frmMain.chkMailshot.SetValue(1);
+  LoadProject(folder.File("label.twp"));
+  EXPECT_EQ(frmMain.lblFileName.Caption(), "");
+  EXPECT_EQ(frmMain.chkMailshot.Value(), 0);
+  ExpectNoSource();
+}
+
+TEST_F(DatabaseSourceTest, ANewLabelLeavesNothingOfTheFormerOne) {
+  OpenPeople();
+  mnuFileNew_Click();
+  ExpectNoSource();
 }
 
 }  // namespace

@@ -1,4 +1,9 @@
 // The print job step by step: order, ranges, copies, merges, numbers, faults, cancels.
+#include <algorithm>
+#include <cstdint>
+#include <filesystem>
+#include <random>
+
 #include "output/job_fixture.h"
 
 namespace tagwright {
@@ -271,14 +276,174 @@ TEST_F(PrintJobTest, WithoutAMergeFieldsShowWhatIsThere) {
   EXPECT_EQ(Printed(), (std::vector<Texts>{{"title", "title"}}));
 }
 
-TEST_F(PrintJobTest, AMergeOfASourceThatHasGonePrintsNothing) {
+TEST_F(PrintJobTest, AMergeOfASourceThatHasGoneSaysSo) {
   AddField();
   Merge(3);
   DeleteFile(folder.File("data.csv"));
   Print();
   EXPECT_TRUE(Log().pages.empty());
-  EXPECT_TRUE(dialogs.messages.empty());
+  EXPECT_EQ(Messages(), (Texts{"No label was printed: the data file " + folder.File("data.csv") +
+                               " does not exist"}));
   EXPECT_EQ(DrawTarget, &frmMain.picBoard.Canvas());
+}
+
+// --- jobs without a label -----------------------------------------------------------------------
+
+class NoLabelTest : public PrintJobTest {
+ protected:
+  // What a job says now.
+  std::string Said() {
+    dialogs.messages.clear();
+    Print();
+    EXPECT_TRUE(Printed().empty() || Printed().back().empty());
+    if (dialogs.messages.size() != 1) return std::to_string(dialogs.messages.size()) + " messages";
+    const std::string begin = "No label was printed: ";
+    const std::string& text = dialogs.messages[0].text;
+    return text.starts_with(begin) ? text.substr(begin.size()) : "other words: " + text;
+  }
+};
+
+TEST_F(NoLabelTest, NoRowsAreLeft) {
+  AddField();
+  Merge(0);
+  const std::string no_rows = "no rows are left in the data file " + folder.File("data.csv");
+  EXPECT_EQ(Said(), no_rows);
+  SetRange("1", "0");
+  EXPECT_EQ(Said(), no_rows) << "whatever was proposed for them";
+  Merge(1);
+  frmMain.chkFirstRow.SetValue(1);
+  SetRange("1", "1");
+  EXPECT_EQ(Said(), no_rows) << "the only row counts as titles";
+  Merge(20);
+  SetRange("3", "9");
+  EXPECT_EQ(Said(), no_rows) << "the data end on the second page";
+}
+
+TEST_F(NoLabelTest, TheRangeIsEmpty) {
+  AddSerial();
+  SetRange("3", "1");
+  EXPECT_EQ(Said(), "there is none from page 3 to page 1");
+  SetRange("", "");
+  EXPECT_EQ(Said(), "there is none from page 0 to page 0");
+  SetRange("1.25", "1.75");
+  EXPECT_EQ(Said(), "there is none from page 1.25 to page 1.75");
+  Merge(40);
+  SetRange("2", "1");
+  EXPECT_EQ(Said(), "there is none from page 2 to page 1");
+  EXPECT_EQ(SerialValue, 1001);
+}
+
+TEST_F(NoLabelTest, TheLayoutHasNoLabels) {
+  AddSerial();
+  SetCells(0, 7);
+  EXPECT_EQ(Said(), "the layout has 0 labels across and 7 down");
+  SetCells(2, -1);
+  EXPECT_EQ(Said(), "the layout has 2 labels across and -1 down");
+}
+
+TEST_F(NoLabelTest, ThereAreNoCopies) {
+  AddSerial();
+  frmMain.txtNoCopies.SetText("0");
+  EXPECT_EQ(Said(), "the number of copies is less than 1");
+}
+
+TEST_F(NoLabelTest, TheSourceCannotBeRead) {
+  AddField();
+  Merge(3);
+  DeleteFile(folder.File("data.csv"));
+  std::filesystem::create_directory(folder.File("data.csv"));
+  EXPECT_EQ(Said(), "the data file " + folder.File("data.csv") + " does not exist");
+  frmMain.lblFileName.SetCaption("");
+  EXPECT_EQ(Said(), "no data file is chosen");
+}
+
+TEST_F(NoLabelTest, NoTableIsChosenOrItCannotBeRead) {
+  AddField();
+  const std::string path = Written("a.mdb", "");
+  databases.files[path] = {{{"Two Words", {"x"}, {{"1"}, {"2"}}}}};
+  Browse(kDatabaseSource, path);
+  frmMain.chkMailshot.SetValue(1);
+  EXPECT_EQ(Said(), "no table of the data file " + path + " is chosen");
+  frmMain.cboRSet.UserChoose(0);
+  EXPECT_EQ(Said(), "the table Two Words of the data file " + path + " cannot be read");
+}
+
+TEST_F(NoLabelTest, WhoeverEndedTheJobKnows) {
+  AddSerial();
+  progress.cancel_at = 1;
+  Print();
+  progress.cancel_at = 0;
+  FakePrinterList::Lost() = true;
+  Print();
+  FakePrinterList::Lost() = false;
+  EXPECT_TRUE(Log().pages.empty());
+  EXPECT_TRUE(dialogs.messages.empty());
+}
+
+TEST_F(NoLabelTest, ItIsSaidWhenTheJobHasBeenSentAndTheScreenIsBack) {
+  SetRange("2", "1");
+  class Watching : public ScriptedDialogs {
+    Answer MessageBox(const std::string&, MessageButtons, MessageIcon,
+                      const std::string&) override {
+      EXPECT_EQ(CountOf("EndDoc"), 1);
+      EXPECT_EQ(DrawTarget, &frmMain.picBoard.Canvas());
+      ++said;
+      return Answer::kOk;
+    }
+
+   public:
+    int said = 0;
+  } watching;
+  SetDialogs(&watching);
+  Print();
+  SetDialogs(&dialogs);
+  EXPECT_EQ(watching.said, 1);
+}
+
+TEST_F(NoLabelTest, OneLabelIsEnoughToSayNothing) {
+  AddField();
+  Merge(1);
+  Print();
+  EXPECT_EQ(Printed(), (std::vector<Texts>{{"row 1"}}));
+  EXPECT_TRUE(dialogs.messages.empty());
+}
+
+// --- how many labels it will have ---------------------------------------------------------------
+
+// What is foretold is what comes out, whatever stands in the boxes.
+TEST_F(PrintJobTest, TheLabelsForetoldAreThoseThatComeOut) {
+  std::mt19937 random(7);
+  const auto below = [&](int limit) {
+    return std::uniform_int_distribution<int>(0, limit - 1)(random);
+  };
+  AddField();
+  double most = 0;
+  for (int round = 0; round < 400; ++round) {
+    Merge(below(30));
+    frmMain.chkMailshot.SetValue(below(3) == 0 ? 0 : 1);
+    frmMain.chkFirstRow.SetValue(below(2));
+    SetCells(below(4), below(4));
+    SetRange(FormatNumber(below(12) / 2.0), FormatNumber(below(24) / 2.0));
+    frmMain.txtNoCopies.SetText(std::to_string(below(6)));
+    const double foretold = LabelsOfJob();
+    const std::int64_t redraws = RedrawCount;
+    Print();
+    ASSERT_EQ(foretold, RedrawCount - redraws - 1)
+        << frmMain.txtLabLayout(0).Text() << " by " << frmMain.txtLabLayout(1).Text() << ", from "
+        << frmMain.txtPrintFrom.Text() << " to " << frmMain.txtPrintTo.Text() << ", "
+        << frmMain.txtNoCopies.Text() << " copies of " << RecordCount << " records";
+    most = std::max(most, foretold);
+  }
+  EXPECT_GT(most, 30);
+}
+
+TEST_F(PrintJobTest, NoNumberIsTooLargeToForetell) {
+  SetCells(2, 7);
+  SetRange("1", "999999999999");
+  frmMain.txtNoCopies.SetText("2000000000");
+  EXPECT_EQ(LabelsOfJob(), 14 * 999999999999.0);
+  Merge(20);
+  EXPECT_EQ(LabelsOfJob(), 20 * 2000000000.0);
 }
 
 // --- numbers ------------------------------------------------------------------------------------
@@ -405,13 +570,18 @@ TEST_F(PrintJobTest, AnUnreadablePictureDoesNotKeepTheFactorOfThePage) {
   EXPECT_EQ(RedrawSkip, -1);
 }
 
-TEST_F(PrintJobTest, AMissingPictureIsToldForEachLabelAndTheRestIsPrinted) {
+TEST_F(PrintJobTest, AMissingPictureIsToldOnceAndTheRestIsPrinted) {
   Add(kPicture, "/nowhere/logo.gif");
+  Add(kPicture, "/nowhere/other.gif");
   AddSerial();
-  SetCells(1, 2);
   Print();
-  EXPECT_EQ(Printed().at(0).size(), 2U);
-  EXPECT_EQ(dialogs.messages.size(), 3U) << "two labels and the screen";
+  EXPECT_EQ(Printed().at(0).size(), 14U);
+  EXPECT_EQ(Messages(), (Texts{"The file: /nowhere/logo.gif has been removed",
+                               "The file: /nowhere/other.gif has been removed"}));
+  Print();
+  EXPECT_EQ(dialogs.messages.size(), 4U) << "the next job tells it again";
+  RedrawBoard();
+  EXPECT_EQ(dialogs.messages.size(), 6U) << "and so does each redraw of the screen";
 }
 
 // --- faults -------------------------------------------------------------------------------------
@@ -652,6 +822,13 @@ TEST_F(PreviewLoopTest, ARangeThatBeginsLaterShowsAnEmptyPage) {
   SetRange("2", "5");
   PrintLabels();
   EXPECT_TRUE(paper.Texts().empty());
+  EXPECT_TRUE(dialogs.messages.empty()) << "the page shows it";
+}
+
+TEST_F(PreviewLoopTest, AMissingPictureIsToldOnce) {
+  Add(kPicture, "/nowhere/logo.gif");
+  PrintLabels();
+  EXPECT_EQ(dialogs.messages.size(), 1U);
 }
 
 // Or the next start gives the same numbers out again.

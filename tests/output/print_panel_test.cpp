@@ -100,16 +100,44 @@ TEST_F(PrintPanelTest, MergingIsOfferedAndTickedOnlyWithADataFile) {
   EXPECT_EQ(frmMain.chkMailshot.Value(), 1);
 }
 
-// Hidden with its tick: a job still merges, from nothing.
-TEST_F(PrintPanelTest, ATickThatIsHiddenStaysAndPrintsNothing) {
+// A hidden tick would make the job merge, from nothing.
+TEST_F(PrintPanelTest, WithoutADataFileTheTickGoesWithItsBox) {
   OpenWith(14);
   AddSerial();
   frmMain.lblFileName.SetCaption("");
   frmMain.mnuFilePrint.Press();
   EXPECT_FALSE(frmMain.chkMailshot.Visible());
-  EXPECT_EQ(frmMain.chkMailshot.Value(), 1);
+  EXPECT_EQ(frmMain.chkMailshot.Value(), 0);
   Print();
-  EXPECT_TRUE(Log().pages.empty());
+  EXPECT_EQ(Printed(), (std::vector<Texts>{Run("", 1001, 1014)}));
+  EXPECT_TRUE(dialogs.messages.empty());
+}
+
+TEST_F(PrintPanelTest, TheBoxForMergingSaysWhichRowComesFirst) {
+  OpenWith(14);
+  EXPECT_EQ(frmMain.chkMailshot.ToolTipText(),
+            "Fill the labels from the data file, beginning with its second row");
+  EXPECT_EQ(frmMain.chkMailshot.SpokenName(),
+            "Include Mailshot Data, beginning with the second row");
+  frmMain.chkFirstRow.SetValue(1);
+  OpenWith(14);
+  EXPECT_EQ(frmMain.chkMailshot.ToolTipText(),
+            "Fill the labels from the data file, beginning with its third row");
+  EXPECT_EQ(frmMain.chkMailshot.SpokenName(),
+            "Include Mailshot Data, beginning with the third row");
+}
+
+// The proposal reaches far beyond the data; this is what will come out.
+TEST_F(PrintPanelTest, ThePanelSaysHowManyLabelsTheJobWillHave) {
+  BrowseCsv("title\na\nb\nc\n");
+  frmMain.mnuFilePrint.Press();
+  EXPECT_EQ(frmMain.lblLabels.Caption(), "Labels: 3");
+  frmMain.chkFirstRow.SetValue(1);
+  frmMain.mnuFilePrint.Press();
+  EXPECT_EQ(frmMain.lblLabels.Caption(), "Labels: 2");
+  frmMain.txtNoCopies.SetText("3");
+  ShowLabelsOfJob();
+  EXPECT_EQ(frmMain.lblLabels.Caption(), "Labels: 6");
 }
 
 TEST_F(PrintPanelTest, ItPrintsNothing) {

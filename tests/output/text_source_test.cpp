@@ -278,6 +278,59 @@ TEST_F(TextSourceTest, EachRowIsUtf8OrTheCodePageByItself) {
   EXPECT_EQ(Merged(), (Texts{"M\u00FCller", "M\u00FCller"}));
 }
 
+// --- projects ---
+
+class SavedTextSourceTest : public TextSourceTest {
+ protected:
+  // Saves a label with this source and goes on to a new one.
+  void SaveAndLeave(SourceKind kind, const std::string& path) {
+    Browse(kind, path);
+    ProjectPath = folder.File("label.twp");
+    SaveProject(kFalse);
+    mnuFileNew_Click();
+    dialogs.requests.clear();
+    dialogs.messages.clear();
+  }
+};
+
+TEST_F(SavedTextSourceTest, ALoadBringsColumnsAndRows) {
+  for (const SourceKind kind : {kCommaSource, kTabSource}) {
+    const std::string comma = kind == kCommaSource ? "," : "\t";
+    SaveAndLeave(kind, Written(kind == kCommaSource ? "a.csv" : "a.txt",
+                               "Name" + comma + "Town\nAda" + comma + "Leeds\nBob\n"));
+    EXPECT_EQ(ListedFields(), Texts{});
+    LoadProject(folder.File("label.twp"));
+    EXPECT_EQ(Columns(), (Texts{"Name", "Town"}));
+    EXPECT_EQ(ListedFields(), (Texts{"Name", "Town"}));
+    EXPECT_EQ(RecordCount, 3);
+    EXPECT_EQ(frmMain.lblRCount.Caption(), "Records: 3");
+    EXPECT_EQ(Merged(), (Texts{"Ada", "Bob"}));
+    EXPECT_TRUE(dialogs.requests.empty()) << "nobody is asked for the file";
+    EXPECT_TRUE(dialogs.messages.empty());
+  }
+}
+
+TEST_F(SavedTextSourceTest, LoadedAgainTheColumnsAreThoseOfTheFileAlone) {
+  SaveAndLeave(kCommaSource, Written("a.csv", "Name,Town\nAda,Leeds\n"));
+  LoadProject(folder.File("label.twp"));
+  LoadProject(folder.File("label.twp"));
+  EXPECT_EQ(ListedFields(), (Texts{"Name", "Town"}));
+  EXPECT_EQ(RecordCount, 2);
+}
+
+TEST_F(SavedTextSourceTest, AFileThatHasVanishedHasNoColumnsAndNoRows) {
+  SaveAndLeave(kCommaSource, Written("a.csv", "Name,Town\nAda,Leeds\n"));
+  BrowseCsv("Former\nrow\n");
+  DeleteFile(folder.File("a.csv"));
+  dialogs.answers = {Answer::kYes};
+  LoadProject(folder.File("label.twp"));
+  EXPECT_EQ(frmMain.lblFileName.Caption(), folder.File("a.csv"));
+  EXPECT_EQ(ListedFields(), Texts{});
+  EXPECT_EQ(FieldUB, -1);
+  EXPECT_EQ(RecordCount, -1);
+  EXPECT_EQ(Merged(), Texts{});
+}
+
 // --- files as other programs write them ---
 
 TEST_F(TextSourceTest, AFileInUtf8WithQuotesAndAShortLastLine) {

@@ -43,6 +43,7 @@ TEST(FaultTest, TheTrappedNumbersAreStable) {
   EXPECT_EQ(kBadPicture, 481);
   EXPECT_EQ(kFileNotFound, 53);
   EXPECT_EQ(kPasswordNeeded, 3031);
+  EXPECT_EQ(kLinkedTable, 3044);
   EXPECT_EQ(kDialogCancelled, 32755);
 }
 

@@ -64,7 +64,7 @@ TEST(ReaderProtocolTest, TextLongerThanItsRowFaults) {
 TEST(ReaderProtocolTest, FramesComeOutInPiecesOfAnyLength) {
   const std::string bytes = FrameBytes(FrameKind::kName, "Id") +
                             FrameBytes(FrameKind::kRow, RowContent(kRow)) +
-                            FrameBytes(FrameKind::kEnd, "");
+                            FrameBytes(FrameKind::kLinked, "Far") + FrameBytes(FrameKind::kEnd, "");
   for (std::size_t piece = 1; piece <= bytes.size(); ++piece) {
     FrameReader reader;
     std::vector<Frame> frames;
@@ -72,11 +72,12 @@ TEST(ReaderProtocolTest, FramesComeOutInPiecesOfAnyLength) {
       reader.Feed(std::string_view(bytes).substr(at, piece));
       while (std::optional<Frame> frame = reader.Next()) frames.push_back(*frame);
     }
-    ASSERT_EQ(frames.size(), 3U) << "pieces of " << piece;
+    ASSERT_EQ(frames.size(), 4U) << "pieces of " << piece;
     EXPECT_EQ(frames[0].kind, FrameKind::kName);
     EXPECT_EQ(frames[0].content, "Id");
     EXPECT_EQ(RowValues(frames[1].content), kRow);
-    EXPECT_EQ(frames[2].kind, FrameKind::kEnd);
+    EXPECT_EQ(frames[2].kind, FrameKind::kLinked);
+    EXPECT_EQ(frames[3].kind, FrameKind::kEnd);
   }
 }
 

@@ -13,6 +13,7 @@
 #include "platform/files.h"
 #include "print/code_128_reader.h"
 #include "print/print_fixture.h"
+#include "support/fake_database.h"
 #include "support/pdf_reader.h"
 
 namespace tagwright {
@@ -177,6 +178,91 @@ TEST_F(SheetsTest, TheProposedPagesReachBeyondTheLastRow) {
   EXPECT_EQ(frmMain.txtPrintFrom.Text(), "1");
   EXPECT_GE(std::stoi(frmMain.txtPrintTo.Text()), 4);
   EXPECT_EQ(frmMain.chkMailshot.Value(), 1);
+}
+
+// --- what is merged -----------------------------------------------------------------------------
+
+// The tick for merging goes with the data that it was for.
+TEST_F(SheetsTest, ANewLabelAfterAMergePrintsEachOfItsCells) {
+  DesignLabel(3);
+  PrintToPdf(Pdf());
+  frmMain.mnuFileNew.Press();
+  Add(kText, kTextLeft, kFirstLine, 60, 5).Text = "plain";
+  frmMain.mnuFilePrint.Press();
+  const std::string plain = folder.File("plain.pdf");
+  PrintToPdf(plain);
+  EXPECT_TRUE(dialogs.messages.empty());
+  const std::vector<PdfMark> texts = ReadPdf(plain).Of(PdfMark::What::kText);
+  EXPECT_EQ(texts.size(), static_cast<std::size_t>(SheetOf14::kCells));
+}
+
+TEST_F(SheetsTest, AJobWithoutALabelSaysWhyAndKeepsTheFormerFile) {
+  DesignLabel(3);
+  PrintToPdf(Pdf());
+  DesignLabel(0);
+  PrintToPdf(Pdf());
+  ASSERT_EQ(dialogs.messages.size(), 1u);
+  EXPECT_EQ(dialogs.messages[0].text,
+            "No label was printed: no rows are left in the data file " + folder.File("rows.csv"));
+  ExpectEveryRowOnItsCell(Pdf(), 3);
+}
+
+TEST_F(SheetsTest, ASavedLabelPrintsTheRowsOfItsTextFile) {
+  constexpr int kRows = SheetOf14::kCells + 5;
+  DesignLabel(kRows);
+  dialogs.files.push_back(folder.File("saved.twp"));
+  frmMain.mnuFileSaveAs.SetEnabled(true);
+  frmMain.mnuFileSaveAs.Press();
+  frmMain.mnuFileNew.Press();
+  dialogs.files.push_back(folder.File("saved.twp"));
+  frmMain.mnuFileOpen.Press();
+  frmMain.mnuFilePrint.Press();
+  EXPECT_EQ(frmMain.lblLabels.Caption(), "Labels: " + std::to_string(kRows));
+  PrintToPdf(Pdf());
+  EXPECT_TRUE(dialogs.messages.empty());
+  ExpectEveryRowOnItsCell(Pdf(), kRows);
+}
+
+TEST_F(SheetsTest, ATextFileThatHasVanishedSinceIsToldAtThePrint) {
+  DesignLabel(3);
+  dialogs.files.push_back(folder.File("saved.twp"));
+  frmMain.mnuFileSaveAs.SetEnabled(true);
+  frmMain.mnuFileSaveAs.Press();
+  std::filesystem::remove(folder.File("rows.csv"));
+  dialogs.files.push_back(folder.File("saved.twp"));
+  dialogs.answers = {Answer::kYes};  // the label is opened without its data
+  frmMain.mnuFileOpen.Press();
+  dialogs.messages.clear();
+  frmMain.mnuFilePrint.Press();
+  PrintToPdf(Pdf());
+  ASSERT_EQ(dialogs.messages.size(), 1u);
+  EXPECT_EQ(dialogs.messages[0].text,
+            "No label was printed: the data file " + folder.File("rows.csv") + " does not exist");
+  EXPECT_FALSE(std::filesystem::exists(Pdf()));
+}
+
+// The rows of the database before it would come out as labels.
+TEST_F(SheetsTest, AFileThatIsNoDatabasePrintsNoLabels) {
+  constexpr int kDatabase = 0;
+  FakeDatabases databases;
+  const std::string good = folder.File("people.mdb"), bad = folder.File("other.mdb");
+  WriteFile(good, "");
+  WriteFile(bad, "GIF89a");
+  databases.files[good] = {{{"People", {"Name"}, {{"Ada"}, {"Bob"}, {"Cyd"}}}}};
+  databases.files[bad] = {{}, "", true};
+  dialogs.files = {good, bad};
+  frmMain.cboImportType.SetListIndex(kDatabase);
+  frmMain.cboRSet.SetListIndex(0);
+  AddField(0, kTextLeft, kFirstLine, 60, kPoints);
+  frmMain.cboImportType.SetListIndex(kDatabase);
+  ASSERT_EQ(dialogs.messages.size(), 1u);
+  EXPECT_EQ(dialogs.messages[0].text, "The file " + bad + " cannot be read as a database");
+  frmMain.mnuFilePrint.Press();
+  PrintToPdf(Pdf());
+  ASSERT_EQ(dialogs.messages.size(), 2u);
+  EXPECT_EQ(dialogs.messages[1].text,
+            "No label was printed: no table of the data file " + bad + " is chosen");
+  EXPECT_FALSE(std::filesystem::exists(Pdf()));
 }
 
 // --- the file -----------------------------------------------------------------------------------

@@ -152,6 +152,36 @@ TEST_F(WiringTest, ATableGoesInAndATableOfAnotherKindReplacesIt) {
   EXPECT_EQ(CurrentTool, 20);
 }
 
+TEST_F(WiringTest, ThePrintPanelFollowsItsFieldsAndTheLabel) {
+  WriteFile(folder.File("a.csv"), "Name\nAda\nBob\n");
+  dialogs.files = {folder.File("a.csv")};
+  frmMain.cboImportType.UserChoose(1);
+  frmMain.mnuFilePrint.Press();
+  EXPECT_EQ(frmMain.lblLabels.Caption(), "Labels: 2");
+  frmMain.txtNoCopies.SetText("3");
+  EXPECT_EQ(frmMain.lblLabels.Caption(), "Labels: 6");
+  frmMain.txtPrintFrom.SetText("2");
+  EXPECT_EQ(frmMain.lblLabels.Caption(), "Labels: 0");
+  frmMain.chkMailshot.Press();
+  frmMain.txtPrintTo.SetText("2");
+  EXPECT_EQ(frmMain.lblLabels.Caption(), "Labels: 14");
+  frmMain.chkMailshot.Press();
+  EXPECT_EQ(frmMain.lblLabels.Caption(), "Labels: 0");
+
+  dialogs.files = {folder.File("label.twp")};
+  frmMain.mnuFileSaveAs.SetEnabled(true);
+  frmMain.mnuFileSaveAs.Press();
+  frmMain.mnuFileNew.Press();
+  EXPECT_FALSE(frmMain.chkMailshot.Visible());
+  EXPECT_EQ(frmMain.chkMailshot.Value(), 0);
+  EXPECT_EQ(frmMain.lblLabels.Caption(), "Labels: 14");
+  frmMain.txtPrintFrom.SetText("1");
+  frmMain.mnuFileOld(0).Press();
+  EXPECT_TRUE(frmMain.chkMailshot.Visible());
+  EXPECT_EQ(frmMain.chkMailshot.Value(), 1);
+  EXPECT_EQ(frmMain.lblLabels.Caption(), "Labels: 6");
+}
+
 TEST_F(WiringTest, TheRunningNumberIsSetInItsWindow) {
   Load(frmSerialNumber);
   frmSerialNumber.txtSerPref.UserType("AB");

@@ -82,7 +82,9 @@ class FakeOpened : public Database {
  private:
   const FakeTable& Named(const std::string& name) const {
     for (const FakeTable& table : file_.tables) {
-      if (table.name == name) return table;
+      if (table.name != name) continue;
+      if (table.linked) RaiseFault(kLinkedTable);
+      return table;
     }
     RaiseFault(kDatabaseFault);
   }

@@ -17,6 +17,7 @@ struct FakeTable {
   std::string name;
   std::vector<std::string> fields;
   std::vector<FakeRow> rows;
+  bool linked = false;  // lies in another file
 };
 
 struct FakeFile {

@@ -205,7 +205,7 @@ void JetWriter::PutColumn(std::string& out, const JetColumn& column, std::size_t
       static_cast<unsigned char>(IsFixed(column.type) ? kFixed | kMayBeNull : kMayBeNull));
   Put(entry, IsThree() ? 14 : 21, static_cast<std::uint16_t>(fixed));
   const std::size_t size = IsFixed(column.type) ? FixedBytes(column.type) : 255;
-  Put(entry, IsThree() ? 16 : 23, static_cast<std::uint16_t>(size));
+  Put(entry, IsThree() ? 16 : 23, column.stated_size.value_or(static_cast<std::uint16_t>(size)));
   out += entry;
 }
 

@@ -31,7 +31,8 @@ enum class JetType : unsigned char {
 struct JetColumn {
   std::string name;
   JetType type;
-  int scale = 0;  // of kNumeric: digits after the point
+  int scale = 0;                                  // of kNumeric: digits after the point
+  std::optional<std::uint16_t> stated_size = {};  // the definition's, when it is to be wrong
 };
 
 // By type: bool; whole numbers, currency (in ten-thousandths) and numeric (in units of its scale);
@@ -49,7 +50,7 @@ struct JetTable {
 // An object that is no table: a line of the catalogue.
 struct JetObject {
   std::string name;
-  std::int64_t type;  // 5 a query, 6 a linked table
+  std::int64_t type;  // 5 a query; 6 and 4 a linked table, of a file of this format or another
 };
 
 struct JetDatabase {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <fstream>
 
 #include "window/steps.h"
@@ -67,6 +68,100 @@ TEST_F(DataSourceWindow, ACancelledDialogKeepsTheSource) {
   WaitForWindow("Tagwright");
   EXPECT_EQ(Find(program, "Filename", "label").description, data);
   EXPECT_EQ(ListedFields(program), (std::vector<std::string>{"Name", "Town"}));
+}
+
+class DatabaseWindow : public DataSourceWindow {
+ protected:
+  DatabaseWindow() { Shell(TAGWRIGHT_SAMPLE_DATABASE " '" + database + "'"); }
+
+  // As BrowseToData, for a file that is answered with a message.
+  static std::string BrowseToRefused(const Program& program, const std::string& path) {
+    Click(Find(program, "Load File").box);
+    WaitForWindow("Open");
+    Type(path);
+    Key("Return");
+    const std::string said = AnswerMessage(program);
+    WaitForWindow("Tagwright");
+    return said;
+  }
+
+  // Chooses the database and its table of people.
+  void OpenPeople(const Program& program) {
+    Key("ctrl+i");
+    BrowseToData(program, "Microsoft Access 97 Database", database);
+    ChooseRow(program, "Recordset", "People");
+    WaitForLabel(program, "Records", "Records: 3");
+    ASSERT_EQ(ListedFields(program), (std::vector<std::string>{"Number", "Name"}));
+  }
+
+  static void ExpectNoSource(const Program& program) {
+    EXPECT_EQ(Find(program, "Records", "label").description, "");
+    EXPECT_EQ(ListedFields(program), std::vector<std::string>{});
+  }
+
+  std::string database = folder + "/people.mdb";
+};
+
+// Nothing of the database that was open is left to print labels from.
+TEST_F(DatabaseWindow, AFileThatIsNoDatabaseLeavesNothingOfTheOneBefore) {
+  const std::string other = folder + "/other.mdb";
+  std::ofstream(other, std::ios::binary) << "GIF89a";
+  Program program(folder);
+  OpenPeople(program);
+  EXPECT_EQ(BrowseToRefused(program, other), "The file " + other + " cannot be read as a database");
+  EXPECT_EQ(Find(program, "Filename", "label").description, other);
+  ExpectNoSource(program);
+  ChooseMenu(program, {"File", "Print"});
+  EXPECT_EQ(Find(program, "Labels", "label").description, "Labels: 0");
+}
+
+TEST_F(DatabaseWindow, WithoutTheReaderADatabaseIsToldToBeUnreadable) {
+  Program program(folder);
+  OpenPeople(program);
+  std::filesystem::remove(folder + "/tagwright-reader");
+  const std::string said = BrowseToRefused(program, database);
+  EXPECT_TRUE(said.starts_with("The file " + database + " cannot be read as a database")) << said;
+  EXPECT_NE(said.find("does not start: " + folder + "/tagwright-reader"), std::string::npos);
+  ExpectNoSource(program);
+}
+
+TEST_F(DatabaseWindow, ALinkedTableIsListedAndSaysWhereItLies) {
+  Program program(folder);
+  OpenPeople(program);
+  ChooseRow(program, "Recordset", "Far");
+  EXPECT_EQ(AnswerMessage(program), "The table Far lies in another file");
+  WaitForLabel(program, "Records", "Records: 0");
+  EXPECT_EQ(ListedFields(program), std::vector<std::string>{});
+}
+
+// A label with a text source, saved and opened again, has its columns and rows, and prints them.
+TEST_F(DataSourceWindow, ASavedLabelBringsItsTextFileBack) {
+  const std::string saved = folder + "/people.twp", pdf = folder + "/people.pdf";
+  Program program(folder);
+  Key("ctrl+i");
+  BrowseToData(program, "Comma Separated Text File", data);
+  WaitForLabel(program, "Records", "Records: 3");
+  Click(Find(program, "First Row contains Field Names").box);  // a change, which can be saved
+  Click(Find(program, "First Row contains Field Names").box);
+  WaitFor("the entry to save", [&] {
+    ChooseMenu(program, {"File"});
+    const bool enabled = Find(program, "Save As", "menu item").enabled;
+    Key("Escape");
+    return enabled;
+  });
+  SaveProjectAs(program, saved);
+  Key("ctrl+n");
+  WaitFor("a new label", [&] { return program.Title().find("[untitled]") != std::string::npos; });
+  OpenProject(program, saved);
+  Key("ctrl+i");
+  WaitForLabel(program, "Records", "Records: 3");
+  EXPECT_EQ(ListedFields(program), (std::vector<std::string>{"Name", "Town"}));
+  ChooseMenu(program, {"File", "Print"});
+  EXPECT_EQ(Find(program, "Labels", "label").description, "Labels: 2");
+  EXPECT_TRUE(Shows(program, "Include Mailshot Data, beginning with the second row"));
+  StartPrintToPdf(program, pdf);
+  WaitForWindow("Tagwright");
+  WaitFor("the sheet", [&] { return std::filesystem::exists(pdf); });
 }
 
 TEST_F(DataSourceWindow, TheRunningNumberIsChangedSavedAndFoundInTheLabel) {

@@ -49,7 +49,7 @@ TEST_F(FilesWindow, WhatCouldNotBeSavedIsSaidAndAskedForBeforeTheProgramGoes) {
   Key("ctrl+s");
   WaitForNote(program, "Not saved: Path/File access error");
   Key("ctrl+q");
-  Answer(program, "Yes");
+  AnswerMessage(program, "Yes");
   EXPECT_TRUE(program.Running()) << "nothing has been saved yet";
 
   fs::create_directory(folder + "/labels");

@@ -66,6 +66,53 @@ TEST_F(PrintWindow, ACancelledDialogPrintsNothingAndTheNextPressAsksAgain) {
   EXPECT_EQ(Texts(pdf).find("Jar B-1015"), std::string::npos);
 }
 
+// The tick for merging goes with the data that it was for.
+TEST_F(PrintWindow, ANewLabelAfterAMergePrintsItsSheet) {
+  const std::string second = folder + "/second.pdf";
+  Program program(folder);
+  OpenProject(program, SampleLabel("Address label.twp"));
+  StartPrintToPdf(program, pdf);
+  WaitForWindow("Tagwright");
+  WaitFor("the sheet", [&] { return fs::exists(pdf); });
+  EXPECT_EQ(Pages(pdf), 1);
+  Key("ctrl+n");
+  WaitFor("a new label", [&] { return program.Title().find("[untitled]") != std::string::npos; });
+  ChooseMenu(program, {"File", "Print"});
+  EXPECT_EQ(Find(program, "Labels", "label").description, "Labels: 14");
+  EXPECT_FALSE(Shows(program, "Include Mailshot Data, beginning with the second row"));
+  StartPrintToPdf(program, second);
+  WaitForWindow("Tagwright");
+  WaitFor("the sheet", [&] { return fs::exists(second); });
+  EXPECT_EQ(Pages(second), 1);
+}
+
+TEST_F(PrintWindow, AJobWithoutALabelSaysWhy) {
+  const std::string rows = folder + "/titles.csv";
+  std::ofstream(rows) << "Name,Town\n";
+  Program program(folder);
+  Key("ctrl+i");
+  BrowseToData(program, "Comma Separated Text File", rows);
+  StartPrintToPdf(program, pdf);
+  EXPECT_EQ(AnswerMessage(program),
+            "No label was printed: no rows are left in the data file " + rows);
+  WaitForWindow("Tagwright");
+  EXPECT_FALSE(fs::exists(pdf));
+}
+
+// The sheet is there before the job has quite ended: who presses then is not told to press again.
+TEST_F(PrintWindow, APressRightAfterAShortJobCounts) {
+  Program program(folder);
+  OpenProject(program, SampleLabel("Product label.twp"));
+  ChooseMenu(program, {"File", "Print"});
+  const Box numbers = Find(program, "Serial Numbers", "push button").box;
+  StartPrintToPdf(program, pdf);
+  WaitFor("the sheet", [&] { return fs::exists(pdf); });
+  Click(numbers);
+  WaitForWindow("Serial Numbers");
+  Key("Escape");
+  WaitForWindow("Tagwright");
+}
+
 // A job that takes its time: its window shows the pages done, and Escape in it ends the job. What
 // has been fed stands.
 TEST_F(PrintWindow, ALongJobIsCancelledAndItsPagesStand) {

@@ -54,15 +54,21 @@ void StartPrintToPdf(const Program& program, const std::string& path) {
   Key("Return");
 }
 
-void Answer(const Program& program, const std::string& button) {
+std::string AnswerMessage(const Program& program, const std::string& button) {
   std::string box;  // nothing is active for a moment while one window gives way to another
   WaitFor("the message to have the keyboard", [&] {
     box = Shell("xdotool getactivewindow", false);
     return !box.empty() && box != program.Window();
   });
-  const Spoken found = Find(program, button, "push button");
-  Click(found.box);
+  const Spoken pressed = Find(program, button, "push button");
+  std::string text;  // the last one before the button
+  for (const Spoken& spoken : Everything(program)) {
+    if (spoken.role == "label" && spoken.showing && !spoken.name.empty()) text = spoken.name;
+    if (spoken.name == button && spoken.role == pressed.role && spoken.showing) break;
+  }
+  Click(pressed.box);
   WaitFor("the message to go", [&] { return Shell("xdotool getactivewindow", false) != box; });
+  return text;
 }
 
 int Leave(Program& program) {

@@ -22,8 +22,8 @@ void BrowseToData(const Program& program, const std::string& kind, const std::st
 // Opens the print panel, presses Print for "Print to PDF" and names the file: the job runs then.
 void StartPrintToPdf(const Program& program, const std::string& path);
 
-// Presses a message box's button and waits for that box to go.
-void Answer(const Program& program, const std::string& button);
+// Answers the message that shows. Returns what it says.
+std::string AnswerMessage(const Program& program, const std::string& button = "OK");
 
 // Leaves with File > Exit. Returns the exit code.
 int Leave(Program& program);

@@ -247,9 +247,9 @@ TEST_F(Window, ALabelWithoutItsPictureAndDataOpensWithWhatIsLeft) {
   Type(travelled);
   Key("Return");
   // Choosing the layout redraws, which misses the picture before anything is asked.
-  Answer(program, "OK");
-  Answer(program, "Yes");  // go on without the data
-  Answer(program, "OK");   // the picture is taken off the label
+  AnswerMessage(program, "OK");
+  AnswerMessage(program, "Yes");  // go on without the data
+  AnswerMessage(program, "OK");   // the picture is taken off the label
   WaitFor("the rest of the label", [&] { return Coloured(program, kMist) > 1000; });
 }
 
@@ -260,7 +260,7 @@ TEST_F(Window, TheHelpKeyShowsTheHelpFileOfTheFolder) {
   fs::permissions(viewer, fs::perms::owner_all);
   Program program(folder, {"PATH=" + folder + ":" + std::getenv("PATH")});
   Key("F1");
-  Answer(program, "OK");  // the file is missing
+  AnswerMessage(program, "OK");  // the file is missing
   EXPECT_FALSE(fs::exists(seen));
   std::ofstream(folder + "/twlabel.chm") << "help";
   Key("F1");

@@ -170,6 +170,23 @@ std::vector<std::string> NamesOf(const ReaderProgram& program, std::vector<std::
   return names;
 }
 
+// The tables of an answer, linked ones among them.
+struct Tables {
+  std::vector<std::string> names;
+  std::vector<std::string> linked;  // those of the names that lie in other files
+};
+
+Tables TablesOf(const ReaderProgram& program, const std::string& path) {
+  Reader reader(program, {"tables", path});
+  Tables tables;
+  while (std::optional<Frame> frame = reader.Next()) {
+    if (frame->kind == FrameKind::kRow) RaiseFault(kDatabaseFault);
+    if (frame->kind == FrameKind::kLinked) tables.linked.push_back(frame->content);
+    tables.names.push_back(std::move(frame->content));
+  }
+  return tables;
+}
+
 // --- rows ---------------------------------------------------------------------------------------
 
 class ReaderRecordset : public Recordset {
@@ -259,13 +276,11 @@ std::optional<std::string> ReaderRecordset::Value(int index) {
 class ReaderDatabase : public Database {
  public:
   ReaderDatabase(ReaderProgram program, std::string path)
-      : program_(std::move(program)),
-        path_(std::move(path)),
-        tables_(NamesOf(program_, {"tables", path_})) {
-    if (tables_.empty()) RaiseFault(kDatabaseFault);  // a catalogue lists at least itself
+      : program_(std::move(program)), path_(std::move(path)), tables_(TablesOf(program_, path_)) {
+    if (tables_.names.empty()) RaiseFault(kDatabaseFault);  // a catalogue lists at least itself
   }
 
-  std::vector<std::string> TableNames() override { return tables_; }
+  std::vector<std::string> TableNames() override { return tables_.names; }
 
   std::vector<std::string> FieldNames(const std::string& table) override {
     return NamesOf(program_, {"fields", path_, Existing(table)});
@@ -279,19 +294,23 @@ class ReaderDatabase : public Database {
  private:
   // The table that `name` means: this one, or the first that differs only in case.
   const std::string& Existing(const std::string& name) const {
-    auto table = std::find(tables_.begin(), tables_.end(), name);
-    if (table == tables_.end()) {
-      table = std::find_if(tables_.begin(), tables_.end(), [&](const std::string& other) {
+    const std::vector<std::string>& names = tables_.names;
+    auto table = std::find(names.begin(), names.end(), name);
+    if (table == names.end()) {
+      table = std::find_if(names.begin(), names.end(), [&](const std::string& other) {
         return EqualIgnoringCase(other, name);
       });
     }
-    if (table == tables_.end()) RaiseFault(kDatabaseFault);
+    if (table == names.end()) RaiseFault(kDatabaseFault);
+    if (std::find(tables_.linked.begin(), tables_.linked.end(), *table) != tables_.linked.end()) {
+      RaiseFault(kLinkedTable);
+    }
     return *table;
   }
 
   ReaderProgram program_;
   std::string path_;
-  std::vector<std::string> tables_;
+  Tables tables_;
 };
 
 // What goes wrong with reading the header is no readable database; only a missing file keeps its

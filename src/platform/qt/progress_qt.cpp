@@ -118,8 +118,12 @@ class JobWindow : public QObject, public ProgressView {
     began_.start();
     looked_.start();
   }
-  // The presses that came while nobody looked were for a window that was busy.
-  ~JobWindow() override { LetEventsRun(); }
+  // The presses on the main window that came while this one stood over it were for a window that
+  // was busy. A job without a window has ended for who sees its last page: what is pressed from
+  // then on counts.
+  ~JobWindow() override {
+    if (window_.isVisible()) DropPresses();
+  }
 
   void Tell(const std::string& text, double share) override {
     text_ = text;
@@ -130,7 +134,7 @@ class JobWindow : public QObject, public ProgressView {
     if (looked_.elapsed() < kEvery) return !window_.Cancelled();
     window_.Show(ToQt(text_), share_);
     if (!window_.isVisible() && began_.elapsed() >= kShownAfter) Open();
-    if (window_.isVisible()) LetEventsRun();
+    DropPresses();
     looked_.start();
     return !window_.Cancelled();
   }
@@ -147,7 +151,8 @@ class JobWindow : public QObject, public ProgressView {
     window_.activateWindow();
   }
 
-  void LetEventsRun() {
+  // Lets the events run, but for what the user begins outside of the job's window.
+  void DropPresses() {
     qApp->installEventFilter(this);
     QCoreApplication::processEvents();
     qApp->removeEventFilter(this);

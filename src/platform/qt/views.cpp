@@ -244,6 +244,7 @@ void WidgetView::Changed(const Control& control, Aspect aspect) {
       break;
     case Aspect::kText:
       if (!control_.ToolTipText().empty()) widget_.setToolTip(ToQt(control_.ToolTipText()));
+      if (!control_.SpokenName().empty()) widget_.setAccessibleName(ToQt(control_.SpokenName()));
       break;
     case Aspect::kLook:
       RenderPointer();

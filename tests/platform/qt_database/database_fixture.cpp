@@ -34,7 +34,8 @@ JetDatabase SampleDatabase(int version) {
   const std::string guid("\x33\x22\x11\x00\x55\x44\x77\x66\x88\x99\xAA\xBB\xCC\xDD\xEE\xFF", 16);
   const auto whole = [](std::int64_t value) { return JetCell(value); };
   JetDatabase database{.version = version};
-  database.others = {{"Kunden gefiltert", 5}, {"Elsewhere", 6}};
+  database.others = {
+      {"Kunden gefiltert", 5}, {"Elsewhere", 6}, {"Served", 4}, {"Etiketten", -32764}};
   database.tables = {
       {"Items",
        columns,

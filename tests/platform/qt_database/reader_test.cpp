@@ -135,6 +135,12 @@ TEST_F(ReaderTest, NameAmongTheRowsIsAFault) {
   EXPECT_EQ(FaultOf([&] { rows->MoveNext(); }), kDatabaseFault);
 }
 
+TEST_F(ReaderTest, LinkedTableAmongTheFieldsIsAFault) {
+  Say("fields", Name("A") + FrameBytes(FrameKind::kLinked, "B") + kEnd);
+  Install("", "");
+  EXPECT_EQ(FaultOf([&] { Open(database_)->FieldNames("T"); }), kDatabaseFault);
+}
+
 TEST_F(ReaderTest, RowAmongTheNamesIsAFault) {
   Say("tables", Name("T") + Row({std::string("1")}) + kEnd);
   Install("", "");

@@ -60,6 +60,14 @@ TEST_F(BinderTest, EveryControlThatIsSeenHasASpokenName) {
   }
 }
 
+TEST_F(BinderTest, ASpokenNameThatTheProgramGivesIsHeard) {
+  frmMain.chkMailshot.SetSpokenName("from the third row");
+  EXPECT_EQ(Find("chkMailshot").accessibleName(), "from the third row");
+  frmMain.chkMailshot.SetToolTipText("seen");
+  EXPECT_EQ(Find("chkMailshot").accessibleName(), "from the third row");
+  EXPECT_EQ(Find("chkMailshot").toolTip(), "seen");
+}
+
 TEST_F(BinderTest, EveryButtonAndFieldSaysWhatItIsFor) {
   for (const Control* control : frmMain.AllControls()) {
     const bool acts = dynamic_cast<const CommandButton*>(control) ||

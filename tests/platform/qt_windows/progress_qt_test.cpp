@@ -3,6 +3,7 @@
 #include <QDialog>
 #include <QElapsedTimer>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTimer>
@@ -95,6 +96,60 @@ TEST_F(ProgressQtTest, PressesAndKeysOnTheMainWindowGoNowhere) {
   EXPECT_EQ(presses, 0);
   Click("cmdPrint");
   EXPECT_EQ(presses, 1) << "afterwards it works again";
+}
+
+// What a hand does while the program is busy: it waits in the queue until somebody looks.
+void PressLater(QWidget& button) {
+  const QPointF middle = QRectF(button.rect()).center();
+  const QPointF on_screen = button.mapToGlobal(middle);
+  for (const bool down : {true, false}) {
+    QCoreApplication::postEvent(
+        &button, new QMouseEvent(down ? QEvent::MouseButtonPress : QEvent::MouseButtonRelease,
+                                 middle, on_screen, Qt::LeftButton,
+                                 down ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier));
+  }
+}
+
+TEST_F(ProgressQtTest, APressAfterTheLastPageOfAShortJobCounts) {
+  int presses = 0;
+  Front(frmMain.picPrint);
+  frmMain.cmdPrint.Events().Click = [&] { ++presses; };
+  RunHandler([&] {
+    Progress progress("Printing");
+    EXPECT_TRUE(progress.GoesOn());
+    PressLater(Find("cmdPrint"));
+  });
+  EXPECT_EQ(presses, 0) << "the job has its handler still";
+  Settle();
+  EXPECT_EQ(presses, 1);
+}
+
+TEST_F(ProgressQtTest, APressInTheMidstOfAShortJobGoesNowhere) {
+  int presses = 0;
+  Front(frmMain.picPrint);
+  frmMain.cmdPrint.Events().Click = [&] { ++presses; };
+  RunHandler([&] {
+    Progress progress("Printing");
+    PressLater(Find("cmdPrint"));
+    QElapsedTimer since;
+    for (since.start(); since.elapsed() < 100;) progress.GoesOn();
+    EXPECT_EQ(Shown(), nullptr);
+  });
+  Settle();
+  EXPECT_EQ(presses, 0);
+}
+
+TEST_F(ProgressQtTest, APressUnderTheWindowOfAJobGoesNowhereToItsEnd) {
+  int presses = 0;
+  Front(frmMain.picPrint);
+  frmMain.cmdPrint.Events().Click = [&] { ++presses; };
+  EXPECT_TRUE(RunJob([&](bool) {
+    if (!Shown()) return false;
+    PressLater(Find("cmdPrint"));
+    return true;
+  }));
+  Settle();
+  EXPECT_EQ(presses, 0);
 }
 
 TEST_F(ProgressQtTest, ClosingTheMainWindowWaitsForTheJob) {

@@ -1,0 +1,36 @@
+#include "document/source_state.h"
+
+#include "document/objects.h"
+#include "document/project_file.h"
+#include "forms/frmMain.h"
+#include "platform/dialogs.h"
+
+namespace tagwright {
+
+void CloseSource() {
+  SourceRecordset.reset();
+  SourceDatabase.reset();
+  SourceTable = {};
+  CurrentTable.clear();
+  DatabasePassword.clear();
+  FieldUB = -1;
+  RecordCount = -1;
+  frmMain.cboRSet.Clear();
+  frmMain.lstFields.Clear();
+  frmMain.lblRCount.SetCaption("");
+}
+
+void ForgetSource() {
+  CloseSource();
+  frmMain.lblFileName.SetCaption("");
+  frmMain.chkMailshot.SetValue(0);
+  frmMain.chkMailshot.SetVisible(false);
+}
+
+void TellNoDatabase(const std::string& path, const Fault& fault) {
+  const bool says_more = fault.description != FaultDescription(fault.number);
+  MessageBox("The file " + path + " cannot be read as a database" +
+             (says_more ? "\r\n" + fault.description : ""));
+}
+
+}  // namespace tagwright

@@ -1,0 +1,35 @@
+// The data source as its panel and a project carry it, and how it is let go. Choosing one and
+// reading its rows are in output/data_sources.h.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/database.h"
+#include "platform/fault.h"
+
+namespace tagwright {
+
+// A table as its database describes it.
+struct TableDef {
+  std::string Name;
+  std::vector<std::string> Fields;  // names of the columns
+};
+
+inline TableDef SourceTable;                        // the chosen table
+inline std::unique_ptr<Recordset> SourceRecordset;  // its open rows, null none
+
+// Lets go of what a source has given: the database with its password, its tables, the columns, the
+// rows and their count. Whatever comes next, labels never come from a former source.
+void CloseSource();
+
+// No source at all: as CloseSource, and no file is named. Without one there is nothing to merge, so
+// chkMailshot is unticked and hidden.
+void ForgetSource();
+
+// Says that the file `path` cannot be read as a database, and why where the fault knows more than
+// that.
+void TellNoDatabase(const std::string& path, const Fault& fault);
+
+}  // namespace tagwright
