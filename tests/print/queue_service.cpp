@@ -25,7 +25,7 @@ namespace fs = std::filesystem;
 
 constexpr const char* kScheduler = "/usr/sbin/cupsd";
 constexpr const char* kFilters = "/usr/lib/cups/filter/";
-constexpr int kLongestWait = 60'000;  // milliseconds, on a machine that is busy with other things
+constexpr int kLongestWait = 20'000;  // milliseconds, on a machine that is busy with other things
 constexpr int kStep = 20;
 
 void Write(const fs::path& file, const std::string& text) {
