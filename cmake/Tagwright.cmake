@@ -34,21 +34,38 @@ function(tagwright_library name)
   target_link_libraries(${name} PUBLIC tagwright_flags ${ARG_DEPENDS})
 endfunction()
 
-# tagwright_test(name SOURCES a_test.cpp DEPENDS document)
+# tagwright_test(name SOURCES a_test.cpp DEPENDS document LIMIT 30)
 # A GoogleTest program with the shared test support, run without a display. Each of its tests is one
-# of ctest's; names with Long_ are for the long run only.
+# of ctest's; names with Long_ are for the long run only. A test that waits for something, a window, a
+# queue or another process, would wait for ever when that does not come: LIMIT is how many seconds
+# one may take, some ten times what it needs on a busy machine. The sanitizers make it slower.
 function(tagwright_test name)
-  cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS" ${ARGN})
+  cmake_parse_arguments(ARG "" "LIMIT" "SOURCES;DEPENDS" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
   target_link_libraries(${name} PRIVATE ${ARG_DEPENDS} test_support GTest::gtest)
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
   # Tests are compiled more often than their microseconds count.
   target_compile_options(${name} PRIVATE $<$<CONFIG:Release>:-O1>)
+  set(long_limit 600)
+  if(NOT ARG_LIMIT)
+    tagwright_discover(${name} "*" ${long_limit})
+    return()
+  endif()
+  if(TAGWRIGHT_SANITIZE)
+    math(EXPR ARG_LIMIT "${ARG_LIMIT} * 3")
+  endif()
+  tagwright_discover(${name} "-*Long_*" ${ARG_LIMIT})
+  tagwright_discover(${name} "*Long_*" ${long_limit})
+endfunction()
+
+# tagwright_discover(name filter seconds): each test that the filter names is one of ctest's.
+function(tagwright_discover name filter seconds)
   gtest_discover_tests(
     ${name}
+    TEST_FILTER "${filter}"
     DISCOVERY_MODE PRE_TEST
     DISCOVERY_TIMEOUT 60
-    PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen" TIMEOUT 600)
+    PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen" TIMEOUT ${seconds})
 endfunction()
 
 # tagwright_fuzz(name SOURCES a_fuzz.cpp DEPENDS document)

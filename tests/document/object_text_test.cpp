@@ -96,6 +96,7 @@ TEST_F(ObjectTextTest, RightAlignedLinesEndAtTheRightEdge) {
   record.Width = 30;
   record.Param = 1;
   Paint(record);
+  ASSERT_EQ(page_.Texts(), (Lines{"ab", "abcd"}));
   for (const Painted& text : Texts()) EXPECT_NEAR(Mm(text.x2), 60, 1e-9);
 }
 

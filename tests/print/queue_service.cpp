@@ -1,6 +1,7 @@
 #include "print/queue_service.h"
 
 #include <arpa/inet.h>
+#include <cups/cups.h>
 #include <netinet/in.h>
 #include <poll.h>
 #include <signal.h>
@@ -24,7 +25,7 @@ namespace fs = std::filesystem;
 
 constexpr const char* kScheduler = "/usr/sbin/cupsd";
 constexpr const char* kFilters = "/usr/lib/cups/filter/";
-constexpr int kLongestWait = 60'000;  // milliseconds, on a machine that is busy with other things
+constexpr int kLongestWait = 20'000;  // milliseconds, on a machine that is busy with other things
 constexpr int kStep = 20;
 
 void Write(const fs::path& file, const std::string& text) {
@@ -107,7 +108,7 @@ std::string QueueEntry(const std::string& name, int port, bool accepting) {
   return "<Printer " + name + ">\nInfo " + name +
          "\nDeviceURI socket://127.0.0.1:" + std::to_string(port) +
          "/?waiteof=false&snmp=false\nState Idle\nAccepting " + (accepting ? "Yes" : "No") +
-         "\nErrorPolicy abort-job\n</Printer>\n";
+         "\nErrorPolicy abort-job\nOption print-scaling fit\n</Printer>\n";
 }
 
 pid_t Run(const std::vector<std::string>& arguments) {
@@ -180,16 +181,22 @@ void QueueService::Stop() {
   fs::remove(folder_.File("service"));
 }
 
-void QueueService::Remove(const std::string& queue) {
+void QueueService::StartWith(const std::string& without, const std::string& refusing) {
   Stop();
-  WriteQueues(queue, "");
+  WriteQueues(without, refusing);
   Start();
+  whole_ = without.empty() && refusing.empty();
 }
 
-void QueueService::Refuse(const std::string& queue) {
-  Stop();
-  WriteQueues("", queue);
-  Start();
+void QueueService::Remove(const std::string& queue) { StartWith(queue, ""); }
+
+void QueueService::Refuse(const std::string& queue) { StartWith("", queue); }
+
+void QueueService::Restore() {
+  if (!whole_ || pid_ < 0) StartWith("", "");
+  for (const QueueModel& model : QueueModels()) {
+    while (Readable(ListenerOf(model.name), 0)) Received(model.name);
+  }
 }
 
 void QueueService::WriteSettings() {
@@ -239,6 +246,23 @@ std::string QueueService::Received(const std::string& queue) {
   }
   close(connection);
   return path;
+}
+
+std::string QueueService::OptionOfLastJob(const std::string& option) {
+  cups_job_t* jobs = nullptr;
+  const int count = cupsGetJobs2(CUPS_HTTP_DEFAULT, &jobs, nullptr, 0, CUPS_WHICHJOBS_ALL);
+  int last = 0;
+  for (int i = 0; i < count; ++i) last = std::max(last, jobs[i].id);
+  cupsFreeJobs(count, jobs);
+  ipp_t* question = ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES);
+  const std::string job = "ipp://localhost/jobs/" + std::to_string(last);
+  ippAddString(question, IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr, job.c_str());
+  ipp_t* answer = cupsDoRequest(CUPS_HTTP_DEFAULT, question, "/jobs");
+  const char* told =
+      ippGetString(ippFindAttribute(answer, option.c_str(), IPP_TAG_ZERO), 0, nullptr);
+  const std::string value = told ? told : "";
+  ippDelete(answer);
+  return value;
 }
 
 bool QueueService::AnythingAt(const std::string& queue) {

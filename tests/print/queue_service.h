@@ -16,7 +16,8 @@
 namespace tagwright {
 
 // One queue. Its page description has A4 and Letter, one resolution, and dead margins that differ
-// on all four sides.
+// on all four sides. Who keeps the queue has it fit every page to what lies within them, unless a
+// job says otherwise.
 struct QueueModel {
   std::string name;
   std::string filter;  // from what kind of file to what kind the printer wants
@@ -39,26 +40,32 @@ class QueueService {
   void Stop();
   void Start();
 
-  // Takes a queue away for good.
+  // Takes a queue away.
   void Remove(const std::string& queue);
   // The queue accepts no jobs any more.
   void Refuse(const std::string& queue);
+  // All queues are there and accept jobs, the service runs, and no printer has a document waiting.
+  void Restore();
 
   // Waits for the next document that `queue` sends to its printer; the path of a file that holds
   // it. Fails the test when none comes.
   std::string Received(const std::string& queue);
+  // What the service has noted for an option of the job that came last; empty when nothing.
+  static std::string OptionOfLastJob(const std::string& option);
   // Whether a document waits at the printer. Gives the service the time to have sent one.
   bool AnythingAt(const std::string& queue);
 
  private:
   void WriteSettings();
   void WriteQueues(const std::string& without, const std::string& refusing);
+  void StartWith(const std::string& without, const std::string& refusing);
   int ListenerOf(const std::string& queue) const;
 
   TempFolder folder_;
   std::vector<int> listeners_;  // one for each queue
   pid_t pid_ = -1;
   int documents_ = 0;
+  bool whole_ = true;  // no queue is missing or refuses
 };
 
 // "margins" takes PDF at 600 pixels to the inch, "coarse" PostScript at 300.

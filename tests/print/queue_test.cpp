@@ -26,11 +26,11 @@ QueueService& Service() {
   return service;
 }
 
-// Starts before the program lists its printers.
+// Before the program lists its printers: whatever an earlier test has done to the service.
 class QueueReady {
  protected:
   QueueReady() {
-    if (QueueService::Installed()) Service();
+    if (QueueService::Installed()) Service().Restore();
   }
 };
 
@@ -158,6 +158,24 @@ TEST_F(QueueTest, ALabelThatReachesIntoTheDeadMarginsStaysInPlace) {
   }
 }
 
+// What the job says of it wins over what the queue is set to, which is to fit the page to its dead
+// margins; a page that was fitted all the same would have its box elsewhere, and smaller.
+TEST_F(QueueTest, AJobAsksNotToBeScaledAndIsNot) {
+  ChooseLayout("A4 1 per sheet");
+  constexpr double kRight = 195, kBottom = 284;  // of the label, which lies at 5.5 by 4
+  Add(kRectangle, 0, 0, 4, 5).FillColor = 0;
+  Add(kRectangle, kRight, kBottom, 4, 5).FillColor = 0;
+  frmMain.mnuFilePrint.Press();
+  for (const QueueModel& model : QueueModels()) {
+    SCOPED_TRACE(model.name);
+    Print(model.name);
+    const RenderedPage page(Service().Received(model.name));
+    EXPECT_EQ(Service().OptionOfLastJob("print-scaling"), "none");
+    ExpectBox(page, 5.5, 4, 5.5 + 4, 4 + 5);
+    ExpectBox(page, 5.5 + kRight, 4 + kBottom, 5.5 + kRight + 4, 4 + kBottom + 5);
+  }
+}
+
 TEST_F(QueueTest, InchesAndLetterPaperArriveAsTheyAre) {
   frmMain.mnuUnitIn.Press();
   ChooseLayout("US 10 per Sheet");
@@ -200,6 +218,24 @@ TEST_F(QueueTest, APenIsAsWideAsTheQueuesOwnPixels) {
     EXPECT_NEAR(widths[0], pixel, 0.1 * pixel);
     EXPECT_NEAR(widths[1], 4 * pixel, 0.1 * pixel);
   }
+}
+
+// Chosen anew, moved away from or left at the end of the program: a job that nobody ends is
+// dropped.
+TEST_F(QueueTest, AJobKilledInTheMiddleOfAPageLeavesTheQueueEmpty) {
+  const auto paint = [] {
+    Printer().Page().Scale().SetScaleMode(kMillimetres);
+    Printer().Page().Line(20, 20, 40, 30, 0);
+  };
+  ChoosePrinter("margins");
+  paint();
+  Printer().NewPage();
+  paint();
+  Printer().KillDoc();
+  EXPECT_FALSE(Service().AnythingAt("margins"));
+  paint();
+  Printer().EndDoc();
+  EXPECT_EQ(ReadPdf(Service().Received("margins")).count, 1) << "the next job is a job of its own";
 }
 
 // --- merge --------------------------------------------------------------------------------------

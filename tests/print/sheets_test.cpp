@@ -14,6 +14,7 @@
 #include "print/code_128_reader.h"
 #include "print/print_fixture.h"
 #include "support/fake_database.h"
+#include "support/full_disk.h"
 #include "support/pdf_reader.h"
 
 namespace tagwright {
@@ -283,6 +284,35 @@ TEST_F(SheetsTest, PrintingAgainReplacesTheFile) {
   ObjectUB = kLines;  // the first design's objects
   PrintToPdf(Pdf());
   ExpectEveryRowOnItsCell(Pdf(), 2);
+}
+
+// Room for the first sheets only: the former labels stay, nothing else is left behind, and the next
+// job, with room again, is a whole one.
+TEST_F(SheetsTest, ADiskThatBecomesFullDuringAJobKeepsTheFormerSheetsAndIsToldOnce) {
+  constexpr int kFew = SheetOf14::kCells, kMany = 40 * SheetOf14::kCells;
+  if (!FullDisk::CanBeArranged(Pdf())) GTEST_SKIP() << "no limit for files here";
+  DesignLabel(kFew);
+  PrintToPdf(Pdf());
+  const std::string former = ReadFile(Pdf());
+  DesignLabel(kMany);
+  ObjectUB = kLines;  // the first design's objects
+  const auto files = [&] {
+    return std::distance(std::filesystem::directory_iterator(folder.Path()), {});
+  };
+  const auto files_before = files();
+  {
+    const FullDisk disk(2 * former.size());
+    PrintToPdf(Pdf());
+  }
+  ASSERT_EQ(dialogs.messages.size(), 1u);
+  EXPECT_NE(dialogs.messages[0].text.find(Pdf()), std::string::npos) << dialogs.messages[0].text;
+  EXPECT_EQ(ReadFile(Pdf()), former);
+  EXPECT_EQ(files(), files_before);
+  EXPECT_EQ(DrawTarget, &frmMain.picBoard.Canvas());
+  EXPECT_FALSE(PreviewMode);
+  PrintToPdf(Pdf());
+  EXPECT_EQ(dialogs.messages.size(), 1u);
+  ExpectEveryRowOnItsCell(Pdf(), kMany);
 }
 
 TEST_F(SheetsTest, ALabelTakesAtMost300Bytes) {

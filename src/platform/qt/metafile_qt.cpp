@@ -240,11 +240,12 @@ struct Arc {
   double start, sweep;
 };
 
-// Against the clock from the start ray to the end ray; equal rays make the whole ellipse.
+// Against the clock from the drawing's first ray to its second, which the library hands on by each
+// other's name, for a way with the clock; equal rays make the whole ellipse.
 Arc ArcOf(const wmfDrawArc_t& arc) {
   const QRectF box = BoxOf(arc.TL, arc.BR);
-  const double start = AngleOf(box, arc.start);
-  double sweep = AngleOf(box, arc.end) - start;
+  const double start = AngleOf(box, arc.end);
+  double sweep = AngleOf(box, arc.start) - start;
   if (sweep <= 0) sweep += 360;
   return {box, start, sweep};
 }

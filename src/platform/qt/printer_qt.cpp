@@ -41,8 +41,8 @@ class Spool {
  public:
   virtual ~Spool() = default;
   virtual QPagedPaintDevice& Device() = 0;
-  virtual void Send() = 0;  // after the painter has ended
-  virtual void Drop() = 0;  // before it ends
+  virtual void Send() = 0;                   // after the painter has ended
+  virtual void Drop(QPainter& painter) = 0;  // ends the painter; nothing comes of the job
   virtual bool Failed() const = 0;
 };
 
@@ -91,7 +91,10 @@ class FileSpool : public Spool {
     writer_.reset();
     if (!file_.commit()) Refuse(kDeviceFault);
   }
-  void Drop() override { file_.cancelWriting(); }
+  void Drop(QPainter& painter) override {
+    file_.cancelWriting();
+    painter.end();
+  }
   bool Failed() const override { return file_.error() != QFileDevice::NoError; }
 
  private:
@@ -139,7 +142,13 @@ class QueueSpool : public Spool {
     if (Failed()) Refuse("");
     if (cupsLastError() > IPP_STATUS_OK_EVENTS_COMPLETE) Refuse(cupsLastErrorString());
   }
-  void Drop() override { printer_.abort(); }
+  // With the painter's end the toolkit sends what there is, an aborted job as well. Out of reach of
+  // the service that comes to nothing; afterwards the service is looked up anew.
+  void Drop(QPainter& painter) override {
+    cupsSetServer("/dev/null");
+    painter.end();
+    cupsSetServer(nullptr);
+  }
   bool Failed() const override {
     return printer_.printerState() == QPrinter::Error ||
            printer_.printerState() == QPrinter::Aborted;
@@ -300,8 +309,7 @@ void ToolkitPrinter::EndDoc() {
 }
 
 void ToolkitPrinter::KillDoc() {
-  if (spool_) spool_->Drop();
-  if (painter_.isActive()) painter_.end();
+  if (painter_.isActive()) spool_->Drop(painter_);
   ForgetJob();
 }
 

@@ -132,6 +132,68 @@ TEST_F(ImageSurfaceTest, AShapeWithoutPenAndBrushPaintsNothing) {
   EXPECT_EQ(board.Image(), before);
 }
 
+// A pen that draws nothing has no width to make room for, and no colour to mix, whatever it was
+// told.
+TEST_F(ImageSurfaceTest, AShapeWithoutOutlineFillsWholePixels) {
+  board.SelectObject(CreatePen(kPenNull, 1, kRed));
+  board.SelectObject(CreateSolidBrush(kBlack));
+  for (const int mode : {int(kCopyPen), int(kMaskPen)}) {
+    board.Cls();
+    board.DrawMode = mode;
+    board.Rectangle(10, 10, 50, 50);
+    for (const int inside : {10, 49}) {
+      EXPECT_EQ(Ink(board.Image(), inside, 30), 1) << mode << " " << inside;
+      EXPECT_EQ(Ink(board.Image(), 30, inside), 1) << mode << " " << inside;
+    }
+    for (const int outside : {9, 50}) {
+      EXPECT_EQ(Ink(board.Image(), outside, 30), 0) << mode << " " << outside;
+      EXPECT_EQ(Ink(board.Image(), 30, outside), 0) << mode << " " << outside;
+    }
+  }
+}
+
+// An outline of odd width runs through the middle of pixels, one of even width between them.
+TEST_F(ImageSurfaceTest, AnOutlineCoversWholePixels) {
+  board.SelectObject(NullBrush());
+  for (const int width : {1, 2, 3}) {
+    board.Cls();
+    board.SelectObject(CreatePen(kPenSolid, width, kBlack));
+    board.Rectangle(20, 20, 60, 60);
+    double ink = 0;
+    for (int x = 10; x < 30; ++x) {
+      const double here = Ink(board.Image(), x, 40);
+      EXPECT_TRUE(here == 0 || here == 1) << width << " at " << x;
+      ink += here;
+    }
+    EXPECT_EQ(ink, width);
+  }
+}
+
+// Where bits are mixed there are no smooth edges; black needs no mixing, and keeps them.
+TEST_F(ImageSurfaceTest, ABlackShapeWithoutOutlineKeepsItsSmoothEdges) {
+  const auto grey_pixels = [&] {
+    int count = 0;
+    for (int x = 0; x < 100; ++x) {
+      for (int y = 0; y < 80; ++y)
+        count += Ink(board.Image(), x, y) > 0 && Ink(board.Image(), x, y) < 1;
+    }
+    return count;
+  };
+  board.DrawMode = kMaskPen;
+  board.SelectObject(CreateSolidBrush(kBlack));
+  board.SelectObject(CreatePen(kPenNull, 1, kRed));
+  board.Ellipse(10, 10, 50, 50);
+  EXPECT_GT(grey_pixels(), 20);
+  board.DrawMode = kCopyPen;
+  board.Cls();
+  board.DrawMode = kMaskPen;
+  board.SelectObject(CreatePen(kPenNull, 1, kBlack));
+  board.SelectObject(CreateSolidBrush(kRed));
+  board.Ellipse(10, 10, 50, 50);
+  const QRgb red = qRgb(255, 0, 0), white = qRgb(255, 255, 255);
+  for (int x = 0; x < 60; ++x) EXPECT_TRUE(At(x, 12) == red || At(x, 12) == white) << x;
+}
+
 TEST_F(ImageSurfaceTest, AShapeThinnerThanAPixelDoesNotVanish) {
   board.SelectObject(CreatePen(kPenNull, 0, 0));
   board.SelectObject(CreateSolidBrush(kBlack));

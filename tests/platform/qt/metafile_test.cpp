@@ -7,9 +7,11 @@
 #include <filesystem>
 #include <string>
 
+#include "metafile_writer.h"
 #include "paint_environment.h"
 #include "platform/fault.h"
 #include "platform/files.h"
+#include "platform/qt/fonts_qt.h"
 #include "platform/qt/metafile_qt.h"
 #include "platform/qt/metafile_records.h"
 #include "platform/qt/picture_qt.h"
@@ -151,6 +153,182 @@ TEST_F(MetafileTest, SymbolTextIsReadInGreek) {
   EXPECT_EQ(SymbolText("ab"), "αβ");
   EXPECT_EQ(SymbolText("D"), "Δ");
   EXPECT_EQ(SymbolText("\xD6\x7F"), "√ ");
+}
+
+TEST_F(MetafileTest, SymbolTextKnowsTheFirstAndLastOfEachHalf) {
+  EXPECT_EQ(SymbolText(" !"), " !");
+  EXPECT_EQ(SymbolText("}~"), "}∼");
+  EXPECT_EQ(SymbolText("\xA0\xA1"), "€ϒ");
+  EXPECT_EQ(SymbolText("\xFD\xFE"), "⎬⎭");
+  EXPECT_EQ(SymbolText("\x1F\x7F\x9F\xFF"), "    ");
+}
+
+// --- record by record ---------------------------------------------------------------------------
+
+// A picture of `metafile`, ten pixels for each of its 100 by 100 units.
+QImage DrawTenfold(const MetafileWriter& metafile) {
+  const PicturePtr picture = ReadMetafile(metafile.Bytes());
+  return picture ? Draw(picture, 1000, 1000) : QImage();
+}
+
+void ExpectInk(const QImage& image, int left, int top, int right, int bottom) {
+  constexpr int kTolerance = 6;  // pixels, of which a pen takes five
+  const QRect ink = InkBox(image);
+  EXPECT_NEAR(ink.left(), left, kTolerance);
+  EXPECT_NEAR(ink.top(), top, kTolerance);
+  EXPECT_NEAR(ink.right() + 1, right, kTolerance);
+  EXPECT_NEAR(ink.bottom() + 1, bottom, kTolerance);
+}
+
+double TenfoldWidth(const char* text, bool bold) {
+  return Fonts().Width(text, {"Arial", 1, bold, false});
+}
+
+TEST_F(MetafileTest, ALineIsAsWideAsItsPenAndNeverLessThanAPixel) {
+  constexpr int kLineTo = 0x0213, kMoveTo = 0x0214;
+  const auto line = [](int pen) {
+    MetafileWriter metafile(100, 100);
+    return metafile.Pen(0, pen).Record(kMoveTo, {50, 20}).Record(kLineTo, {50, 80}).Bytes();
+  };
+  const auto width = [&](int pen, int side) {
+    const QImage image = Draw(ReadMetafile(line(pen)), side, side);
+    double ink = 0;
+    for (int y = 0; y < side; ++y) ink += Ink(image, side / 2, y);
+    return ink;
+  };
+  EXPECT_NEAR(width(6, 1000), 60, 0.5);
+  EXPECT_NEAR(width(6, 500), 30, 0.5);
+  EXPECT_NEAR(width(0, 1000), 10, 0.1) << "a unit is the least that a pen has";
+  EXPECT_NEAR(width(1, 20), 1, 0.1) << "a fifth of a pixel would be grey";
+}
+
+// A quarter from three o'clock to twelve, of a circle of 60 units in the middle.
+TEST_F(MetafileTest, ArcsPiesAndChordsRunFromTheirFirstRayToTheSecond) {
+  constexpr int kSolid = 0, kNone = 5, kArc = 0x0817, kPie = 0x081A, kChord = 0x0830;
+  for (const int function : {kArc, kPie, kChord}) {
+    SCOPED_TRACE(function);
+    MetafileWriter metafile(100, 100);
+    metafile.BlackBrush().Pen(function == kArc ? kSolid : kNone, 0);
+    metafile.Record(function, {20, 50, 50, 80, 80, 80, 20, 20});
+    const QImage image = DrawTenfold(metafile);
+    ExpectInk(image, 500, 200, 800, 500);
+    EXPECT_EQ(Ink(image, 520, 480) > 0.5, function == kPie) << "only a pie reaches the middle";
+    EXPECT_EQ(Ink(image, 680, 320) > 0.5, function != kArc) << "an arc is not filled";
+  }
+}
+
+TEST_F(MetafileTest, TextStandsOnItsBaseline) {
+  MetafileWriter metafile(100, 100);
+  metafile.Font(50).Text(10, 60, "H");
+  const QRect ink = InkBox(DrawTenfold(metafile));
+  EXPECT_NEAR(ink.bottom() + 1, 600, 3);
+  EXPECT_NEAR(ink.top(), 600 - 500 * 0.688, 3) << "capitals of this font are so high";
+}
+
+// Where its ink lies on the whole.
+QPointF InkCentre(const QImage& image) {
+  QPointF sum;
+  double ink = 0;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) {
+      sum += Ink(image, x, y) * QPointF(x, y);
+      ink += Ink(image, x, y);
+    }
+  }
+  return sum / ink;
+}
+
+TEST_F(MetafileTest, TextLiesToTheHairWhereTheProgramsOwnTextLies) {
+  MetafileWriter metafile(100, 100);
+  metafile.Font(50).Text(10, 60, "H");
+  QImage own(1000, 1000, QImage::Format_RGB32);
+  own.fill(Qt::white);
+  QPainter painter(&own);
+  painter.setRenderHint(QPainter::Antialiasing);
+  PaintText(painter, 100, 600, "H", {"Arial", 500, false, false}, 0, 72);
+  painter.end();
+  const QPointF off = InkCentre(DrawTenfold(metafile)) - InkCentre(own);
+  EXPECT_NEAR(off.x(), 0, 0.7);
+  EXPECT_NEAR(off.y(), 0, 0.7);
+}
+
+TEST_F(MetafileTest, TextWithoutAFontHasNoLines) {
+  MetafileWriter metafile(1000, 1000);
+  metafile.Text(100, 500, "H");
+  const QRect ink = InkBox(DrawTenfold(metafile));
+  ASSERT_FALSE(ink.isEmpty());
+  EXPECT_NEAR(ink.bottom() + 1, 500, 2) << "a line would lie below";
+}
+
+// Blanks between two letters, where only a line leaves ink. In tenths of units, of size 500.
+TEST_F(MetafileTest, LinesUnderAndThroughTextAreDrawnWhereAsked) {
+  const struct {
+    int italic_underlined, struck_out;
+    bool below, through;
+  } fonts[] = {
+      {0, 0, false, false}, {0x100, 0, true, false}, {0, 1, false, true}, {0x100, 1, true, true}};
+  for (const auto& font : fonts) {
+    SCOPED_TRACE(testing::Message() << font.italic_underlined << " " << font.struck_out);
+    MetafileWriter metafile(100, 100);
+    metafile.Font(50, 0, 400, font.italic_underlined, font.struck_out).Text(10, 60, "i   i");
+    const QImage image = DrawTenfold(metafile);
+    const int between = 100 + static_cast<int>(TenfoldWidth("i   i", false) * 500 / 2);
+    EXPECT_EQ(Ink(image, between, 600 + 50 + 15) > 0.9, font.below);
+    EXPECT_EQ(Ink(image, between, 600 - 125 + 15) > 0.9, font.through);
+  }
+}
+
+TEST_F(MetafileTest, TextTurnsAgainstTheClock) {
+  const double length = TenfoldWidth("HHHH", false) * 100;
+  const auto ink = [](int angle) {
+    MetafileWriter metafile(100, 100);
+    metafile.Font(10, angle).Text(50, 50, "HHHH");
+    return InkBox(DrawTenfold(metafile));
+  };
+  const QRect up = ink(900), back = ink(1800), down = ink(2700);
+  EXPECT_NEAR(up.height(), length, 20);
+  EXPECT_NEAR(up.bottom() + 1, 500, 10);
+  EXPECT_NEAR(up.right() + 1, 500, 3);
+  EXPECT_NEAR(back.width(), length, 20);
+  EXPECT_NEAR(back.right() + 1, 500, 10);
+  EXPECT_NEAR(back.top(), 500, 3);
+  EXPECT_NEAR(down.height(), length, 20);
+  EXPECT_NEAR(down.top(), 500, 10);
+  EXPECT_NEAR(down.left(), 500, 3);
+}
+
+TEST_F(MetafileTest, FontsAreBoldFromSixHundredOn) {
+  const auto width = [](int weight) {
+    MetafileWriter metafile(100, 100);
+    metafile.Font(20, 0, weight).Text(5, 50, "iiiiiiiiii");
+    return InkBox(DrawTenfold(metafile)).width();
+  };
+  const double plain = TenfoldWidth("iiiiiiiiii", false) * 200;
+  const double bold = TenfoldWidth("iiiiiiiiii", true) * 200;
+  ASSERT_GT(bold, plain + 40);
+  EXPECT_NEAR(width(599), plain, 30);
+  EXPECT_NEAR(width(600), bold, 30);
+}
+
+// A bitmap may be all that a drawing draws: its window is the picture's frame all the same.
+TEST_F(MetafileTest, ADrawingOfNothingButAStretchedBitmapKeepsItsWindow) {
+  constexpr int kCopyLow = 0x0020, kCopyHigh = 0x00CC;
+  const std::string two_black_pixels(
+      "\x28\0\0\0\x02\0\0\0\x01\0\0\0\x01\0\x18\0\0\0\0\0\x08\0\0\0"
+      "\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0",
+      48);
+  for (const int function : {0x0B41, 0x0F43}) {
+    SCOPED_TRACE(function);
+    MetafileWriter metafile(100, 100);
+    if (function == 0x0B41) {
+      metafile.Record(function, {kCopyLow, kCopyHigh, 1, 2, 0, 0, 20, 40, 50, 30},
+                      two_black_pixels);
+    } else {
+      metafile.Record(function, {kCopyLow, kCopyHigh, 0, 1, 2, 0, 0, 20, 40, 50, 30},
+                      two_black_pixels);
+    }
+    ExpectInk(DrawTenfold(metafile), 300, 500, 700, 700);
+  }
 }
 
 // --- refusals -----------------------------------------------------------------------------------

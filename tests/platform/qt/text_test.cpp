@@ -272,21 +272,43 @@ TEST_F(TextTest, CharactersThatAFontLacksComeFromAnother) {
   EXPECT_GT(Fonts().Width("\u0416\u4E2D", {"Courier New", 20, false, false}), 10);
 }
 
-TEST_F(TextTest, TextDrawnOutFarOneWayIsPaintedAllTheSame) {
+// Ink of a text drawn out by `across` and `down`, counted in whole pixels: grey ones count in part.
+double InkOfDrawnOut(double across, double down) {
+  QImage image(1300, 800, QImage::Format_RGB32);
+  image.fill(Qt::white);
+  QPainter painter(&image);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.translate(100, 500);
+  painter.scale(across, down);
+  PaintText(painter, 0, 0, "Hamburg", {"Arial", 4, false, false}, 0, 72);
+  painter.end();
+  double ink = 0;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) ink += Ink(image, x, y);
+  }
+  return ink;
+}
+
+// Letters have their area, however far they are drawn out; the thinnest lose some of it where a
+// pixel has no grey as light as that, but do not vanish.
+TEST_F(TextTest, TextDrawnOutFarOneWayHasItsInk) {
+  const double letters = InkOfDrawnOut(20, 20) / 400;
+  ASSERT_GT(letters, 14);
   const struct {
-    double across, down;
-  } scales[] = {{0.5, 10}, {10, 0.5}, {0.002, 60}, {60, 0.002}, {0.0001, 500}, {0, 10}};
+    double across, down, share, tolerance;
+  } scales[] = {{1, 7.9, 1, 0.1},   {1, 8.1, 1, 0.1},  {7.9, 1, 1, 0.1},      {8.1, 1, 1, 0.1},
+                {0.5, 10, 1, 0.1},  {10, 0.5, 1, 0.1}, {0.5, 100, 1, 0.1},    {60, 0.5, 1, 0.1},
+                {0.1, 100, 1, 0.1}, {60, 0.1, 1, 0.1}, {0.002, 100, 0.6, 0.3}};
+  for (const auto& [across, down, share, tolerance] : scales) {
+    const double ink = InkOfDrawnOut(across, down) / (letters * across * down);
+    EXPECT_NEAR(ink, share, tolerance) << across << " by " << down;
+  }
+}
+
+TEST_F(TextTest, TextDrawnOutToNothingLeavesNoInk) {
+  const struct { double across, down; } scales[] = {{0.0001, 500}, {500, 0.0001}, {0, 10}, {10, 0}};
   for (const auto& [across, down] : scales) {
-    QImage image(400, 400, QImage::Format_RGB32);
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    painter.translate(100, 200);
-    painter.scale(across, down);
-    PaintText(painter, 0, 0, "Hamburg", {"Arial", 12, false, false}, 0, 72);
-    painter.end();
-    if (std::min(across, down) >= 0.5) {
-      EXPECT_GT(InkColumns(image).Width(), 10) << across << " by " << down;
-    }
+    EXPECT_LT(InkOfDrawnOut(across, down), 1) << across << " by " << down;
   }
 }
 
@@ -307,6 +329,26 @@ TEST_F(TextTest, FamiliesAreListedOnceAndWithoutTheirMakers) {
 TEST_F(TextTest, MalformedAndVeryLongTextIsMeasuredAllTheSame) {
   EXPECT_GT(Fonts().Width("a\xFF\xC3", {"Arial", 10, false, false}), 0);
   EXPECT_GT(Fonts().Width(std::string(100'000, 'x'), {"Arial", 10, false, false}), 400'000);
+}
+
+// Whether each character stands for itself or the text is shaped in full: what lies farther than
+// the toolkit can count is measured, but not placed.
+TEST_F(TextTest, AVeryLongTextIsPlacedAsFarAsTheToolkitCounts) {
+  constexpr double kFarthest = 1e7;
+  const FontSpec arial{"Arial", 10, false, false};
+  for (const std::string letter : {"W", "\u05D0"}) {
+    std::string text;
+    for (int i = 0; i < 40'000; ++i) text += letter;
+    const double one = ShapeText(letter, arial).width;
+    const ShapedText& shaped = ShapeText(text, arial);
+    EXPECT_NEAR(shaped.width, 40'000 * one, 40'000 * 0.02 * one) << letter;
+    double farthest = 0;
+    for (const QGlyphRun& run : shaped.runs) {
+      for (const QPointF& at : run.positions()) farthest = std::max(farthest, at.x());
+    }
+    EXPECT_GT(farthest, 0.9 * kFarthest) << letter;
+    EXPECT_LT(farthest, kFarthest + 4096 * one) << letter;
+  }
 }
 
 }  // namespace

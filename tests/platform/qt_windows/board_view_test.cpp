@@ -123,6 +123,40 @@ TEST_F(BoardViewTest, LinesAndFramesArePainted) {
   EXPECT_EQ(Pixel(80, 80), QColor(Qt::white));
 }
 
+// On a ground of the dots' own colour nothing else would show where a frame lies.
+TEST_F(BoardViewTest, BetweenTheDotsOfAFrameAndALineIsWhite) {
+  frmMain.picBoard.Canvas().BackColor = kRed;
+  frmMain.picBoard.Canvas().Cls();
+  frmMain.picBoard.ImageChanged();
+  frmMain.shpBox.Move(60, 60, 80, 50);
+  frmMain.shpLine.SetX1(200);
+  frmMain.shpLine.SetX2(200);
+  frmMain.shpLine.SetY1(60);
+  frmMain.shpLine.SetY2(110);
+  frmMain.shpBox.SetBorderColor(kRed);
+  frmMain.shpBox.SetBorderStyle(3);
+  frmMain.shpBox.SetVisible(true);
+  frmMain.shpLine.SetBorderColor(kRed);
+  frmMain.shpLine.SetBorderStyle(3);
+  frmMain.shpLine.SetVisible(true);
+  const QImage image = Board().grab().toImage();
+  const QColor red(200, 30, 20), white(Qt::white);
+  const auto expect_half_white = [&](auto&& pixel_at, int from, int to, const char* what) {
+    int whites = 0;
+    for (int i = from; i < to; ++i) {
+      EXPECT_TRUE(pixel_at(i) == red || pixel_at(i) == white) << what << " " << i;
+      whites += pixel_at(i) == white;
+    }
+    EXPECT_NEAR(whites, (to - from) / 2, 3) << what;
+  };
+  const auto top = [&](int x) { return image.pixelColor(x, 60); };
+  const auto left = [&](int y) { return image.pixelColor(60, y); };
+  const auto line = [&](int y) { return image.pixelColor(200, y); };
+  expect_half_white(top, 62, 138, "the frame's top");
+  expect_half_white(left, 62, 108, "the frame's left side");
+  expect_half_white(line, 62, 108, "the line");
+}
+
 TEST_F(BoardViewTest, AFrameOfNegativeSizeIsPaintedAsNone) {
   frmMain.shpBox.Move(60, 60, -20, -20);
   frmMain.shpBox.SetBorderColor(kRed);
