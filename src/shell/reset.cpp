@@ -22,6 +22,7 @@
 #include "tools/rule_drag.h"
 #include "tools/tool_buttons.h"
 #include "tools/view.h"
+#include "tools/wheel.h"
 
 namespace tagwright {
 namespace {
@@ -48,6 +49,7 @@ void ResetTools() {
   ResetRuleDrag();
   ResetToolButtons();
   ResetView();
+  ResetWheel();
 }
 
 }  // namespace

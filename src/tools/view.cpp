@@ -68,6 +68,12 @@ void RedrawWithSelection() {
   });
 }
 
+// A redraw takes the marks of one object along, and not the frame of a group.
+void RedrawScrolled() {
+  RedrawBoard();
+  CarryOn(ShowGroupBox);
+}
+
 bool FitsWellEnough(double label, double board) { return label <= board && label >= kFits * board; }
 
 bool LabelFitsWellEnough() {
@@ -189,12 +195,12 @@ void cmdXC_Click() {
   SuspendRedraw = kTrue;
   CentreLabel();
   SuspendRedraw = kFalse;
-  RedrawBoard();
+  RedrawScrolled();
   KeyboardToBoard();
 }
 
-void hS1_Change() { RedrawBoard(); }
-void vS1_Change() { RedrawBoard(); }
+void hS1_Change() { RedrawScrolled(); }
+void vS1_Change() { RedrawScrolled(); }
 void hS1_GotFocus() { KeyboardToBoard(); }
 void vS1_GotFocus() { KeyboardToBoard(); }
 
