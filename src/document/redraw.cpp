@@ -190,10 +190,12 @@ void PaintLine(const ObjectRecord& line, const PixelBox& box) {
   DrawTarget->LineTo(horizontal ? box.x2 : box.x1, horizontal ? box.y1 : box.y2);
 }
 
+double CornerOfObjects() { return std::nearbyint(kObjectCorner * ZoomFactor); }
+
 void PaintShape(const ObjectRecord& shape, bool output) {
   SelectPenAndBrush(shape);
   const PixelBox box = PixelsOf(shape, output);
-  const double corner = std::nearbyint(kObjectCorner * ZoomFactor);
+  const double corner = CornerOfObjects();
   switch (shape.ObjType) {
     case kLine:
       return PaintLine(shape, box);
@@ -329,9 +331,35 @@ void AnchorHairs() {
   }
 }
 
+void SpanDown(LineControl& line, double x) {
+  line.SetX1(x);
+  line.SetX2(x);
+  line.SetY1(0);
+  line.SetY2(frmMain.picBoard.ScaleHeight());
+}
+
+void SpanAcross(LineControl& line, double y) {
+  line.SetX1(0);
+  line.SetX2(frmMain.picBoard.ScaleWidth());
+  line.SetY1(y);
+  line.SetY2(y);
+}
+
+// A rule belongs to a place of the label, wherever scrolling, zoom and a new size of the board have
+// taken that. One that the mouse holds has no place yet, but it spans the board all the same.
+void AnchorRules() {
+  LineControl& x = frmMain.lnMX;
+  LineControl& y = frmMain.lnMY;
+  if (x.Visible()) SpanDown(x, DraggingRuleX ? x.X1() : MagRuleX + BoardOriginX);
+  if (y.Visible()) SpanAcross(y, DraggingRuleY ? y.Y1() : MagRuleY + BoardOriginY);
+}
+
+// What is drawn up over the board looks like the object that comes of it.
 void FinishScreen() {
   Step(DrawRulers);
   AnchorHairs();
+  AnchorRules();
+  frmMain.shpBox.SetCornerSize(CornerOfObjects());
 }
 
 void EndPass(const RedrawPass& pass) {

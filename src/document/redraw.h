@@ -73,6 +73,13 @@ void PlaceHandlesAroundFrame(double gap);
 // Hides shpBox and the handles.
 void HideHandles();
 
+// Where the magnetic rules stand, millimetres from the label's top left corner; -1 when removed. A
+// redraw puts lnMX and lnMY there, across the whole board, unless the mouse holds them.
+inline double MagRuleX = -1.0;
+inline double MagRuleY = -1.0;
+inline bool DraggingRuleX = false;  // lnMX follows the pointer until the release
+inline bool DraggingRuleY = false;  // lnMY likewise
+
 // The rulers along the board's top and left side; nothing with mnuFileRulers unchecked. Ticks stand
 // every RulerScale millimetres from the label's corner, numbers at every tenth. A label too far
 // away or a board too wide to count its ticks has the bands alone.

@@ -63,16 +63,20 @@ void DrawTick(const Ruler& ruler, double place, double end_depth) {
   board.LineTo(board.ScaleX(x2, kUserScale, kPixels), board.ScaleY(y2, kUserScale, kPixels));
 }
 
-// Centred on its tick; at the left it ends where the tick does.
+// Centred on its tick; at the left it ends where the tick does. In the corner, which both rulers
+// share, the numbers and ticks of the two would lie on each other: none stands there.
 void DrawNumber(const Ruler& ruler, double place, int number) {
   Surface& board = Board();
   const std::string text = std::to_string(number);
+  const double along = ruler.top ? board.TextWidth(text) : board.TextHeight(text);
+  const double start = place - along / 2;
+  if (start < Depth({!ruler.top, 0, 0}, kBandDepth)) return;
   if (ruler.top) {
-    board.CurrentX = place - board.TextWidth(text) / 2;
+    board.CurrentX = start;
     board.CurrentY = 0;
   } else {
     board.CurrentX = Depth(ruler, kMajorDepth) - board.TextWidth(text);
-    board.CurrentY = place - board.TextHeight(text) / 2;
+    board.CurrentY = start;
   }
   board.Print(text);
 }

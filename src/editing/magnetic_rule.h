@@ -2,11 +2,9 @@
 // dropped within the zone.
 #pragma once
 
-namespace tagwright {
+#include "document/redraw.h"
 
-// Where the rules stand, millimetres from the label's top left corner; -1 when removed.
-inline double MagRuleX = -1.0;
-inline double MagRuleY = -1.0;
+namespace tagwright {
 
 // Checks only the chosen entry of mnuMagRule and sets the settings' MagneticZone to
 // (Index + 1) / 2 millimetres.

@@ -188,6 +188,12 @@ void CommandButton::SetCaption(std::string value) {
   Notify(Aspect::kText);
 }
 
+void CommandButton::SetDown(bool value) {
+  if (value == down_) return;
+  down_ = value;
+  Notify(Aspect::kValue);
+}
+
 void CommandButton::Press() {
   if (IsLive()) Events().Click.Raise(Index());
 }
@@ -274,6 +280,12 @@ void Shape::SetBorderStyle(int value) {
 void Shape::SetBorderColor(Color value) {
   if (value == border_color_) return;
   border_color_ = value;
+  Notify(Aspect::kLook);
+}
+
+void Shape::SetCornerSize(double value) {
+  if (value == corner_size_) return;
+  corner_size_ = value;
   Notify(Aspect::kLook);
 }
 

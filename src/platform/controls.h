@@ -92,6 +92,8 @@ struct ControlEvents {
   Event<int, int, double, double> MouseDown;
   Event<int, int, double, double> MouseMove;
   Event<int, int, double, double> MouseUp;
+  // Picture boxes only: shift, notches to the left, notches up, x, y. Parts of a notch come too.
+  Event<int, double, double, double, double> MouseWheel;
   Event<> Timer;
 };
 
@@ -184,6 +186,9 @@ class Control {
   void UserMouseDown(int button, int shift, double x_twips, double y_twips);
   void UserMouseMove(int button, int shift, double x_twips, double y_twips);
   void UserMouseUp(int button, int shift, double x_twips, double y_twips);
+  // The wheel, turned this many notches to the left and up (away from the user). Nothing while a
+  // press holds the control: a drag counts on a board that stands still.
+  void UserMouseWheel(int shift, double left, double up, double x_twips, double y_twips);
 
   void AttachView(ControlView* view);  // not owned; null detaches
   ControlView* View() const { return view_; }
@@ -473,10 +478,14 @@ class CommandButton : public Control {
   bool TakesFocus() const override { return true; }
   const std::string& Caption() const { return caption_; }  // empty: as the form file has it
   void SetCaption(std::string value);
+  // Looks pressed for as long as what it has started is in force. Raises nothing.
+  bool Down() const { return down_; }
+  void SetDown(bool value);
   void Press();  // raises Click; nothing when disabled
 
  private:
   std::string caption_;
+  bool down_ = false;
 };
 
 // Values from Min to Max; Change only on a change.
@@ -550,6 +559,9 @@ class Shape : public Control {
   void SetBorderStyle(int value);
   Color BorderColor() const { return border_color_; }
   void SetBorderColor(Color value);
+  // Diameter of the corners of a rounded rectangle, logical pixels.
+  double CornerSize() const { return corner_size_; }
+  void SetCornerSize(double value);
 
  protected:
   // Negative sizes are not an error for a shape under the mouse; they are stored and painted as 0.
@@ -559,6 +571,7 @@ class Shape : public Control {
   int shape_ = 0;
   int border_style_ = 1;
   Color border_color_ = 0;
+  double corner_size_ = 0;
 };
 
 // A straight line on the board, in the container's unit.

@@ -28,6 +28,7 @@ struct EventState {
   std::vector<Level> levels{Level{0}};
   std::vector<Waiting> waiting;
   FaultReporter reporter;
+  std::function<void()> after_each;
 };
 
 // Never destroyed: forms stand before main() and live until the process ends.
@@ -104,8 +105,11 @@ void RunHandler(const std::function<void()>& body) {
   ++State().running;
   RunBounded(body);
   --State().running;
+  if (State().after_each && !HandlerRuns(TopLevel())) RunBounded(State().after_each);
   RunWaiting();
 }
+
+void SetAfterEachHandler(std::function<void()> work) { State().after_each = std::move(work); }
 
 void AfterHandlers(const void* key, std::function<void()> work, int level) {
   if (key) ForgetAfterHandlers(key);

@@ -50,6 +50,11 @@ void RunHandler(const std::function<void()>& body);
 // the last one runs, at its own place. A fault in it is reported and ends it.
 void AfterHandlers(const void* key, std::function<void()> work, int level = 0);
 
+// What is to run each time the program comes to rest, when the outermost handler of a level is done
+// and before the work that waited for it. For what shows state that every handler may change; it
+// replaces the former one, and an empty function stands for nothing.
+void SetAfterEachHandler(std::function<void()> work);
+
 // Forgets the waiting work of `key` (its owner is going away); with null, all waiting work.
 void ForgetAfterHandlers(const void* key);
 

@@ -122,6 +122,12 @@ void Control::UserMouseMove(int button, int shift, double x_twips, double y_twip
   RaiseMouse(target, &ControlEvents::MouseMove, button, shift, x_twips, y_twips);
 }
 
+void Control::UserMouseWheel(int shift, double left, double up, double x_twips, double y_twips) {
+  if (Waits() || !IsUsable() || PressOn(this)) return;
+  Events().MouseWheel.Raise(index_, shift, left, up, x_twips / MouseUnitX(),
+                            y_twips / MouseUnitY());
+}
+
 void Control::RaiseMouse(Control& target, MouseEvent event, int button, int shift, double x_twips,
                          double y_twips) {
   const double left = &target == this ? 0 : target.LeftTwips();

@@ -23,6 +23,7 @@
 #include "tools/rule_drag.h"
 #include "tools/tool_buttons.h"
 #include "tools/view.h"
+#include "tools/wheel.h"
 
 namespace tagwright {
 namespace {
@@ -49,6 +50,7 @@ void ResetTools() {
   ResetRuleDrag();
   ResetToolButtons();
   ResetView();
+  ResetWheel();
 }
 
 }  // namespace

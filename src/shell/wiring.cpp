@@ -30,6 +30,7 @@
 #include "tools/panels.h"
 #include "tools/tool_buttons.h"
 #include "tools/view.h"
+#include "tools/wheel.h"
 
 namespace tagwright {
 namespace {
@@ -138,12 +139,14 @@ void WireTools(FrmMain& f) {
   };
   f.cmdTools.Events().MouseUp = [](int, int, double, double) { cmdTools_MouseUp(); };
   f.cmdMagnify.Events().Click = cmdMagnify_Click;
+  SetAfterEachHandler(ShowArmedTool);
 }
 
 void WireBoard(FrmMain& f) {
   f.picBoard.Events().MouseDown = picBoard_MouseDown;
   f.picBoard.Events().MouseMove = picBoard_MouseMove;
   f.picBoard.Events().MouseUp = picBoard_MouseUp;
+  f.picBoard.Events().MouseWheel = picBoard_MouseWheel;
   f.lblHold.Events().MouseDown = lblHold_MouseDown;
   f.lblHold.Events().MouseMove = lblHold_MouseMove;
   f.lblHold.Events().MouseUp = lblHold_MouseUp;

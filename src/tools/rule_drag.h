@@ -1,10 +1,9 @@
 // The magnetic rules under the mouse: pulled out of the ruler strips, moved, and pushed back.
 #pragma once
 
-namespace tagwright {
+#include "document/redraw.h"
 
-inline bool DraggingRuleX = false;  // lnMX follows the pointer until the release
-inline bool DraggingRuleY = false;  // lnMY likewise
+namespace tagwright {
 
 // Whether a left press at this place (board units) grabs a rule: one from the strip along the left
 // or the top edge, in the corner both, or with no tool armed one that stands within half a unit.

@@ -129,6 +129,31 @@ void RunTool(int index) {
   }
 }
 
+// The element of cmdTools that stands for an armed tool; -1 for none.
+int ColumnButtonOf(std::int16_t tool) {
+  switch (tool) {
+    case kBarcode:
+      return 1;
+    case kPicture:
+      return 2;
+    case kText:
+      return 3;
+    case kLine:
+    case kRectangle:
+    case kRoundedRectangle:
+    case kEllipse:
+      return 4;
+    case kZoomIn:
+      return 5;
+    case kZoomOut:
+      return 6;
+    case kDataField:
+      return 7;
+    default:
+      return -1;
+  }
+}
+
 }  // namespace
 
 void cmdTools_Click(int Index) {
@@ -143,6 +168,17 @@ void cmdLine_Click() { Arm(kLine, kCross); }
 void cmdRect_Click() { Arm(kRectangle, kCross); }
 void cmdRoundRect_Click() { Arm(kRoundedRectangle, kCross); }
 void cmdEllipse_Click() { Arm(kEllipse, kCross); }
+
+// Shapes and columns have their buttons on a panel, which may lie behind another one: the button
+// that opens it shows them too.
+void ShowArmedTool() {
+  const int armed = ColumnButtonOf(CurrentTool);
+  for (const auto& [index, button] : frmMain.cmdTools) button->SetDown(index == armed);
+  frmMain.cmdLine.SetDown(CurrentTool == kLine);
+  frmMain.cmdRect.SetDown(CurrentTool == kRectangle);
+  frmMain.cmdRoundRect.SetDown(CurrentTool == kRoundedRectangle);
+  frmMain.cmdEllipse.SetDown(CurrentTool == kEllipse);
+}
 
 void ResetToolButtons() {
   HoldTicks = 0;

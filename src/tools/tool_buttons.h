@@ -23,6 +23,10 @@ void cmdRect_Click();
 void cmdRoundRect_Click();
 void cmdEllipse_Click();
 
+// Lets the buttons of the armed tool look pressed, and no others: the one in the column, and the
+// one of a shape on its panel. A data field's is Import Data. Runs after every event.
+void ShowArmedTool();
+
 // HoldTicks and HoldKind as at program start.
 void ResetToolButtons();
 

@@ -67,6 +67,12 @@ void RedrawWithSelection() {
   });
 }
 
+// A redraw takes the marks of one object along, and not the frame of a group.
+void RedrawScrolled() {
+  RedrawBoard();
+  CarryOn(ShowGroupBox);
+}
+
 bool FitsWellEnough(double label, double board) { return label <= board && label >= kFits * board; }
 
 bool LabelFitsWellEnough() {
@@ -181,12 +187,12 @@ void cmdXC_Click() {
   SuspendRedraw = kTrue;
   CentreLabel();
   SuspendRedraw = kFalse;
-  RedrawBoard();
+  RedrawScrolled();
   KeyboardToBoard();
 }
 
-void hS1_Change() { RedrawBoard(); }
-void vS1_Change() { RedrawBoard(); }
+void hS1_Change() { RedrawScrolled(); }
+void vS1_Change() { RedrawScrolled(); }
 void hS1_GotFocus() { KeyboardToBoard(); }
 void vS1_GotFocus() { KeyboardToBoard(); }
 

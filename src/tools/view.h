@@ -54,7 +54,7 @@ void FitZoom(int mode);
 // --- scrolling ----------------------------------------------------------------------------------
 
 void cmdXC_Click();  // both bars to their middle, one redraw, the keyboard to the board
-void hS1_Change();   // redraw
+void hS1_Change();   // redraw, the frame of a group too
 void vS1_Change();
 void hS1_GotFocus();  // the keyboard goes on to the board
 void vS1_GotFocus();

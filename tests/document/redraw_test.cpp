@@ -629,6 +629,99 @@ TEST_F(RedrawTest, VisibleCrossHairsMoveWithTheLabel) {
   EXPECT_EQ(frmMain.HairX.X1(), 112) << "a hidden one stays";
 }
 
+class RuleRedrawTest : public RedrawTest {
+ protected:
+  RuleRedrawTest() {
+    MagRuleX = 40;
+    MagRuleY = 20;
+    frmMain.lnMX.SetVisible(true);
+    frmMain.lnMY.SetVisible(true);
+  }
+  ~RuleRedrawTest() override {
+    MagRuleX = MagRuleY = -1;
+    DraggingRuleX = DraggingRuleY = false;
+  }
+
+  // On the label, and from edge to edge of the board.
+  static void ExpectRulesOnTheLabel(const std::string& after) {
+    SCOPED_TRACE(after);
+    const PictureBox& board = frmMain.picBoard;
+    EXPECT_EQ(frmMain.lnMX.X1(), 40 + BoardOriginX);
+    EXPECT_EQ(frmMain.lnMX.X2(), 40 + BoardOriginX);
+    EXPECT_EQ(frmMain.lnMX.Y1(), 0);
+    EXPECT_EQ(frmMain.lnMX.Y2(), board.ScaleHeight());
+    EXPECT_EQ(frmMain.lnMY.Y1(), 20 + BoardOriginY);
+    EXPECT_EQ(frmMain.lnMY.Y2(), 20 + BoardOriginY);
+    EXPECT_EQ(frmMain.lnMY.X1(), 0);
+    EXPECT_EQ(frmMain.lnMY.X2(), board.ScaleWidth());
+  }
+};
+
+TEST_F(RuleRedrawTest, MagneticRulesStayOnTheirPlaceOfTheLabelAcrossTheWholeBoard) {
+  Redraw();
+  EXPECT_EQ(frmMain.lnMX.X1(), 140);
+  ExpectRulesOnTheLabel("the first redraw");
+  frmMain.hS1.SetValue(270);
+  frmMain.vS1.SetValue(230);
+  Redraw();
+  EXPECT_EQ(frmMain.lnMX.X1(), 120);
+  EXPECT_EQ(frmMain.lnMY.Y1(), 115);
+  ExpectRulesOnTheLabel("scrolling");
+  ZoomFactor = 2;
+  ReadyBoard();
+  Redraw();
+  ExpectRulesOnTheLabel("a zoom");
+  ReadyBoard(400, 310);
+  Redraw();
+  ExpectRulesOnTheLabel("a larger board");
+  LabelWidth = 60;
+  Redraw();
+  ExpectRulesOnTheLabel("another label");
+}
+
+TEST_F(RuleRedrawTest, ARuleThatIsRemovedStaysAway) {
+  frmMain.lnMX.SetVisible(false);
+  frmMain.lnMX.SetX1(7);
+  Redraw();
+  EXPECT_FALSE(frmMain.lnMX.Visible());
+  EXPECT_EQ(frmMain.lnMX.X1(), 7);
+}
+
+// It has no place on the label before it is released.
+TEST_F(RuleRedrawTest, ARuleInTheHandStaysUnderThePointer) {
+  DraggingRuleX = DraggingRuleY = true;
+  frmMain.lnMX.SetX1(33);
+  frmMain.lnMX.SetX2(33);
+  frmMain.lnMY.SetY1(44);
+  frmMain.lnMY.SetY2(44);
+  Redraw();
+  EXPECT_EQ(frmMain.lnMX.X1(), 33);
+  EXPECT_EQ(frmMain.lnMX.X2(), 33);
+  EXPECT_EQ(frmMain.lnMX.Y2(), 200);
+  EXPECT_EQ(frmMain.lnMY.Y1(), 44);
+  EXPECT_EQ(frmMain.lnMY.Y2(), 44);
+  EXPECT_EQ(frmMain.lnMY.X2(), 300);
+}
+
+// What is printed has an origin of its own.
+TEST_F(RuleRedrawTest, PrintingLeavesTheRulesAlone) {
+  Redraw();
+  PageAfter(13, 17);
+  EXPECT_EQ(frmMain.lnMX.X1(), 140);
+  EXPECT_EQ(frmMain.lnMY.Y1(), 95);
+}
+
+TEST_F(RedrawTest, TheRubberFrameHasTheCornersThatTheObjectWillHave) {
+  Add(ShapeObject(kRoundedRectangle, 1, 2, 30, 20));
+  for (const double zoom : {0.2, 1.0, 1.3, 7.5}) {
+    ZoomFactor = zoom;
+    ReadyBoard();
+    Redraw();
+    EXPECT_EQ(frmMain.shpBox.CornerSize(), Shapes().at(0).CornerWidth()) << zoom;
+  }
+  EXPECT_EQ(frmMain.shpBox.CornerSize(), 90);
+}
+
 TEST_F(RedrawTest, PaintingReplacesThePersistentImageAndTheViewHearsOnce) {
   struct Counter : ControlView {
     int images = 0;

@@ -118,12 +118,13 @@ TEST_F(RulersTest, At20PercentOnlyMajorTicksRemain) {
 TEST_F(RulersTest, NumbersCountCentimetresAndAreNegativeBeforeTheLabel) {
   Draw(1);
   const auto texts = Board().Texts();
-  // Top: -9 to 19; left: origin 75, positions 1 to 199 are -74 to 124: -7 to 12.
-  ASSERT_EQ(texts.size(), 29u + 20u);
+  // Top: -9 to 19; left: origin 75, positions 1 to 199 are -74 to 124: -7 to 12, of which -7 would
+  // reach into the corner.
+  ASSERT_EQ(texts.size(), 29u + 19u);
   EXPECT_EQ(texts[0], "-9");
   EXPECT_EQ(texts[9], "0");
   EXPECT_EQ(texts[28], "19");
-  EXPECT_EQ(texts[29], "-7");
+  EXPECT_EQ(texts[29], "-6");
   EXPECT_EQ(texts.back(), "12");
 }
 
@@ -132,9 +133,31 @@ TEST_F(RulersTest, NumbersAreCentredAtTheTopAndEndAtTheTicksDepthAtTheLeft) {
   const auto texts = Board().Of(Painted::What::kText);
   // "0" of the top ruler stands on the label's corner, 100.
   EXPECT_NEAR(Millimetres((texts[9].x1 + texts[9].x2) / 2), 100, 1e-6);
-  // "-7" of the left ruler: label position -70, board position 5.
+  // "-6" of the left ruler: label position -60, board position 15.
   EXPECT_NEAR(Millimetres(texts[29].x2), 3, 1e-6);
-  EXPECT_NEAR(Millimetres((texts[29].y1 + texts[29].y2) / 2), 5, 1e-6);
+  EXPECT_NEAR(Millimetres((texts[29].y1 + texts[29].y2) / 2), 15, 1e-6);
+}
+
+// The two rulers share the corner: there the numbers of one would lie on those and on the ticks of
+// the other.
+TEST_F(RulersTest, NoNumberReachesIntoTheCorner) {
+  for (const double zoom : {0.5, 1.0, 3.0}) {
+    for (double origin = 60; origin < 70; origin += 0.5) {
+      Draw(zoom, origin, origin);
+      const double corner = 5 / zoom;
+      double first_top = 1e9, first_left = 1e9;
+      for (const Painted& number : Board().Of(Painted::What::kText)) {
+        const bool at_top = number.y1 == 0;
+        const double start = Millimetres(at_top ? number.x1 : number.y1);
+        EXPECT_GE(start, corner - 1e-6) << zoom << " " << origin;
+        double& first = at_top ? first_top : first_left;
+        first = std::min(first, start);
+      }
+      // And no number is missing beyond it: one stands on each centimetre.
+      EXPECT_LT(first_top, corner + 10 + 1e-6) << zoom << " " << origin;
+      EXPECT_LT(first_left, corner + 10 + 1e-6) << zoom << " " << origin;
+    }
+  }
 }
 
 TEST_F(RulersTest, At49PercentANumberComesOnlyAfterMoreThan20Ticks) {
@@ -143,8 +166,9 @@ TEST_F(RulersTest, At49PercentANumberComesOnlyAfterMoreThan20Ticks) {
   EXPECT_EQ(Board().Texts()[0], "-7");
   EXPECT_EQ(Board().Texts()[1], "-4");
   Draw(0.5);
-  EXPECT_EQ(Board().Texts()[0], "-9");
-  EXPECT_EQ(Board().Texts()[1], "-8");
+  // Every ten; -9 stands at board position 10, which here is the end of the corner.
+  EXPECT_EQ(Board().Texts()[0], "-8");
+  EXPECT_EQ(Board().Texts()[1], "-7");
 }
 
 TEST_F(RulersTest, InchTicksStandOnTrueTenthsOfAnInch) {

@@ -112,6 +112,30 @@ TEST_F(MouseTest, APictureBoxHearsItsOwnUnits) {
   EXPECT_EQ(log, Lines{"board down 1/0 at 20,20"});
 }
 
+// Over its labels as well: what the wheel moves is the whole board.
+TEST_F(MouseTest, APictureBoxHearsTheWheelInItsOwnUnits) {
+  std::vector<std::vector<double>> turns;
+  form.board.Events().MouseWheel = [&](int shift, double left, double up, double x, double y) {
+    turns.push_back({double(shift), left, up, x, y});
+  };
+  form.board.SetScaleWidth(30);
+  form.board.SetScaleHeight(30);  // 100 by 50 twips
+  form.board.UserMouseWheel(kShift, 0.5, -2, 700, 100);
+  EXPECT_EQ(turns, (std::vector<std::vector<double>>{{kShift, 0.5, -2, 7, 2}}));
+  form.board.UserMouseDown(kLeftButton, 0, 2000, 1000);
+  form.board.UserMouseWheel(0, 0, 1, 700, 100);
+  EXPECT_EQ(turns.size(), 1u) << "a press holds the board still";
+  form.board.UserMouseUp(kLeftButton, 0, 2000, 1000);
+  form.board.SetEnabled(false);
+  form.board.UserMouseWheel(0, 0, 1, 700, 100);
+  EXPECT_EQ(turns.size(), 1u) << "and so does a board that is not live";
+  form.board.SetEnabled(true);
+  RunHandler([&] { form.board.UserMouseWheel(0, 0, 1, 700, 100); });
+  EXPECT_EQ(turns.size(), 1u) << "or a handler";
+  form.board.UserMouseWheel(0, 0, 1, 700, 100);
+  EXPECT_EQ(turns.size(), 2u);
+}
+
 TEST_F(MouseTest, XAndYFollowThePresentCornerOfAMovingLabel) {
   form.lblHold.Events().MouseDown = [&](int index, int, int, double, double) {
     form.lblHold(index).SetLeft(100);

@@ -319,5 +319,33 @@ TEST_F(EventTest, WorkOfALevelThatIsGoneBelongsToThePresentOne) {
   EXPECT_FALSE(HandlerRuns(7));
 }
 
+// What shows state that any handler may change.
+TEST_F(EventTest, TheWorkAfterEachHandlerRunsWhenTheOutermostIsDoneAndBeforeWhatWaits) {
+  SetAfterEachHandler([&] { log.push_back("rest"); });
+  RunHandler([&] {
+    AfterHandlers(nullptr, [&] { log.push_back("waited"); });
+    RunHandler([&] { log.push_back("inner"); });
+    log.push_back("outer");
+  });
+  EXPECT_EQ(log, (std::vector<std::string>{"inner", "outer", "rest", "waited"}));
+  log.clear();
+  RunHandler([&] {
+    const ModalLevel level;
+    RunHandler([&] { log.push_back("in the window"); });
+  });
+  EXPECT_EQ(log, (std::vector<std::string>{"in the window", "rest", "rest"}));
+  SetAfterEachHandler(nullptr);
+  log.clear();
+  RunHandler([] {});
+  EXPECT_TRUE(log.empty());
+}
+
+TEST_F(EventTest, AFaultInTheWorkAfterEachHandlerEndsThere) {
+  SetAfterEachHandler([] { RaiseFault(kOverflow); });
+  RunHandler([] {});
+  SetAfterEachHandler(nullptr);
+  EXPECT_EQ(reported, std::vector<int>{kOverflow});
+}
+
 }  // namespace
 }  // namespace tagwright

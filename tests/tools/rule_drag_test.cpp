@@ -87,6 +87,22 @@ TEST_F(RuleDragTest, FromTheCornerBothFollow) {
   EXPECT_NEAR(frmMain.lnMY.Y2(), 100, 1e-9);
 }
 
+// Where objects snap is where the rule is seen.
+TEST_F(RuleDragTest, ScrollingAndZoomTakeARuleAlongWithTheLabel) {
+  PressTwips(60, 60);
+  MoveTo(150, 100);
+  Release(150, 100);
+  frmMain.hS1.SetValue(262);
+  frmMain.vS1.SetValue(240);
+  frmMain.cboZoom.SetListIndex(15);  // 200 %
+  EXPECT_NEAR(frmMain.lnMX.X1(), MagRuleX + BoardOriginX, 1e-9);
+  EXPECT_NEAR(frmMain.lnMX.X2(), SnapX(MagRuleX + BoardOriginX + 0.5), 1e-9);
+  EXPECT_NEAR(frmMain.lnMY.Y1(), MagRuleY + BoardOriginY, 1e-9);
+  EXPECT_NEAR(frmMain.lnMY.Y2(), SnapY(MagRuleY + BoardOriginY - 0.5), 1e-9);
+  EXPECT_NEAR(frmMain.lnMX.Y2(), 100, 1e-9);
+  EXPECT_NEAR(frmMain.lnMY.X2(), 150, 1e-9);
+}
+
 TEST_F(RuleDragTest, ARuleThatStandsIsGrabbedWithinHalfAUnit) {
   const struct {
     double x, y;

@@ -1,6 +1,7 @@
 // What a user does from the first start to the second, and the files that remain.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cctype>
 #include <cstdlib>
 #include <filesystem>
@@ -151,6 +152,82 @@ TEST_F(Window, TheScrollBarsMoveTheLabelAndTheirCornerBringsItBack) {
   WaitFor("the label further left", [&] { return LabelSpan(program).left < middle; });
   Click(Find(program, "Centre the label on the board").box);
   WaitFor("the label in the middle", [&] { return LabelSpan(program).left == middle; });
+}
+
+// The column of the board that a vertical guide fills, from the ruler to the bar at the bottom; -1
+// for none.
+int GuideColumn(const Program& program) {
+  constexpr std::uint32_t kAccent = 0x2F6BD8;
+  constexpr int kScrollBar = 20;
+  const Box board = Board(program);
+  const auto pixels = Pixels(board);
+  for (int x = 0; x < board.width; ++x) {
+    int filled = 0;
+    for (int y = 0; y < board.height; ++y) {
+      filled += pixels[static_cast<std::size_t>(y * board.width + x)] == kAccent;
+    }
+    if (filled >= board.height - kScrollBar) return board.x + x;
+  }
+  return -1;
+}
+
+TEST_F(Window, AGuideStaysOnItsPlaceOfTheLabelAcrossTheWholeBoard) {
+  Program program(folder);
+  const Box board = Board(program);
+  const Span label = LabelSpan(program);
+  const int y = board.y + board.height * 3 / 4;
+  constexpr int kFromTheEdge = 95;  // pixels of the label at 100 %
+  Drag(board.x + 3, y, label.left + kFromTheEdge, y);
+  MoveMouse(board.x + board.width - 60, board.y + 60);  // the cross hairs cover it no longer
+  const auto stands = [&](double zoom) {
+    return std::abs(GuideColumn(program) - LabelSpan(program).left - zoom * kFromTheEdge) <= 2;
+  };
+  WaitFor("the guide", [&] { return stands(1); });
+
+  Shell("xdotool keydown shift click 5 keyup shift");
+  WaitFor("the label further left", [&] { return LabelSpan(program).left < label.left - 30; });
+  WaitFor("the guide with it", [&] { return stands(1); });
+
+  Shell("xdotool keydown ctrl click 5 keyup ctrl");
+  WaitForLabel(program, kLabelWidth * kPixelsPerMillimetre * 0.9);
+  WaitFor("the guide in the smaller label", [&] { return stands(0.9); });
+
+  const Box frame = program.Frame();
+  PlaceWindow(program, {frame.x, frame.y, frame.width + 160, frame.height + 120});
+  WaitFor("the guide across the larger board",
+          [&] { return Board(program).height > board.height + 60 && stands(0.9); });
+}
+
+TEST_F(Window, TheWheelScrollsUpAndDown) {
+  Program program(folder);
+  const Box board = Board(program);
+  const auto white_at_the_bottom = [&] {
+    Box row = board;
+    row.y += board.height / 2 + 60;  // the label is 144 pixels high
+    row.height = 1;
+    const auto pixels = Pixels(row);
+    return std::ranges::count(pixels, 0xFFFFFFU) > 100;
+  };
+  MoveMouse(board.x + board.width / 2, board.y + board.height / 2);
+  WaitFor("the label", white_at_the_bottom);
+  Shell("xdotool click 5");
+  WaitFor("the label further up", [&] { return !white_at_the_bottom(); });
+  Shell("xdotool click 4");
+  WaitFor("the label back", white_at_the_bottom);
+}
+
+TEST_F(Window, AnArmedToolIsToldAsPressedUntilItHasPlacedItsObject) {
+  Program program(folder);
+  Click(Find(program, "Drawing Options").box);
+  EXPECT_FALSE(Find(program, "Rectangle").checked);
+  Click(Find(program, "Rectangle").box);
+  WaitFor("the armed tool", [&] { return Find(program, "Rectangle").checked; });
+  EXPECT_TRUE(Find(program, "Drawing Options").checked);
+  const Box board = Board(program);
+  const int x = board.x + board.width / 2, y = board.y + board.height / 2;
+  Drag(x, y, x + 60, y + 40);
+  WaitFor("no armed tool", [&] { return !Find(program, "Rectangle").checked; });
+  EXPECT_FALSE(Find(program, "Drawing Options").checked);
 }
 
 TEST_F(Window, HoldingZoomInOpensTheFlyoutWhoseButtonsZoom) {

@@ -91,7 +91,7 @@ Application::Application(int& argc, char** argv) : toolkit_(std::make_unique<Too
   toolkit_->application = StartToolkit(argc, argv);
   TakeUserLocale();
   FollowDesktopTheme(*toolkit_->application);
-  InstallSpokenButtons();
+  InstallSpokenControls();
   InstallPaintServices();
   InstallDesktop();
   SetDatabaseEngine(MakeDatabaseEngine(ReaderBesideProgram()));

@@ -17,7 +17,8 @@ namespace tagwright {
 namespace {
 
 constexpr double kPixelsPerPoint = 96.0 / 72.0;
-constexpr double kRoundCorner = 0.18;  // of a rounded rectangle's shorter side
+constexpr double kPenWidth = 1;  // of all that is painted over the picture
+constexpr double kWheelNotch = 120;
 constexpr int kDots = 3;
 constexpr int kOval = 2;
 constexpr int kRounded = 4;
@@ -80,13 +81,20 @@ QRegion CoverOf(const Control& child) {
 
 // --- painting -----------------------------------------------------------------------------------
 
-// Through the middle of pixels, so that a thin line is crisp.
-QPointF OnPixel(const QPointF& point) {
-  return {std::floor(point.x()) + 0.5, std::floor(point.y()) + 0.5};
-}
+// A painter on a screen of so many pixels of its own to a logical one, as the picture beneath.
+struct BoardPainter {
+  QPainter& painter;
+  double ratio;
+
+  // On whole pixels, so that a thin line is crisp, and on those that the picture takes for the
+  // same place.
+  QPointF OnPixel(const QPointF& point) const {
+    return {OnScreenPixel(point.x(), kPenWidth, ratio), OnScreenPixel(point.y(), kPenWidth, ratio)};
+  }
+};
 
 QPen OutlinePen(Color color, int border_style) {
-  QPen pen(ToQColor(color), 1.0, border_style == kDots ? Qt::CustomDashLine : Qt::SolidLine,
+  QPen pen(ToQColor(color), kPenWidth, border_style == kDots ? Qt::CustomDashLine : Qt::SolidLine,
            Qt::FlatCap);
   if (border_style == kDots) pen.setDashPattern({2.0, 2.0});
   return pen;
@@ -97,7 +105,7 @@ template <class Draw>
 void DrawOutline(QPainter& painter, Color color, int border_style, Draw&& draw) {
   if (border_style == 0) return;
   if (border_style == kDots) {
-    painter.setPen(QPen(Qt::white, 1.0));
+    painter.setPen(QPen(Qt::white, kPenWidth));
     draw();
   }
   painter.setPen(OutlinePen(color, border_style));
@@ -133,17 +141,20 @@ void PaintCaption(QPainter& painter, const Label& label, const QRectF& box) {
 }
 
 // Border and ground on the same pixels, wherever between two of them the label lies.
-void PaintBordered(QPainter& painter, const Label& label, const QRectF& box) {
-  painter.setPen(QPen(ToQColor(label.ForeColor()), 1.0));
+void PaintBordered(const BoardPainter& on, const Label& label, const QRectF& box) {
+  QPainter& painter = on.painter;
+  painter.setPen(QPen(ToQColor(label.ForeColor()), kPenWidth));
   if (label.BackStyle() != 0) painter.setBrush(ToQColor(label.BackColor()));
-  painter.drawRect(QRectF(OnPixel(box.topLeft()), OnPixel(box.bottomRight()) - QPointF(1, 1)));
+  painter.drawRect(QRectF(on.OnPixel(box.topLeft()),
+                          on.OnPixel(box.bottomRight()) - QPointF(kPenWidth, kPenWidth)));
   painter.setBrush(Qt::NoBrush);
 }
 
-void PaintLabel(QPainter& painter, const Label& label) {
+void PaintLabel(const BoardPainter& on, const Label& label) {
+  QPainter& painter = on.painter;
   const QRectF box = BoxOf(label);
   if (label.BorderStyle() != 0) {
-    PaintBordered(painter, label, box);
+    PaintBordered(on, label, box);
   } else if (label.BackStyle() != 0) {
     painter.fillRect(box, ToQColor(label.BackColor()));
   }
@@ -154,10 +165,11 @@ void PaintLabel(QPainter& painter, const Label& label) {
   painter.restore();
 }
 
-void PaintShape(QPainter& painter, const Shape& shape) {
+void PaintShape(const BoardPainter& on, const Shape& shape) {
+  QPainter& painter = on.painter;
   const QRectF real = BoxOf(shape);
-  const QRectF box(OnPixel(real.topLeft()), OnPixel(real.bottomRight()));
-  const double corner = kRoundCorner * std::min(box.width(), box.height());
+  const QRectF box(on.OnPixel(real.topLeft()), on.OnPixel(real.bottomRight()));
+  const double corner = shape.CornerSize() / 2;
   painter.setRenderHint(QPainter::Antialiasing, shape.ShapeCode() != 0);
   DrawOutline(painter, shape.BorderColor(), shape.BorderStyle(), [&] {
     if (shape.ShapeCode() == kOval) {
@@ -171,20 +183,21 @@ void PaintShape(QPainter& painter, const Shape& shape) {
   painter.setRenderHint(QPainter::Antialiasing, false);
 }
 
-void PaintLine(QPainter& painter, const LineControl& line) {
+void PaintLine(const BoardPainter& on, const LineControl& line) {
+  QPainter& painter = on.painter;
   const QLineF at = LineOf(line);
   const bool straight = at.x1() == at.x2() || at.y1() == at.y2();
   painter.setRenderHint(QPainter::Antialiasing, !straight);
   DrawOutline(painter, line.BorderColor(), line.BorderStyle(),
-              [&] { painter.drawLine(QLineF(OnPixel(at.p1()), OnPixel(at.p2()))); });
+              [&] { painter.drawLine(QLineF(on.OnPixel(at.p1()), on.OnPixel(at.p2()))); });
   painter.setRenderHint(QPainter::Antialiasing, false);
 }
 
-void PaintChild(QPainter& painter, const Control& child) {
-  painter.setBrush(Qt::NoBrush);
-  if (const auto* label = dynamic_cast<const Label*>(&child)) return PaintLabel(painter, *label);
-  if (const auto* shape = dynamic_cast<const Shape*>(&child)) return PaintShape(painter, *shape);
-  if (const auto* line = dynamic_cast<const LineControl*>(&child)) PaintLine(painter, *line);
+void PaintChild(const BoardPainter& on, const Control& child) {
+  on.painter.setBrush(Qt::NoBrush);
+  if (const auto* label = dynamic_cast<const Label*>(&child)) return PaintLabel(on, *label);
+  if (const auto* shape = dynamic_cast<const Shape*>(&child)) return PaintShape(on, *shape);
+  if (const auto* line = dynamic_cast<const LineControl*>(&child)) PaintLine(on, *line);
 }
 
 double PointX(const QMouseEvent& event) { return event.position().x() * kTwipsPerPixel; }
@@ -285,7 +298,7 @@ void BoardView::paintEvent(QPaintEvent* event) {
   }
   for (const Control* child : PaintedChildren(event->rect())) {
     painted_[child] = CoverOf(*child);
-    PaintChild(painter, *child);
+    PaintChild({painter, surface_->DevicePixelRatio()}, *child);
   }
 }
 
@@ -325,6 +338,16 @@ void BoardView::mouseMoveEvent(QMouseEvent* event) {
 void BoardView::mouseReleaseEvent(QMouseEvent* event) {
   box_->UserMouseUp(ButtonCode(event->button()), ShiftCode(event->modifiers()), PointX(*event),
                     PointY(*event));
+}
+
+// Bars at the board's edge that have come to their end pass their wheel on: it is not the board's.
+void BoardView::wheelEvent(QWheelEvent* event) {
+  event->accept();
+  if (HasOwnView(childAt(event->position().toPoint()), *this)) return;
+  const QPointF notches = QPointF(event->angleDelta()) / kWheelNotch;
+  box_->UserMouseWheel(ShiftCode(event->modifiers()), notches.x(), notches.y(),
+                       event->position().x() * kTwipsPerPixel,
+                       event->position().y() * kTwipsPerPixel);
 }
 
 void BoardView::focusInEvent(QFocusEvent* event) {

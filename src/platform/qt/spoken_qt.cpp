@@ -2,7 +2,11 @@
 
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QListView>
 #include <QToolButton>
+
+#include "platform/qt/color_qt.h"
+#include "platform/qt/spoken_list.h"
 
 namespace tagwright {
 namespace {
@@ -25,17 +29,52 @@ class SpokenToolButton : public QAccessibleWidget {
     if (name == setFocusAction()) button_.setFocus(Qt::ShortcutFocusReason);
   }
 
+  // Some tools say a button's state by the one word and some by the other.
+  QAccessible::State state() const override {
+    QAccessible::State state = QAccessibleWidget::state();
+    const bool stays = button_.isChecked();
+    state.checkable = stays;
+    state.checked = stays;
+    state.pressed = stays || button_.isDown();
+    return state;
+  }
+
  private:
   QToolButton& button_;
 };
 
 QAccessibleInterface* SpokenForm(const QString& kind, QObject* object) {
-  auto* button = kind == "QToolButton" ? qobject_cast<QToolButton*>(object) : nullptr;
-  return button ? new SpokenToolButton(*button) : nullptr;
+  if (kind == "QToolButton") {
+    auto* button = qobject_cast<QToolButton*>(object);
+    return button ? new SpokenToolButton(*button) : nullptr;
+  }
+  if (kind == "QListView" || kind == "QListWidget") {
+    auto* list = qobject_cast<QListView*>(object);
+    return list ? MakeSpokenList(*list) : nullptr;
+  }
+  return nullptr;
 }
 
 }  // namespace
 
-void InstallSpokenButtons() { QAccessible::installFactory(SpokenForm); }
+void InstallSpokenControls() { QAccessible::installFactory(SpokenForm); }
+
+void SpeakPressed(QAbstractButton& button) {
+  QAccessible::State changed;
+  changed.pressed = true;
+  QAccessibleStateChangeEvent event(&button, changed);
+  QAccessible::updateAccessibility(&event);
+}
+
+QString ColorInWords(Color color) {
+  const QColor seen = ToQColor(color);
+  const int red = seen.red(), green = seen.green(), blue = seen.blue();
+  if (red != green || green != blue) {
+    return QString("Red %1, green %2, blue %3").arg(red).arg(green).arg(blue);
+  }
+  if (red == 0) return "Black";
+  if (red == 255) return "White";
+  return QString("Grey, %1 per cent light").arg(qRound(red * 100 / 255.0));
+}
 
 }  // namespace tagwright

@@ -86,6 +86,15 @@ void Masked(QPainter& painter, bool mask, Draw&& draw) {
 
 }  // namespace
 
+// Sums of millimetres in different orders, and records that keep 32 bits, leave a noise of up to
+// 5e-5 of a pixel, which must not decide between two of them.
+double OnScreenPixel(double place, double pen_width, double ratio) {
+  constexpr double kSamePlace = 0.001;  // screen pixels
+  const double pixel = place * ratio + kSamePlace;
+  const bool odd = std::lround(pen_width * ratio) % 2 == 1;
+  return (odd ? std::floor(pixel) + 0.5 : std::floor(pixel + 0.5)) / ratio;
+}
+
 // --- picture in memory --------------------------------------------------------------------------
 
 ImageSurface::ImageSurface(double device_pixel_ratio) : ratio_(std::max(device_pixel_ratio, 0.1)) {}
@@ -123,13 +132,6 @@ QPainter* ImageSurface::Open() {
     painter_.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
   }
   return &painter_;
-}
-
-// A pen of an odd number of screen pixels runs through the middle of one, any other between two.
-double ImageSurface::Snapped(double value, double pen_width) const {
-  const long pen = std::lround(pen_width * ratio_);
-  const double pixel = value * ratio_;
-  return (pen % 2 == 1 ? std::floor(pixel) + 0.5 : std::round(pixel)) / ratio_;
 }
 
 void ImageSurface::DeviceClear(Color color) {

@@ -15,6 +15,12 @@
 
 namespace tagwright {
 
+// The middle of a pen of this width, painted crisply at `place` of a screen with `ratio` pixels of
+// its own to a logical one; places and width are logical. A pen of an odd number of screen pixels
+// runs through the middle of one, any other between two. What lies on the same place lies on the
+// same pixels, whatever the way that its number was worked out.
+double OnScreenPixel(double place, double pen_width, double ratio);
+
 // Paints to an image of the screen's own pixels. The image follows Scale()'s size in twips (15
 // twips are one logical pixel) whenever it is painted on or asked for; what lay in the part that
 // stays is kept, the rest has BackColor. Text and boxes lie at real positions with smooth edges.
@@ -47,7 +53,9 @@ class ImageSurface : public Surface {
   QPainter* Open();
   // Lets the image have the size that the scale asks for.
   void Fit() const;
-  double Snapped(double value, double pen_width) const;
+  double Snapped(double value, double pen_width) const {
+    return OnScreenPixel(value, pen_width, ratio_);
+  }
   void MaskPicture(const Picture& picture, const QRectF& box);
 
   double ratio_;

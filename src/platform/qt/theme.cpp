@@ -179,7 +179,7 @@ QPushButton[tone="accent"]:disabled { background: %pressed%; color: %faded%; bor
 QToolButton { background: transparent; border: 1px solid transparent; border-radius: 6px; }
 QToolButton:hover { background: %hover%; border-color: %border%; }
 QToolButton:pressed { background: %pressed%; }
-QToolButton:checked { background: %soft%; }
+QToolButton:checked { background: %soft%; border-color: %field_rim%; }
 QToolButton:focus { border-color: %accent%; }
 
 QCheckBox { spacing: 7px; }
@@ -283,6 +283,7 @@ const Theme& LightTheme() {
       .border = QColor("#d9dee6"),
       .field = QColor("#ffffff"),
       .field_rim = QColor("#c2cad6"),
+      .sample_rim = QColor("#8792a5"),
       .hover = QColor("#f1f4f9"),
       .pressed = QColor("#dfe5ee"),
       .text = QColor("#1d2430"),
@@ -302,6 +303,7 @@ const Theme& DarkTheme() {
       .border = QColor("#363d49"),
       .field = QColor("#1f242c"),
       .field_rim = QColor("#4b5566"),
+      .sample_rim = QColor("#8d98ab"),
       .hover = QColor("#303744"),
       .pressed = QColor("#3a4352"),
       .text = QColor("#e6e9ef"),

@@ -12,18 +12,19 @@ namespace tagwright {
 
 // The colours of one of the two looks. All that is painted takes them from here.
 struct Theme {
-  QColor window;     // behind everything
-  QColor card;       // the strip, the tool column, menus
-  QColor border;     // around cards
-  QColor field;      // inside text fields and lists
-  QColor field_rim;  // around them
-  QColor hover;      // a button under the pointer
-  QColor pressed;    // and pressed
-  QColor text;       // texts and icons
-  QColor muted;      // captions
-  QColor accent;     // the one colour: selection, focus, ticks, the second tone of icons
-  QColor on_accent;  // text on it
-  QColor soft;       // a selected row
+  QColor window;      // behind everything
+  QColor card;        // the strip, the tool column, menus
+  QColor border;      // around cards
+  QColor field;       // inside text fields and lists
+  QColor field_rim;   // around them
+  QColor sample_rim;  // around samples of colours, which may be like the card
+  QColor hover;       // a button under the pointer
+  QColor pressed;     // and pressed
+  QColor text;        // texts and icons
+  QColor muted;       // captions
+  QColor accent;      // the one colour: selection, focus, ticks, the second tone of icons
+  QColor on_accent;   // text on it
+  QColor soft;        // a selected row
   bool dark = false;
 };
 

@@ -26,6 +26,7 @@
 
 #include "platform/qt/board_view.h"
 #include "platform/qt/color_qt.h"
+#include "platform/qt/spoken_qt.h"
 #include "platform/qt/theme.h"
 
 namespace tagwright {
@@ -449,7 +450,9 @@ class SwatchView : public WidgetView {
 
  protected:
   void Render(Aspect aspect) override {
-    if (aspect == Aspect::kLook) widget_.update();
+    if (aspect != Aspect::kLook) return;
+    widget_.setAccessibleDescription(ColorInWords(label_.BackColor()));
+    widget_.update();
   }
   void Released(bool inside) override {
     if (inside) label_.Press();
@@ -460,7 +463,7 @@ class SwatchView : public WidgetView {
     constexpr double kCorner = 4;
     QPainter painter(&widget_);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(CurrentTheme().field_rim);
+    painter.setPen(CurrentTheme().sample_rim);
     painter.setBrush(ToQColor(label_.BackColor()));
     painter.drawRoundedRect(QRectF(widget_.rect()).adjusted(0.5, 0.5, -0.5, -0.5), kCorner,
                             kCorner);
@@ -474,6 +477,7 @@ class ButtonView : public WidgetView {
   ButtonView(CommandButton& button, QAbstractButton& widget)
       : WidgetView(button, widget), button_(button), face_(widget) {
     connect(&widget, &QAbstractButton::clicked, this, [this] {
+      ShowDown();  // the model says whether it stays pressed, not the toolkit
       button_.UserFocus();
       button_.Press();
     });
@@ -485,9 +489,20 @@ class ButtonView : public WidgetView {
     if (aspect == Aspect::kText && !button_.Caption().empty()) {
       face_.setText(ToQt(button_.Caption()));
     }
+    if (aspect == Aspect::kValue) ShowDown();
   }
 
  private:
+  // One that never stays pressed is no button to tick, for the toolkit as for who listens to it.
+  void ShowDown() {
+    if (face_.isChecked() == button_.Down()) return;
+    const QSignalBlocker quiet(face_);
+    if (button_.Down()) face_.setCheckable(true);
+    face_.setChecked(button_.Down());
+    if (!button_.Down()) face_.setCheckable(false);
+    SpeakPressed(face_);
+  }
+
   CommandButton& button_;
   QAbstractButton& face_;
 };

@@ -10,6 +10,7 @@
 #include <set>
 
 #include "platform/qt/views.h"
+#include "platform/qt/windows_qt.h"
 #include "platform/qt_windows/window_fixture.h"
 
 namespace tagwright {
@@ -32,6 +33,22 @@ class LayoutTest : public WindowTest {
   QRect Place(const QString& name) {
     QWidget& widget = Find(name);
     return QRect(widget.mapTo(&Window(), QPoint(0, 0)), widget.size());
+  }
+
+  QRect Place(const QWidget& widget) {
+    return QRect(widget.mapTo(&Window(), QPoint(0, 0)), widget.size());
+  }
+
+  // What a panel shows: captions, fields, lists and buttons, without the parts of these.
+  static std::vector<const QWidget*> Parts(const QWidget& panel) {
+    std::vector<const QWidget*> parts;
+    for (const QWidget* widget : panel.findChildren<QWidget*>()) {
+      const bool seen = widget->isVisible() && !widget->size().isEmpty();
+      const bool stands =
+          widget->property("control").toBool() || widget->property("tone") == "caption";
+      if (seen && stands) parts.push_back(widget);
+    }
+    return parts;
   }
 
   // The names of what the tab key visits, from the first to the last of the window.
@@ -192,6 +209,72 @@ TEST_F(LayoutTest, EveryPanelFitsTheStripOfTheDesign) {
     EXPECT_LE(needed.height(), panels.height()) << panels.widget(i)->objectName().toStdString();
   }
   EXPECT_EQ(frmMain.picFunctions.Height(), Twips(Find("picFunctions").height()));
+}
+
+// The narrowest window that is told of: 1024 pixels wide.
+TEST_F(LayoutTest, NothingOverlapsInANarrowWindow) {
+  frmMain.picFunctions.SetWidth(1024 * kTwipsPerPixel - 240);
+  frmMain.cboFont.SetVisible(true);
+  frmMain.cboSize.SetVisible(true);
+  frmMain.txtBookland.SetVisible(true);
+  for (PictureBox* panel :
+       {&frmMain.picProperties, &frmMain.picText, &frmMain.picBCode, &frmMain.picDrawing,
+        &frmMain.picPicture, &frmMain.picFields, &frmMain.picPrint, &frmMain.picSellAll}) {
+    Front(*panel);
+    const std::vector<const QWidget*> parts = Parts(Find(ObjectName(*panel)));
+    EXPECT_GT(parts.size(), 4U) << panel->Name();
+    const QRect strip = Place(ObjectName(*panel));
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+      const QRect place = Place(*parts[i]);
+      const std::string name = panel->Name() + " " + parts[i]->objectName().toStdString();
+      EXPECT_TRUE(strip.contains(place)) << name;
+      EXPECT_GE(place.width(), parts[i]->minimumWidth()) << name;
+      if (parts[i]->property("tone") == "caption") {
+        EXPECT_GE(place.width(), parts[i]->sizeHint().width()) << name << " is cut";
+      }
+      for (std::size_t k = 0; k < i; ++k) {
+        EXPECT_FALSE(place.intersects(Place(*parts[k])))
+            << name << " lies on " << parts[k]->objectName().toStdString();
+      }
+    }
+  }
+}
+
+// Room that is there is used: the lists have the width of the design again.
+TEST_F(LayoutTest, ListsHaveTheirWidthInAWideWindow) {
+  frmMain.cboFont.SetVisible(true);
+  frmMain.cboSize.SetVisible(true);
+  const std::pair<PictureBox*, std::vector<std::pair<const char*, int>>> rows[] = {
+      {&frmMain.picBCode, {{"cboBCode", 210}, {"txtBCodeData", 210}, {"cboFont", 190}}},
+      {&frmMain.picText, {{"cboFont", 190}}}};
+  for (const auto& [panel, fields] : rows) {
+    Front(*panel);
+    for (const auto& [name, width] : fields) EXPECT_EQ(Place(name).width(), width) << name;
+  }
+}
+
+// Each field of the dialog has its caption at its left, in one column.
+TEST_F(LayoutTest, TheSerialDialogsCaptionsStandInOneColumn) {
+  Load(frmSerialNumber);
+  QWidget& dialog = *WindowOf(frmSerialNumber);
+  dialog.show();
+  Settle();
+  const auto place = [&](const QWidget& widget) {
+    return QRect(widget.mapTo(&dialog, QPoint(0, 0)), widget.size());
+  };
+  int captions = 0;
+  for (const QLabel* caption : dialog.findChildren<QLabel*>()) {
+    if (!caption->buddy()) continue;
+    ++captions;
+    const QRect left = place(*caption), field = place(*caption->buddy());
+    EXPECT_TRUE(caption->isVisible()) << caption->text().toStdString();
+    EXPECT_EQ(left.right(), place(*dialog.findChild<QLabel*>("captionSerPref")).right())
+        << caption->text().toStdString();
+    EXPECT_NEAR(left.center().y(), field.center().y(), 2) << caption->text().toStdString();
+    EXPECT_GT(field.left(), left.right());
+    EXPECT_LT(field.left(), left.right() + 12);
+  }
+  EXPECT_EQ(captions, 6);
 }
 
 // A desktop with large print, from before the window is made.

@@ -84,14 +84,35 @@ TEST_F(ThemeTest, PointersAreSharpOnADenseScreen) {
 }
 
 TEST_F(ThemeTest, PointerCodesHaveTheirShapes) {
-  EXPECT_EQ(PointerShape(0), Qt::ArrowCursor);
-  EXPECT_EQ(PointerShape(1), Qt::ArrowCursor);
-  EXPECT_EQ(PointerShape(2), Qt::CrossCursor);
-  EXPECT_EQ(PointerShape(3), Qt::IBeamCursor);
-  EXPECT_EQ(PointerShape(6), Qt::SizeBDiagCursor);
-  EXPECT_EQ(PointerShape(8), Qt::SizeFDiagCursor);
-  EXPECT_EQ(PointerShape(11), Qt::WaitCursor);
-  EXPECT_EQ(PointerShape(14), Qt::WhatsThisCursor);
+  const Qt::CursorShape shapes[] = {
+      Qt::ArrowCursor,     Qt::ArrowCursor,   Qt::CrossCursor,     Qt::IBeamCursor,
+      Qt::SizeAllCursor,   Qt::SizeAllCursor, Qt::SizeBDiagCursor, Qt::SizeVerCursor,
+      Qt::SizeFDiagCursor, Qt::SizeHorCursor, Qt::UpArrowCursor,   Qt::WaitCursor,
+      Qt::ForbiddenCursor, Qt::BusyCursor,    Qt::WhatsThisCursor, Qt::SizeAllCursor};
+  int code = 0;
+  for (const Qt::CursorShape shape : shapes) {
+    EXPECT_EQ(PointerShape(code), shape) << code;
+    ++code;
+  }
+  EXPECT_EQ(code, 16);
+  EXPECT_EQ(PointerShape(16), Qt::ArrowCursor);
+}
+
+// Samples may have any colour, that of the card too.
+TEST_F(ThemeTest, SamplesAreSeenInBothLooks) {
+  for (const Theme* theme : {&LightTheme(), &DarkTheme()}) {
+    EXPECT_GE(Contrast(theme->sample_rim, theme->card), 3) << theme->dark;
+  }
+  Front(frmMain.picDrawing);
+  for (const Theme* theme : {&LightTheme(), &DarkTheme()}) {
+    UseTheme(Toolkit(), *theme);
+    Label& sample = frmMain.lblBCol(6);
+    const QColor card = theme->card;
+    sample.SetBackColor(Rgb(card.red(), card.green(), card.blue()));
+    const QImage image = Find("lblBCol_6").grab().toImage();
+    EXPECT_EQ(image.pixelColor(image.width() / 2, 0), theme->sample_rim) << theme->dark;
+    EXPECT_EQ(image.pixelColor(image.width() / 2, image.height() / 2), card) << theme->dark;
+  }
 }
 
 TEST_F(ThemeTest, TheLookFollowsADarkDesktop) {
@@ -99,6 +120,42 @@ TEST_F(ThemeTest, TheLookFollowsADarkDesktop) {
   EXPECT_TRUE(CurrentTheme().dark);
   EXPECT_EQ(Toolkit().palette().color(QPalette::Base), DarkTheme().field);
   FollowDesktopTheme(Toolkit());  // the display of the tests is a light one
+  EXPECT_FALSE(CurrentTheme().dark);
+}
+
+// Counts how often a widget is styled anew.
+class StyleWatch : public QObject {
+ public:
+  int styled = 0;
+  bool eventFilter(QObject*, QEvent* event) override {
+    styled += event->type() == QEvent::StyleChange;
+    return false;
+  }
+};
+
+// Each window is told that the desktop has another theme, and styling all of them anew is dear.
+TEST_F(ThemeTest, AThemeThatChangesIsFollowedOnceForAllWindows) {
+  FollowDesktopTheme(Toolkit());
+  StyleWatch watch;
+  QWidget& widget = Find("txtTool");
+  widget.installEventFilter(&watch);
+  const auto told = [&](int windows) {
+    watch.styled = 0;
+    for (int i = 0; i < windows; ++i) {
+      QEvent change(QEvent::ThemeChange);
+      QCoreApplication::sendEvent(&Window(), &change);
+    }
+    EXPECT_EQ(watch.styled, 0) << "not in the middle of telling";
+    Settle();
+    return watch.styled;
+  };
+  UseTheme(Toolkit(), DarkTheme());
+  const int once = told(1);
+  EXPECT_GT(once, 0);
+  EXPECT_FALSE(CurrentTheme().dark);
+  EXPECT_EQ(told(5), once);
+  UseTheme(Toolkit(), DarkTheme());
+  EXPECT_EQ(told(1), once) << "the next change is followed too";
   EXPECT_FALSE(CurrentTheme().dark);
 }
 
