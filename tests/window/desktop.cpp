@@ -94,7 +94,8 @@ struct Session {
     StartWindowManager();
     atspi_init();
     atspi_accessible_set_cache_mask(atspi_get_desktop(0), ATSPI_CACHE_NONE);
-    atspi_set_timeout(5000, 5000);
+    constexpr int kAnswer = 30'000;  // milliseconds: a busy machine may keep the program waiting
+    atspi_set_timeout(kAnswer, kAnswer);
   }
 
   ~Session() {
@@ -351,8 +352,10 @@ std::string Shell(const std::string& command, bool must) {
 
 void WaitFor(const std::string& what, const std::function<bool()>& holds, double seconds) {
   const auto end = Clock::now() + std::chrono::duration<double>(seconds);
+  bool last_look = false;  // on a busy machine a single one may take all the time there is
   while (!holds()) {
-    if (Clock::now() > end) Fail("waited in vain for " + what + ScreenAtFailure());
+    if (last_look) Fail("waited in vain for " + what + ScreenAtFailure());
+    last_look = Clock::now() > end;
     Pause(20);
   }
 }
@@ -485,13 +488,16 @@ Spoken Focused(const Program& program) {
   return found;
 }
 
+// Waits for the control and does it once.
 static bool DoBySpeech(const Program& program, const std::string& name, const std::string& role,
                        bool (*act)(AtspiAccessible*)) {
   bool done = false;
-  WalkProgram(program, [&](AtspiAccessible* node) {
-    if (!Matches(node, name, role)) return false;
-    done = act(node);
-    return true;
+  WaitFor("\"" + name + "\" " + role, [&] {
+    return WalkProgram(program, [&](AtspiAccessible* node) {
+      if (!Matches(node, name, role)) return false;
+      done = act(node);
+      return true;
+    });
   });
   return done;
 }

@@ -29,8 +29,9 @@ constexpr int kScreenHeight = 1700;
 // Output of a shell command, without its last newline. Throws when it fails and `must` is set.
 std::string Shell(const std::string& command, bool must = true);
 
-// Polls until `holds` is true; throws with `what` in the message after `seconds`.
-void WaitFor(const std::string& what, const std::function<bool()>& holds, double seconds = 15);
+// Polls until `holds` is true; throws with `what` in the message when it is not after `seconds`.
+// They are many for a busy machine: who waits for what comes waits no longer for it.
+void WaitFor(const std::string& what, const std::function<bool()>& holds, double seconds = 30);
 
 // --- the program ---------------------------------------------------------------------------------
 
@@ -55,7 +56,7 @@ class Program {
   Box Frame() const;
   bool Running() const;
   // Waits for the end by itself; returns the exit code, or minus the signal that ended it.
-  int WaitForExit(double seconds = 15);
+  int WaitForExit(double seconds = 30);
   // Peak memory in kilobytes.
   long PeakMemory() const;
 

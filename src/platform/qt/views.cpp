@@ -478,6 +478,7 @@ class ButtonView : public WidgetView {
       : WidgetView(button, widget), button_(button), face_(widget) {
     connect(&widget, &QAbstractButton::clicked, this, [this] {
       ShowDown();  // the model says whether it stays pressed, not the toolkit
+      if (button_.Waits()) return;  // an assistive tool reaches behind a modal window
       button_.UserFocus();
       button_.Press();
     });
@@ -533,6 +534,7 @@ class CheckView : public WidgetView {
   void Turn() {
     turned_ = true;
     Render(Aspect::kValue);  // the model turns it over, not the toolkit
+    if (box_.Waits()) return;
     box_.UserFocus();
     box_.Press();
   }
@@ -618,6 +620,14 @@ char32_t KeyCharacter(const QKeyEvent& event) {
   }
 }
 
+// The middle button pastes what is selected somewhere.
+bool PastesSelection(const QEvent& event) {
+  return event.type() == QEvent::MouseButtonRelease &&
+         static_cast<const QMouseEvent&>(event).button() == Qt::MiddleButton;
+}
+
+QString SelectedSomewhere() { return QApplication::clipboard()->text(QClipboard::Selection); }
+
 // What a field of one line and one of several have in common: the toolkit shows text and caret, and
 // every character comes from the model.
 class TextView : public WidgetView {
@@ -630,14 +640,10 @@ class TextView : public WidgetView {
   }
 
   bool eventFilter(QObject* object, QEvent* event) override {
-    // The middle button pastes what is selected somewhere.
-    if (event->type() == QEvent::MouseButtonRelease &&
-        static_cast<QMouseEvent*>(event)->button() == Qt::MiddleButton) {
-      WidgetView::eventFilter(object, event);
-      Type(QApplication::clipboard()->text(QClipboard::Selection));
-      return true;
-    }
-    return WidgetView::eventFilter(object, event);
+    const bool taken = WidgetView::eventFilter(object, event);
+    if (!PastesSelection(*event)) return taken;
+    Type(SelectedSomewhere());
+    return true;
   }
 
  protected:
@@ -831,7 +837,10 @@ class ComboView : public WidgetView {
                        event->type() == QEvent::KeyPress || event->type() == QEvent::Wheel ||
                        event->type() == QEvent::Paint;
     if (opens && stale_) Refresh();
-    return WidgetView::eventFilter(object, event);
+    const bool taken = WidgetView::eventFilter(object, event);
+    if (object != list_.lineEdit() || !PastesSelection(*event)) return taken;
+    Type(SelectedSomewhere());
+    return true;
   }
 
  protected:

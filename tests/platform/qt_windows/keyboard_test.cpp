@@ -5,6 +5,8 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPlainTextEdit>
+#include <QTextBlock>
+#include <QTextLayout>
 #include <QTimer>
 
 #include "platform/qt/views.h"
@@ -32,6 +34,28 @@ class KeyboardTest : public WindowTest {
     QInputMethodEvent event;
     event.setCommitString(text);
     QCoreApplication::sendEvent(QApplication::focusWidget(), &event);
+  }
+  void Compose(const QString& text) {
+    QInputMethodEvent event(text, {});
+    QCoreApplication::sendEvent(QApplication::focusWidget(), &event);
+  }
+  // The field of several lines, with `text` in it and the keyboard at its end.
+  QPlainTextEdit& Lines(const std::string& text) {
+    Front(frmMain.picText);
+    frmMain.txtTool.SetText(text);
+    frmMain.txtTool.SetFocus();
+    frmMain.txtTool.SetSelStart(static_cast<int>(text.size()));
+    return Find<QPlainTextEdit>("txtTool");
+  }
+  // The field of a list that is typed in.
+  QLineEdit& EditOf(ComboBox& combo) {
+    Front(frmMain.picText);
+    combo.SetVisible(true);
+    Settle();
+    return *Find<QComboBox>(ToQt(combo.Name())).lineEdit();
+  }
+  static QString Composed(const QPlainTextEdit& lines) {
+    return lines.textCursor().block().layout()->preeditAreaText();
   }
   using Log = std::vector<std::string>;
 };
@@ -112,6 +136,58 @@ TEST_F(KeyboardTest, AnInputMethodComesAsCharacters) {
   EXPECT_EQ(Find<QLineEdit>("txtNoCopies").text(), QString::fromUtf8("é𝄞"));
 }
 
+// What an input method composes is shown where it will stand, and is no text before it is entered.
+TEST_F(KeyboardTest, WhatIsBeingComposedIsShownUntilItIsEntered) {
+  const QPlainTextEdit& lines = Lines("a");
+  frmMain.txtTool.Events().Change = [this] { log.push_back(frmMain.txtTool.Text()); };
+  Compose("ka");
+  EXPECT_EQ(Composed(lines), "ka");
+  EXPECT_EQ(log, Log());
+  Commit("か");
+  EXPECT_EQ(Composed(lines), "") << "or it would stand there twice";
+  EXPECT_EQ(lines.toPlainText(), "aか");
+  EXPECT_EQ(log, Log({"aか"}));
+}
+
+// A handler that takes what was composed takes it off the screen, too.
+TEST_F(KeyboardTest, WhatWasComposedIsGoneWhenAHandlerSwallowsIt) {
+  const QPlainTextEdit& lines = Lines("a");
+  frmMain.txtTool.Events().KeyPress = [](int& key) { key = 0; };
+  Compose("ka");
+  Commit("か");
+  EXPECT_EQ(Composed(lines), "");
+  EXPECT_EQ(lines.toPlainText(), "a");
+  QLineEdit& edit = EditOf(frmMain.cboFont);
+  frmMain.cboFont.SetFocus();
+  frmMain.cboFont.Events().KeyPress = [](int& key) { key = 0; };
+  const auto caret = [&] { return edit.inputMethodQuery(Qt::ImCursorRectangle).toRectF().x(); };
+  const double before = caret();
+  Compose("nnn");
+  EXPECT_GT(caret(), before + 5);
+  Commit("n");
+  EXPECT_EQ(caret(), before);
+}
+
+TEST_F(KeyboardTest, WhatIsBeingComposedInOneLineIsShownUntilItIsEntered) {
+  frmMain.cboFont.Clear();
+  QLineEdit& line = EditOf(frmMain.cboFont);
+  for (TextControl* field :
+       std::initializer_list<TextControl*>{&frmMain.txtNoCopies, &frmMain.cboFont}) {
+    Front(field == &frmMain.cboFont ? frmMain.picText : frmMain.picPrint);
+    field->SetFocus();
+    QLineEdit& edit = field == &frmMain.cboFont ? line : Find<QLineEdit>("txtNoCopies");
+    const auto caret = [&] { return edit.inputMethodQuery(Qt::ImCursorRectangle).toRectF().x(); };
+    const double before = caret();
+    Compose("nnn");
+    EXPECT_GT(caret(), before + 5) << field->Name();
+    EXPECT_EQ(field->Text(), "");
+    Commit("i");
+    EXPECT_LT(caret(), before + 5) << field->Name();
+    EXPECT_EQ(field->Text(), "i");
+    EXPECT_EQ(edit.text(), "i");
+  }
+}
+
 TEST_F(KeyboardTest, BackspaceIsACharacterAndDeleteIsNot) {
   frmMain.txtNoCopies.Events().KeyPress = [this](int& key) { log.push_back(std::to_string(key)); };
   frmMain.txtNoCopies.SetText("abc");
@@ -146,6 +222,54 @@ TEST_F(KeyboardTest, SeveralLinesEndInReturnAndLineFeed) {
   EXPECT_EQ(frmMain.txtTool.Text(), "ab");
 }
 
+// The caret stays where it was: only the selection tells.
+TEST_F(KeyboardTest, SelectingAllFromTheEndIsReported) {
+  Lines("a\r\nb");
+  Key(Qt::Key_A, Qt::ControlModifier);
+  EXPECT_EQ(frmMain.txtTool.SelStart(), 0);
+  EXPECT_EQ(frmMain.txtTool.SelLength(), 4);
+  Type("c");
+  EXPECT_EQ(frmMain.txtTool.Text(), "c");
+}
+
+// What the toolkit does by itself in the field becomes the text, too.
+TEST_F(KeyboardTest, CuttingAndDeletingInSeveralLinesReachTheText) {
+  Lines("ab\r\nc");
+  frmMain.txtTool.Events().Change = [this] { log.push_back(frmMain.txtTool.Text()); };
+  frmMain.txtTool.SetSelStart(1);
+  frmMain.txtTool.SetSelLength(1);
+  Key(Qt::Key_X, Qt::ControlModifier);
+  EXPECT_EQ(QApplication::clipboard()->text(), "b");
+  EXPECT_EQ(frmMain.txtTool.SelStart(), 1);
+  Key(Qt::Key_Delete);
+  EXPECT_EQ(log, Log({"a\r\nc", "ac"}));
+}
+
+TEST_F(KeyboardTest, ALockedFieldKeepsItsText) {
+  const QPlainTextEdit& lines = Lines("ab");
+  frmMain.txtTool.SetLocked(true);
+  frmMain.txtNoCopies.SetText("12");
+  frmMain.txtNoCopies.SetLocked(true);
+  for (TextBox* field : {&frmMain.txtTool, &frmMain.txtNoCopies}) {
+    Front(field == &frmMain.txtTool ? frmMain.picText : frmMain.picPrint);
+    field->SetFocus();
+    field->SetSelStart(0);
+    Key(Qt::Key_Delete);
+    Key(Qt::Key_A, Qt::ControlModifier);
+    Key(Qt::Key_X, Qt::ControlModifier);
+    Type("5");
+  }
+  EXPECT_EQ(lines.toPlainText(), "ab");
+  EXPECT_EQ(frmMain.txtTool.Text(), "ab");
+  EXPECT_EQ(Find<QLineEdit>("txtNoCopies").text(), "12");
+  frmMain.txtTool.SetLocked(false);
+  Front(frmMain.picText);
+  frmMain.txtTool.SetFocus();
+  frmMain.txtTool.SetSelStart(2);
+  Type("c");
+  EXPECT_EQ(frmMain.txtTool.Text(), "abc");
+}
+
 TEST_F(KeyboardTest, APickListTellsTheKeyAndKeepsItsText) {
   frmMain.cboZoom.AddItem("100%");
   frmMain.cboZoom.AddItem("200%");
@@ -171,6 +295,34 @@ TEST_F(KeyboardTest, AComboThatCompletesShowsItsSelection) {
   const QLineEdit* edit = Find<QComboBox>("cboFont").lineEdit();
   EXPECT_EQ(edit->text(), "Arial");
   EXPECT_EQ(edit->selectedText(), "rial");
+}
+
+// --- the middle button --------------------------------------------------------------------------
+
+// It pastes what is selected somewhere, and its release is a release.
+TEST_F(KeyboardTest, TheMiddleButtonIsPressedAndReleased) {
+  frmMain.txtNoCopies.Events().MouseDown = [this](int button, int, double, double) {
+    log.push_back("down " + std::to_string(button));
+  };
+  frmMain.txtNoCopies.Events().MouseUp = [this](int button, int, double, double) {
+    log.push_back("up " + std::to_string(button));
+  };
+  QWidget& field = Find("txtNoCopies");
+  QTest::mouseClick(Screen(), Qt::MiddleButton, {}, field.mapTo(&Window(), field.rect().center()));
+  EXPECT_EQ(log, Log({"down 4", "up 4"}));
+}
+
+TEST_F(KeyboardTest, TheFieldOfAListIsPressedLikeAnyOther) {
+  QLineEdit& edit = EditOf(frmMain.cboFont);
+  frmMain.cboFont.Events().GotFocus = [this] { log.push_back("focus"); };
+  frmMain.cboFont.Events().MouseDown = [this](int button, int, double, double) {
+    log.push_back("down " + std::to_string(button));
+  };
+  frmMain.cboFont.Events().MouseUp = [this](int button, int, double, double) {
+    log.push_back("up " + std::to_string(button));
+  };
+  QTest::mouseClick(Screen(), Qt::LeftButton, {}, edit.mapTo(&Window(), edit.rect().center()));
+  EXPECT_EQ(log, Log({"focus", "down 1", "up 1"}));
 }
 
 // --- the window sees every key first ------------------------------------------------------------
@@ -383,6 +535,45 @@ TEST_F(KeyboardTest, CoveringThePanelOfTheHolderTellsNobody) {
   Front(frmMain.picText);
   EXPECT_EQ(log, Log());
   EXPECT_TRUE(frmMain.txtNoCopies.HasFocus()) << "it is covered, not hidden";
+}
+
+// A routine gives the keyboard to a field before it brings the field's panel to the front.
+TEST_F(KeyboardTest, AFieldOfAPanelThatIsShownLaterHasTheKeyboardThen) {
+  frmMain.txtTool.SetText("");
+  frmMain.txtTool.SetFocus();
+  Settle();
+  Front(frmMain.picText);
+  EXPECT_TRUE(Find("txtTool").hasFocus());
+  Type("a");
+  EXPECT_EQ(frmMain.txtTool.Text(), "a");
+}
+
+TEST_F(KeyboardTest, APanelThatComesBackBringsTheKeyboardBackToItsField) {
+  Front(frmMain.picDrawing);
+  Front(frmMain.picPrint);
+  EXPECT_TRUE(Find("txtNoCopies").hasFocus());
+  Type("7");
+  EXPECT_EQ(frmMain.txtNoCopies.Text(), "7");
+}
+
+// The list of fonts goes along from panel to panel.
+TEST_F(KeyboardTest, AListThatGoesAlongToTheNextPanelKeepsTheKeyboard) {
+  frmMain.cboFont.SetVisible(true);
+  Front(frmMain.picText);
+  frmMain.cboFont.SetFocus();
+  for (PictureBox* panel : {&frmMain.picBCode, &frmMain.picFields, &frmMain.picText}) {
+    Front(*panel);
+    EXPECT_TRUE(Find("cboFont").hasFocus()) << panel->Name();
+    frmMain.cboFont.SetText("");
+    Type("7");
+    EXPECT_EQ(frmMain.cboFont.Text(), "7") << panel->Name();
+  }
+}
+
+TEST_F(KeyboardTest, APanelLaidOverTheBoardsKeyboardTakesNone) {
+  frmMain.txtSetFocus(0).SetFocus();
+  Front(frmMain.picText);
+  EXPECT_TRUE(Find("picBoard").hasFocus());
 }
 
 TEST_F(KeyboardTest, TheTabKeyOfTheProgramLeavesTheField) {

@@ -1,5 +1,6 @@
 #include "platform/qt/views.h"
 
+#include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
@@ -11,6 +12,7 @@
 #include <QStackedWidget>
 #include <QTimer>
 
+#include "platform/event.h"
 #include "platform/qt_windows/window_fixture.h"
 
 namespace tagwright {
@@ -240,6 +242,33 @@ TEST_F(ViewsTest, AButtonTakesTheKeyboardThenClicks) {
   Click("cmdTools_3");
   EXPECT_EQ(log, Log({"tool GotFocus", "down 3", "up", "tool Click"}));
   EXPECT_TRUE(frmMain.cmdTools(3).HasFocus());
+}
+
+// As assistive tools press it: no mouse has brought the keyboard.
+TEST_F(ViewsTest, AButtonThatIsPressedWithoutAMouseTakesTheKeyboardToo) {
+  frmMain.txtNoCopies.SetFocus();
+  Note(frmMain.txtNoCopies.Events(), "copies");
+  Note(frmMain.cmdTools.Events(), "tool");
+  Find<QAbstractButton>("cmdTools_3").click();
+  EXPECT_EQ(log, Log({"copies LostFocus", "tool GotFocus", "tool Click"}));
+  EXPECT_TRUE(frmMain.cmdTools(3).HasFocus());
+}
+
+// The toolkit lets an assistive tool press what a modal window covers.
+TEST_F(ViewsTest, WhatIsPressedBehindAModalWindowIsNotPressed) {
+  Note(frmMain.cmdPreview.Events(), "preview");
+  Note(frmMain.chkXHair.Events(), "hairs");
+  const int hairs = frmMain.chkXHair.Value();
+  Load(frmAbout);
+  QTimer::singleShot(0, [this] {
+    Find<QAbstractButton>("cmdPreview").click();
+    Find<QCheckBox>("chkXHair").toggle();
+    Unload(frmAbout);
+  });
+  RunHandler([] { ShowModal(frmAbout); });
+  EXPECT_EQ(log, Log());
+  EXPECT_EQ(frmMain.chkXHair.Value(), hairs);
+  EXPECT_EQ(Find<QCheckBox>("chkXHair").isChecked(), hairs != 0);
 }
 
 TEST_F(ViewsTest, AQuickSecondPressIsAPress) {

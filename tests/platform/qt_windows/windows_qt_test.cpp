@@ -133,6 +133,16 @@ TEST_F(WindowsQtTest, ClosingAsksTheForm) {
   EXPECT_EQ(log.size(), 2U);
 }
 
+// A handler may go on for long after it has unloaded a window.
+TEST_F(WindowsQtTest, AnUnloadedWindowIsGoneAtOnce) {
+  Load(frmAbout);
+  Show(frmAbout);
+  const QPointer<QWidget> window = WindowOf(frmAbout);
+  ASSERT_TRUE(window->isVisible());
+  Unload(frmAbout);
+  EXPECT_FALSE(window && window->isVisible());
+}
+
 TEST_F(WindowsQtTest, TheSessionsEndHearsWhetherTheWindowStays) {
   bool stays = true;
   frmMain.WindowEvents().Unload = [&](bool& stay) { stay = stays; };
@@ -219,6 +229,20 @@ TEST_F(WindowsQtTest, ADialogOpensOverTheMainWindow) {
   Load(frmAbout);
   EXPECT_EQ(WindowOf(frmAbout)->parentWidget(), &Window());
   EXPECT_EQ(WindowForDialogs(), &Window());
+}
+
+// While another program is in front.
+TEST_F(WindowsQtTest, ADialogHasItsWindowAlsoWhileNoneIsActive) {
+  QWidget other;
+  other.show();
+  other.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+  other.hide();
+  Settle();
+  ASSERT_EQ(QApplication::activeWindow(), nullptr);
+  EXPECT_EQ(WindowForDialogs(), &Window());
+  Window().hide();
+  EXPECT_EQ(WindowForDialogs(), nullptr);
 }
 
 TEST_F(WindowsQtTest, ALargerFontMakesTheStripHigherBeforeStartUp) {
