@@ -477,7 +477,7 @@ class ButtonView : public WidgetView {
   ButtonView(CommandButton& button, QAbstractButton& widget)
       : WidgetView(button, widget), button_(button), face_(widget) {
     connect(&widget, &QAbstractButton::clicked, this, [this] {
-      ShowDown();  // the model says whether it stays pressed, not the toolkit
+      ShowDown();                   // whether it stays pressed is the model's affair
       if (button_.Waits()) return;  // an assistive tool reaches behind a modal window
       button_.UserFocus();
       button_.Press();
