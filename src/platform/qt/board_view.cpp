@@ -18,6 +18,7 @@ namespace {
 
 constexpr double kPixelsPerPoint = 96.0 / 72.0;
 constexpr double kRoundCorner = 0.18;  // of a rounded rectangle's shorter side
+constexpr int kSolid = 1;              // border styles
 constexpr int kDots = 3;
 constexpr int kOval = 2;
 constexpr int kRounded = 4;
@@ -175,7 +176,7 @@ void PaintLine(QPainter& painter, const LineControl& line) {
   const QLineF at = LineOf(line);
   const bool straight = at.x1() == at.x2() || at.y1() == at.y2();
   painter.setRenderHint(QPainter::Antialiasing, !straight);
-  DrawOutline(painter, line.BorderColor(), line.BorderStyle(),
+  DrawOutline(painter, line.BorderColor(), kSolid,
               [&] { painter.drawLine(QLineF(OnPixel(at.p1()), OnPixel(at.p2()))); });
   painter.setRenderHint(QPainter::Antialiasing, false);
 }
