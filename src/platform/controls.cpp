@@ -309,13 +309,6 @@ void LineControl::SetBorderColor(Color value) {
   Notify(Aspect::kLook);
 }
 
-void LineControl::SetBorderStyle(int value) {
-  CheckRange(value, 0, 6);
-  if (value == border_style_) return;
-  border_style_ = value;
-  Notify(Aspect::kLook);
-}
-
 void LineControl::Rescaled(double factor_x, double factor_y) {
   Control::Rescaled(factor_x, factor_y);
   x1_ *= factor_x;

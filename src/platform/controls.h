@@ -226,7 +226,7 @@ class Control {
   void Resize(double width, double height);
   void RaiseMouse(Control& target, MouseEvent event, int button, int shift, double x_twips,
                   double y_twips);
-  void DeliverReleases();
+  static void DeliverReleases(Control* surface);
   void ForgetPress();
   // What waiting releases go by: an address that nobody outside uses as a key.
   const void* ReleaseKey() const { return &order_; }
@@ -574,7 +574,7 @@ class Shape : public Control {
   double corner_size_ = 0;
 };
 
-// A straight line on the board, in the container's unit.
+// A straight solid line on the board, in the container's unit.
 class LineControl : public Control {
  public:
   using Control::Control;
@@ -588,15 +588,12 @@ class LineControl : public Control {
   void SetY2(double value);
   Color BorderColor() const { return border_color_; }
   void SetBorderColor(Color value);
-  int BorderStyle() const { return border_style_; }  // 1 solid, 3 dots
-  void SetBorderStyle(int value);
   void Rescaled(double factor_x, double factor_y) override;
 
  private:
   void Set(double& field, double value);
   double x1_ = 0, y1_ = 0, x2_ = 0, y2_ = 0;
   Color border_color_ = 0;
-  int border_style_ = 1;
 };
 
 // A timer. Ticks that fall due while a handler runs are dropped.
@@ -739,7 +736,6 @@ class Form : public Container {
   const std::string& Caption() const { return caption_; }
   void SetCaption(std::string value);
   WindowState State() const { return state_; }
-  void SetState(WindowState value);  // raises Resize on a change
   // SetWidth, SetHeight and Move raise Resize once when the size really changes; the client area
   // follows by the same difference.
   Color BackColor() const { return back_color_; }

@@ -49,13 +49,6 @@ void Form::SetCaption(std::string value) {
 
 // --- size and state -----------------------------------------------------------------------------
 
-void Form::SetState(WindowState value) {
-  if (value == state_) return;
-  state_ = value;
-  Notify(Aspect::kGeometry);
-  form_events_->Resize.Raise(-1);
-}
-
 // The first place is news even where its numbers are those that it has: 0, 0 is a place too.
 void Form::Placed(bool changed) {
   const bool first = !std::exchange(placed_, true);

@@ -62,32 +62,28 @@ void Control::UserMouseUp(int button, int shift, double x_twips, double y_twips)
   press->x = x_twips;
   press->y = y_twips;
   AfterHandlers(
-      ReleaseKey(), [this] { DeliverReleases(); }, WaitLevel());
+      ReleaseKey(), [surface = this] { DeliverReleases(surface); }, WaitLevel());
 }
 
-void Control::DeliverReleases() {
-  MousePress* press = PressOn(this);
+// The surface may be gone by now, and its press with it: it is only looked for until there is one.
+void Control::DeliverReleases(Control* surface) {
+  MousePress* press = PressOn(surface);
   while (press && press->released) {
     const int button = 1 << std::countr_zero(static_cast<unsigned>(press->released));
     const MousePress before = *press;
     press->buttons &= ~button;
     press->released &= ~button;
-    if (press->buttons == 0) ForgetPress();
-    RaiseMouse(*before.target, &ControlEvents::MouseUp, button, before.shift, before.x, before.y);
-    press = PressOn(this);  // the handler may have ended it
+    if (press->buttons == 0) surface->ForgetPress();
+    surface->RaiseMouse(*before.target, &ControlEvents::MouseUp, button, before.shift, before.x,
+                        before.y);
+    press = PressOn(surface);  // the handler may have ended it
   }
 }
 
 void Control::ForgetPress() {
-  std::vector<MousePress>& presses = Presses();
-  if (presses.empty()) return;
-  const auto mine = [this](const MousePress& press) {
+  std::erase_if(Presses(), [this](const MousePress& press) {
     return press.surface == this || press.target == this;
-  };
-  for (const MousePress& press : presses) {
-    if (mine(press)) ForgetAfterHandlers(press.surface->ReleaseKey());
-  }
-  std::erase_if(presses, mine);
+  });
 }
 
 // Mice have more buttons than handlers know. Those would be down and never up.

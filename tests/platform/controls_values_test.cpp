@@ -266,7 +266,6 @@ TEST_F(ValuesTest, LooksOutsideTheirListsAreRefused) {
   EXPECT_EQ(FaultOf([&] { label.SetMousePointer(99); }), 0);
   EXPECT_EQ(FaultOf([&] { form.shpBox.SetShape(6); }), kBadValue);
   EXPECT_EQ(FaultOf([&] { form.shpBox.SetBorderStyle(7); }), kBadValue);
-  EXPECT_EQ(FaultOf([&] { form.Hair.SetBorderStyle(-1); }), kBadValue);
   EXPECT_EQ(label.BackStyle(), 1);
   EXPECT_EQ(label.MousePointer(), 99);
 }

@@ -19,6 +19,7 @@ namespace {
 constexpr double kPixelsPerPoint = 96.0 / 72.0;
 constexpr double kPenWidth = 1;  // of all that is painted over the picture
 constexpr double kWheelNotch = 120;
+constexpr int kSolid = 1;  // border styles
 constexpr int kDots = 3;
 constexpr int kOval = 2;
 constexpr int kRounded = 4;
@@ -188,7 +189,7 @@ void PaintLine(const BoardPainter& on, const LineControl& line) {
   const QLineF at = LineOf(line);
   const bool straight = at.x1() == at.x2() || at.y1() == at.y2();
   painter.setRenderHint(QPainter::Antialiasing, !straight);
-  DrawOutline(painter, line.BorderColor(), line.BorderStyle(),
+  DrawOutline(painter, line.BorderColor(), kSolid,
               [&] { painter.drawLine(QLineF(on.OnPixel(at.p1()), on.OnPixel(at.p2()))); });
   painter.setRenderHint(QPainter::Antialiasing, false);
 }
