@@ -25,6 +25,16 @@ TEST_F(ValuesTest, AListBoxRaisesClickForEachRowChosenAndFaultsOutside) {
   EXPECT_EQ(FaultOf([&] { form.lstRows.List(-1); }), kOutOfBounds);
 }
 
+TEST_F(ValuesTest, TheFirstRowOfAListBoxRaisesClickLikeAnyOther) {
+  form.lstRows.Events().Click = [&] { Log(form.lstRows.Text()); };
+  form.lstRows.AddItem("one");
+  form.lstRows.AddItem("two");
+  form.lstRows.SetListIndex(0);
+  form.lstRows.UserChoose(1);
+  form.lstRows.UserChoose(0);
+  EXPECT_EQ(log, (Lines{"one", "two", "one"}));
+}
+
 TEST_F(ValuesTest, ClearingAListBoxRaisesNothing) {
   form.lstRows.AddItem("one");
   form.lstRows.SetListIndex(0);
