@@ -110,6 +110,44 @@ TEST_F(LoadPictureTest, OfManyPicturesTheOldestAreForgotten) {
   EXPECT_EQ(reads, 258);
 }
 
+// A little more than half of what is kept at most, counted in pixels of the screen.
+PicturePtr HalfReader(const std::string&, std::string_view) {
+  constexpr double kSide = 4100 * 2540.0 / 96;
+  ++reads;
+  return BlankPicture(kSide, kSide);
+}
+
+TEST_F(LoadPictureTest, LargePicturesAreKeptAsLongAsTheyFitTogether) {
+  SetPictureReader(HalfReader);
+  for (const char* name : {"1.gif", "2.gif", "3.gif"}) {
+    std::filesystem::create_symlink(kOldFile, folder.File(name));
+  }
+  LoadPicture(folder.File("1.gif"));
+  LoadPicture(folder.File("2.gif"));
+  LoadPicture(folder.File("1.gif"));
+  EXPECT_EQ(reads, 2) << "the newest is kept whatever follows up to the limit";
+  LoadPicture(folder.File("3.gif"));
+  LoadPicture(folder.File("2.gif"));
+  EXPECT_EQ(reads, 3);
+  LoadPicture(folder.File("1.gif"));
+  EXPECT_EQ(reads, 4) << "the oldest made room";
+}
+
+// A label that shows it needs it at every redraw.
+TEST_F(LoadPictureTest, APictureLargerThanAllThatIsKeptStaysAlone) {
+  SetPictureReader([](const std::string&, std::string_view) {
+    ++reads;
+    return BlankPicture(1e6, 1e6);
+  });
+  std::filesystem::create_symlink(kOldFile, folder.File("1.gif"));
+  LoadPicture(kOldFile);
+  LoadPicture(folder.File("1.gif"));
+  LoadPicture(folder.File("1.gif"));
+  EXPECT_EQ(reads, 2);
+  LoadPicture(kOldFile);
+  EXPECT_EQ(reads, 3);
+}
+
 TEST_F(LoadPictureTest, FindsTheFileWhateverTheCaseOfItsName) {
   WriteFile(folder.File("Logo.GIF"), "good");
   EXPECT_EQ(FaultOf(folder.File("logo.gif")), 0);
