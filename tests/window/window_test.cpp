@@ -66,6 +66,20 @@ TEST_F(Window, ExitLeavesTheSettingsFile) {
   EXPECT_EQ(fs::file_size(Installed("label.dta")), kLayoutsSize);
 }
 
+TEST_F(Window, TheMiddleButtonPastesWhatIsSelectedSomewhere) {
+  Program program(folder);
+  Click(Find(program, "Text Tool").box);
+  const Box text = Find(program, "Text", "text").box;
+  Click(text);
+  Type("Dz7z");
+  WaitForText(program, "Text", "Dz7z");
+  Drag(text.x + 60, text.y + 12, text.x + 2, text.y + 12);
+  Key("ctrl+p");
+  const Box copies = Find(program, "No. Copies", "text").box;
+  Click(copies.x + 4, copies.y + copies.height / 2, 2);
+  WaitForText(program, "No. Copies", "Dz7z1");
+}
+
 TEST_F(Window, CtrlQAndTheCloseButtonLeaveAsExitDoes) {
   for (const char* keys : {"ctrl+q", "alt+F4"}) {
     Program program(folder);

@@ -620,14 +620,6 @@ char32_t KeyCharacter(const QKeyEvent& event) {
   }
 }
 
-// The middle button pastes what is selected somewhere.
-bool PastesSelection(const QEvent& event) {
-  return event.type() == QEvent::MouseButtonRelease &&
-         static_cast<const QMouseEvent&>(event).button() == Qt::MiddleButton;
-}
-
-QString SelectedSomewhere() { return QApplication::clipboard()->text(QClipboard::Selection); }
-
 // What a field of one line and one of several have in common: the toolkit shows text and caret, and
 // every character comes from the model.
 class TextView : public WidgetView {
@@ -640,10 +632,14 @@ class TextView : public WidgetView {
   }
 
   bool eventFilter(QObject* object, QEvent* event) override {
-    const bool taken = WidgetView::eventFilter(object, event);
-    if (!PastesSelection(*event)) return taken;
-    Type(SelectedSomewhere());
-    return true;
+    // The middle button pastes what is selected somewhere.
+    if (event->type() == QEvent::MouseButtonRelease &&
+        static_cast<QMouseEvent*>(event)->button() == Qt::MiddleButton) {
+      WidgetView::eventFilter(object, event);
+      Type(QApplication::clipboard()->text(QClipboard::Selection));
+      return true;
+    }
+    return WidgetView::eventFilter(object, event);
   }
 
  protected:
@@ -837,10 +833,7 @@ class ComboView : public WidgetView {
                        event->type() == QEvent::KeyPress || event->type() == QEvent::Wheel ||
                        event->type() == QEvent::Paint;
     if (opens && stale_) Refresh();
-    const bool taken = WidgetView::eventFilter(object, event);
-    if (object != list_.lineEdit() || !PastesSelection(*event)) return taken;
-    Type(SelectedSomewhere());
-    return true;
+    return WidgetView::eventFilter(object, event);
   }
 
  protected:
