@@ -75,7 +75,7 @@ TEST_F(PrintWindow, ANewLabelAfterAMergePrintsItsSheet) {
   WaitForWindow("Tagwright");
   WaitFor("the sheet", [&] { return fs::exists(pdf); });
   EXPECT_EQ(Pages(pdf), 1);
-  Key("ctrl+n");
+  ChooseMenu(program, {"File", "New"});
   WaitFor("a new label", [&] { return program.Title().find("[untitled]") != std::string::npos; });
   ChooseMenu(program, {"File", "Print"});
   EXPECT_EQ(Find(program, "Labels", "label").description, "Labels: 14");
