@@ -51,13 +51,13 @@ std::string Decoded(MdbHandle* file, std::string_view stored) {
   return out;
 }
 
-// One piece of a memo: a row on a page of its own, by page and row number.
+// One piece of a memo: a row on a page of its own, by page and row number. Its place comes without
+// the marks that other rows have in theirs.
 std::string_view MemoPiece(MdbHandle* file, std::uint32_t page_and_row) {
   void* page = nullptr;
   int start = 0;
   std::size_t length = 0;
   if (mdb_find_pg_row(file, static_cast<int>(page_and_row), &page, &start, &length) != 0) return {};
-  start &= kRowStart;
   const auto page_size = static_cast<std::size_t>(file->fmt->pg_size);
   if (static_cast<std::size_t>(start) + length > page_size) return {};
   return {static_cast<const char*>(page) + start, length};
