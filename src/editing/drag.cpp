@@ -91,8 +91,8 @@ void ShowFrame(int shape) {
 }
 
 void TakePlaceOfFrame(ObjectRecord& object) {
-  CarryOn([&] { object.Left = ToSingle(frmMain.shpBox.Left() - BoardOriginX); });
-  CarryOn([&] { object.Top = ToSingle(frmMain.shpBox.Top() - BoardOriginY); });
+  Traced([&] { object.Left = ToSingle(frmMain.shpBox.Left() - BoardOriginX); });
+  Traced([&] { object.Top = ToSingle(frmMain.shpBox.Top() - BoardOriginY); });
 }
 
 BoardPoint AnchorOf(int corner) {
@@ -110,7 +110,7 @@ BoardPoint AnchorOf(int corner) {
 
 bool LineIsSelected() {
   bool is_line = false;
-  CarryOn([&] { is_line = SelectedObject != -1 && ObjectAt(SelectedObject).ObjType == kLine; });
+  Traced([&] { is_line = SelectedObject != -1 && ObjectAt(SelectedObject).ObjType == kLine; });
   return is_line;
 }
 
@@ -139,8 +139,8 @@ bool HasMoved(const Label& hold) {
 }
 
 void MoveBy(ObjectRecord& object, double dx, double dy) {
-  CarryOn([&] { object.Left = ToSingle(object.Left + dx); });
-  CarryOn([&] { object.Top = ToSingle(object.Top + dy); });
+  Traced([&] { object.Left = ToSingle(object.Left + dx); });
+  Traced([&] { object.Top = ToSingle(object.Top + dy); });
 }
 
 // An object that is in the list twice moves twice.
@@ -148,7 +148,7 @@ void DropGroup() {
   const double dx = frmMain.shpBox.Left() - BoxStartLeft;
   const double dy = frmMain.shpBox.Top() - BoxStartTop;
   for (int i = 0; i <= SelectedUpper; ++i) {
-    CarryOn([&] { MoveBy(ObjectAt(SelectedMember(i)), dx, dy); });
+    Traced([&] { MoveBy(ObjectAt(SelectedMember(i)), dx, dy); });
   }
   PlaceHandlesAroundFrame(kHandleGap);
   RedrawBoard();
@@ -164,8 +164,8 @@ void PutBack(Label& hold) {
 }
 
 void TakeSizeOfRecord(Control& control, const ObjectRecord& object) {
-  CarryOn([&] { control.SetWidth(object.Width); });
-  CarryOn([&] { control.SetHeight(object.Height); });
+  Traced([&] { control.SetWidth(object.Width); });
+  Traced([&] { control.SetHeight(object.Height); });
 }
 
 // A text is not painted anew: its hit area shows it.
@@ -193,14 +193,14 @@ bool IsShownAsBarcode(const ObjectRecord& object) {
 
 void ScaleFont(ObjectRecord& object) {
   const double ratio = WidthRatio(frmMain.shpBox.Width(), StartWidth);
-  CarryOn([&] { object.FontSize = ScaledFontSize(ratio, object.FontSize); });
+  Traced([&] { object.FontSize = ScaledFontSize(ratio, object.FontSize); });
 }
 
 void MeasureText(Label& hold, const ObjectRecord& object) {
-  CarryOn([&] { hold.SetAutoSize(true); });
-  CarryOn([&] { hold.SetCaption(object.Text.Trimmed()); });
-  CarryOn([&] { hold.SetFontSize(object.FontSize * ZoomFactor); });
-  CarryOn([&] { hold.SetFontName(object.FontName.Trimmed()); });
+  Traced([&] { hold.SetAutoSize(true); });
+  Traced([&] { hold.SetCaption(object.Text.Trimmed()); });
+  Traced([&] { hold.SetFontSize(object.FontSize * ZoomFactor); });
+  Traced([&] { hold.SetFontName(object.FontName.Trimmed()); });
   hold.SetAutoSize(false);
 }
 
@@ -238,9 +238,9 @@ void KeepThickness(ObjectRecord& line, double width, double height) {
 void TakeSizeOfFrame(ObjectRecord& object) {
   const double width = object.Width;
   const double height = object.Height;
-  CarryOn([&] { object.Width = ToFinite(frmMain.shpBox.Width()); });
+  Traced([&] { object.Width = ToFinite(frmMain.shpBox.Width()); });
   if (SizedByFont(object)) return;
-  CarryOn([&] { object.Height = ToFinite(frmMain.shpBox.Height()); });
+  Traced([&] { object.Height = ToFinite(frmMain.shpBox.Height()); });
   if (object.ObjType == kLine) KeepThickness(object, width, height);
 }
 
@@ -249,7 +249,7 @@ void TakeSizeOfFrame(ObjectRecord& object) {
 // barcode takes its size from the box.
 void ScaleFontByFrame(ObjectRecord& object) {
   if (IsShownAsBarcode(object)) {
-    CarryOn([&] { ScaleFont(object); });
+    Traced([&] { ScaleFont(object); });
     return;
   }
   try {
@@ -291,7 +291,7 @@ void BeginResize(double X, double Y) {
   AnchorBottom = frame.Top() + frame.Height();
   HandleDownX = UnitsX(X);
   HandleDownY = UnitsY(Y);
-  CarryOn([&] { StartWidth = ToInt32(hold.Width()); });
+  Traced([&] { StartWidth = ToInt32(hold.Width()); });
   StartHeight = hold.Height();
 }
 
@@ -392,12 +392,12 @@ void EndDrag(int Index) {
   DirtyFlag = kTrue;
   ForgetUndo();
   Dragging = false;
-  CarryOn([] { frmMain.SetMousePointer(CursorShape); });
+  Traced([] { frmMain.SetMousePointer(CursorShape); });
   DragMoved = HasMoved(hold);
   if (group_drag) {
-    CarryOn(DropGroup);
+    Traced(DropGroup);
   } else if (SelectedObject > -1) {
-    CarryOn([&] { DragMoved ? DropObject(hold) : PutBack(hold); });
+    Traced([&] { DragMoved ? DropObject(hold) : PutBack(hold); });
   }
   ShowSizeFields();
 }
