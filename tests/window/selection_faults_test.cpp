@@ -49,15 +49,19 @@ class SelectionWindow : public testing::Test {
 
 TEST_F(SelectionWindow, DeleteInAFieldDeletesNoObject) {
   DrawShape(program, paper, "Rectangle", 20, 8, 40, 18);
+  WaitToHear(program, "Label", "Rectangle at");
   Click(Find(program, "Width", "text").box);
+  WaitFor("the keyboard in Width", [&] { return Focused(program).name == "Width"; });
   Key("Delete");
   TypeText("Fig", 60, 20);
   Click(FindCombo(program, "Font").box);
   Key("Delete");
   EXPECT_EQ(Saved().size(), 2U);
-  paper.Click(30, 13);
-  Key("Delete");
-  EXPECT_EQ(Saved().size(), 1U);
+  paper.Click(60, 18);
+  WaitToHear(program, "Label", "Text \"Fig\"");
+  PressOn(program, "Select Tool");
+  WaitToHear(program, "Label", "Nothing selected");
+  EXPECT_EQ(Saved().size(), 2U);
 }
 
 TEST_F(SelectionWindow, APictureThatIsRefusedLeavesNothingToDelete) {
