@@ -311,6 +311,31 @@ TEST_F(ViewsTest, ASwatchIsClickedWithoutTakingTheKeyboard) {
   EXPECT_EQ(frmMain.ActiveControl(), nullptr);
 }
 
+TEST_F(ViewsTest, ASwatchShowsItsColour) {
+  Front(frmMain.picDrawing);
+  frmMain.lblBCol(4).SetBackColor(Rgb(12, 200, 34));
+  const QImage shown = Find("lblBCol_4").grab().toImage();
+  EXPECT_EQ(shown.pixelColor(shown.rect().center()), QColor(12, 200, 34));
+}
+
+TEST_F(ViewsTest, DraggingOverATextSelectsIt) {
+  Front(frmMain.picPrint);
+  frmMain.txtNoCopies.SetText("1234");
+  QWidget& field = Find("txtNoCopies");
+  const int middle = field.height() / 2;
+  const auto at = [&](int x) { return field.mapTo(&Window(), QPoint(x, middle)); };
+  QTest::mousePress(Screen(), Qt::LeftButton, {}, at(field.width() - 3));
+  QTest::mouseMove(Screen(), at(2));
+  QTest::mouseRelease(Screen(), Qt::LeftButton, {}, at(2));
+  EXPECT_EQ(frmMain.txtNoCopies.SelText(), "1234");
+}
+
+// A file may be named so.
+TEST_F(ViewsTest, ACaptionIsShownLetterByLetter) {
+  frmMain.lblGraphicX.SetCaption("<b>6</b>");
+  EXPECT_EQ(Find<QLabel>("lblGraphicX").textFormat(), Qt::PlainText);
+}
+
 TEST_F(ViewsTest, ScrollingRaisesChange) {
   Note(frmMain.vS1.Events(), "scroll");
   Find<QScrollBar>("vS1").triggerAction(QAbstractSlider::SliderPageStepAdd);
