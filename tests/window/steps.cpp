@@ -42,6 +42,8 @@ void BrowseToData(const Program& program, const std::string& kind, const std::st
   WaitForWindow("Open");
   Type(path);
   Key("Return");
+  // A slow machine gives the keyboard back before the dialog is gone from the screen.
+  WaitFor("the dialog to close", [] { return std::ranges::count(WindowTitles(), "Open") == 0; });
   WaitForWindow("Tagwright");
 }
 
