@@ -406,23 +406,24 @@ void EndDrag(int Index) {
 
 void lblHandle_MouseDown(int /*Index*/, int Button, int /*Shift*/, double X, double Y) {
   if (Button != kLeftButton || SelectedUpper > -1 || SelectedObject < 0) return;
-  if (KeepsItsSize(ObjectAt(SelectedObject))) return;
-  BeginResize(X, Y);
+  Traced([&] {
+    if (!KeepsItsSize(ObjectAt(SelectedObject))) BeginResize(X, Y);
+  });
 }
 
 void lblHandle_MouseMove(int Index, int /*Button*/, int /*Shift*/, double X, double Y) {
   Label& handle = frmMain.lblHandle(Index);
-  TrackStatus(handle, X, Y);
+  Traced([&] { TrackStatus(handle, X, Y); });
   if (frmMain.MousePointer() != kCustomPointer) {
     frmMain.SetMousePointer(Index == 0 || Index == 3 ? kFallingPointer : kRisingPointer);
   }
   if (!Dragging) return;
   HideHandlesOnce();
   frmMain.shpBox.SetBorderStyle(kSolid);
-  MoveHandle(handle, UnitsX(X), UnitsY(Y));
+  Traced([&] { MoveHandle(handle, UnitsX(X), UnitsY(Y)); });
   const BoardPoint corner =
       CornerOfHandle(Index, FrameOf(handle), ScreenX(kHandleGap), ScreenY(kHandleGap));
-  TrackRubberBox(corner.x, corner.y, AnchorOfHandle(Index));
+  Traced([&] { TrackRubberBox(corner.x, corner.y, AnchorOfHandle(Index)); });
 }
 
 void lblHandle_MouseUp(int /*Index*/, int /*Button*/, int /*Shift*/, double /*X*/, double /*Y*/) {

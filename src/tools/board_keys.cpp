@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "common/diagnostics.h"
 #include "document/objects.h"
 #include "document/selection_state.h"
 #include "editing/drag.h"
@@ -27,8 +28,6 @@ bool BoardHasKeyboard() {
   const Control* active = frmMain.ActiveControl();
   return !active || active == &frmMain.txtSetFocus(0);
 }
-
-bool MouseIsAtWork() { return Dragging || RubberBox || RubberLine; }
 
 // --- placing ------------------------------------------------------------------------------------
 
@@ -67,9 +66,9 @@ void PlaceInMiddle() {
   EndGroup();  // of what an empty text has left behind
   DrawUp(middle, DragOfTool());
   CentrePicture = true;
-  if (RubberBox || RubberLine) PlaceObject();
+  if (RubberBox || RubberLine) Traced(PlaceObject);
   CentrePicture = false;
-  if (CurrentTool == kDataField) PlaceFieldAt(middle.x, middle.y);
+  if (CurrentTool == kDataField) Traced([&] { PlaceFieldAt(middle.x, middle.y); });
 }
 
 // --- selecting ----------------------------------------------------------------------------------
@@ -120,7 +119,7 @@ bool ActOnBoard(int key) {
 
 void BoardKeyDown(int& KeyCode, int Shift) {
   if (KeyCode == kEscapeKey) return PutToolsAway();
-  if (Shift != 0 || !BoardHasKeyboard() || MouseIsAtWork()) return;
+  if (Shift != 0 || !BoardHasKeyboard() || GestureUnderWay()) return;
   if (ActOnBoard(KeyCode)) KeyCode = 0;
 }
 

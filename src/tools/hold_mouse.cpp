@@ -180,13 +180,13 @@ void SelectOne(int index, int button, double x, double y) {
   if (!left) Traced([&] { ShowFrameOf(index); });
   if (button == kRightButton) Traced([&] { OpenMenuOf(index); });
   if (CurrentTool > kNoTool) {
-    if (left) BeginToolOver(index, x, y);
+    if (left) Traced([&] { BeginToolOver(index, x, y); });
   } else {
     if (left) Traced([&] { TakeHold(index, x, y); });
     FillPanelFromObject();
   }
   if (!GestureUnderWay()) ShowSizeFields();
-  ShowObject(index);
+  Traced([&] { ShowObject(index); });
 }
 
 }  // namespace

@@ -391,6 +391,19 @@ TEST_F(DragTest, WithTheMarkerFileTheRatioThatCannotBeFormedIsTold) {
   EXPECT_EQ(dialogs.messages[0].text.substr(0, 5), "11 - ");
 }
 
+TEST_F(DragTest, OnlyTheMarkerTellsOfAHandleAroundNothing) {
+  SelectAbcd(20);
+  SelectedObject = 7;
+  AppFolder = folder.File("");
+  lblHandle_MouseDown(3, kLeftButton, 0, 0, 0);
+  EXPECT_TRUE(dialogs.messages.empty());
+  WriteFile(AppFolder + "tracemark.flg", "");
+  lblHandle_MouseDown(3, kLeftButton, 0, 0, 0);
+  ASSERT_EQ(dialogs.messages.size(), 1U);
+  EXPECT_EQ(dialogs.messages[0].text, "9 - Subscript out of range");
+  EXPECT_FALSE(Dragging);
+}
+
 // It takes its size from the box and not from its font.
 TEST_F(DragTest, AFieldShownAsABarcodeGrowsFromNoWidth) {
   ObjectRecord field = Field(0, 100, "Abcd");

@@ -43,6 +43,20 @@ TEST_F(UndoTest, AGroupIsCopiedUpToTheDocumentsBound) {
   EXPECT_EQ(UndoRecords[3], ObjectRecord{});  // of no object: passed over
 }
 
+TEST_F(UndoTest, OnlyTheMarkerTellsOfAMemberThatIsNoObject) {
+  PutBox(10, 10);
+  PutBox(30, 10);
+  SelectedList = {0, 9};
+  SelectedList.resize(kSelectionSlots);
+  SelectedUpper = 1;
+  SaveUndoDelete();
+  EXPECT_TRUE(dialogs.messages.empty());
+  Made("tracemark.flg", "");
+  SaveUndoDelete();
+  ASSERT_EQ(dialogs.messages.size(), 1u);
+  EXPECT_EQ(dialogs.messages[0].text, "9 - Subscript out of range");
+}
+
 TEST_F(UndoTest, ForgettingKeepsTheCaption) {
   PutBox(10, 10);
   SelectedObject = 0;
