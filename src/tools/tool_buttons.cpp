@@ -178,6 +178,7 @@ void ShowArmedTool() {
   frmMain.cmdRect.SetDown(CurrentTool == kRectangle);
   frmMain.cmdRoundRect.SetDown(CurrentTool == kRoundedRectangle);
   frmMain.cmdEllipse.SetDown(CurrentTool == kEllipse);
+  frmMain.cmdBCode.SetDown(CurrentTool == kBarcode);
 }
 
 void ResetToolButtons() {

@@ -13,8 +13,8 @@ class ArmedToolTest : public HandTest {
     for (const auto& [index, button] : frmMain.cmdTools) {
       if (button->Down()) names += "cmdTools" + std::to_string(index) + " ";
     }
-    for (const CommandButton* button :
-         {&frmMain.cmdLine, &frmMain.cmdRect, &frmMain.cmdRoundRect, &frmMain.cmdEllipse}) {
+    for (const CommandButton* button : {&frmMain.cmdLine, &frmMain.cmdRect, &frmMain.cmdRoundRect,
+                                        &frmMain.cmdEllipse, &frmMain.cmdBCode}) {
       if (button->Down()) names += button->Name() + " ";
     }
     return names;
@@ -59,7 +59,7 @@ TEST_F(ArmedToolTest, ABarcodeShowsOnceItCanBePlaced) {
   TypeInto(frmMain.txtBCodeData, "FIG");
   frmMain.cmdBCode.Press();
   ASSERT_EQ(CurrentTool, kBarcode);
-  EXPECT_EQ(Pressed(), "cmdTools1 ");
+  EXPECT_EQ(Pressed(), "cmdTools1 cmdBCode ");
 }
 
 TEST_F(ArmedToolTest, AColumnsDoubleClickShowsAtTheImport) {
