@@ -98,7 +98,10 @@ void WireStrip(FrmMain& f) {
   f.cboFont.Events().LostFocus = cboFont_LostFocus;
   f.cboFont.Events().Click = ApplyFontProperties;
   f.cboSize.Events().Click = ApplyFontProperties;
-  f.cboLabelLayout.Events().Click = cboLabelLayout_Click;
+  f.cboLabelLayout.Events().Click = [] {
+    cboLabelLayout_Click();
+    ShowLabelsOfJob();
+  };
   f.txtDSize.Events().GotFocus = txtDSize_GotFocus;
   f.txtDSize.Events().LostFocus = txtDSize_LostFocus;
   f.txtDSize.Events().KeyPress = txtDSize_KeyPress;

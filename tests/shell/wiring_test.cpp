@@ -41,7 +41,6 @@ TEST_F(WiringTest, AStartLeavesNothingToSave) { EXPECT_EQ(DirtyFlag, kFalse); }
 
 TEST_F(WiringTest, WhatTheUserChoosesOfWhatTheProjectStoresCountsAsAChange) {
   WriteFile(folder.File("a.csv"), "Name\nAda\n");
-  frmMain.cboRSet.AddItem("People");
   const std::function<void()> choices[] = {
       [] { frmMain.cboLabelLayout.UserChoose(5); },
       [&] {
@@ -49,7 +48,10 @@ TEST_F(WiringTest, WhatTheUserChoosesOfWhatTheProjectStoresCountsAsAChange) {
         frmMain.cmdBrowse.Press();
       },
       [] { frmMain.cboImportType.UserChoose(2); },
-      [] { frmMain.cboRSet.UserChoose(0); },
+      [] {
+        frmMain.cboRSet.AddItem("People");
+        frmMain.cboRSet.UserChoose(0);
+      },
       [] { frmMain.chkFirstRow.Press(); },
       [] { frmMain.chkQuote.Press(); },
   };
@@ -165,6 +167,11 @@ TEST_F(WiringTest, ThePrintPanelFollowsItsFieldsAndTheLabel) {
   frmMain.chkMailshot.Press();
   frmMain.txtPrintTo.SetText("2");
   EXPECT_EQ(frmMain.lblLabels.Caption(), "Labels: 14");
+  frmMain.cboLabelLayout.UserChoose(5);
+  EXPECT_EQ(frmMain.lblLabels.Caption(), "Labels: 21");
+  frmMain.mnuUnitIn.Press();  // which chooses the default layout
+  EXPECT_EQ(frmMain.lblLabels.Caption(), "Labels: 14");
+  frmMain.mnuUnitMM.Press();
   frmMain.chkMailshot.Press();
   EXPECT_EQ(frmMain.lblLabels.Caption(), "Labels: 0");
 
