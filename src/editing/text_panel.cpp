@@ -105,8 +105,8 @@ void TakeTypedText() {
   CarryOn([&] { SelectedHold().SetCaption(text); });
   const auto before = SelectedRecord().Text;
   SelectedRecord().Text = text;
-  if (SelectedRecord().Text != before)
-    DirtyFlag = kTrue;  // keys that are no characters delete, too
+  // Keys that are no characters delete, too.
+  if (SelectedRecord().Text != before) DirtyFlag = kTrue;
   CarryOn([] { SelectedHold().SetAutoSize(true); });
   TakeGeometryOfHold();
   ShowHandles(SelectedHold());

@@ -211,8 +211,7 @@ Job PrintLabels(Progress& progress) {
   return job;
 }
 
-// --- how many labels it has, and why none
-// ---------------------------------------------------------
+// --- how many labels it has, and why none -------------------------------------------------------
 
 // The pages asked for that a job of so many pages has.
 double FirstPageAsked() { return std::max(1.0, std::ceil(FirstPage())); }

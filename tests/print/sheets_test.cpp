@@ -187,6 +187,7 @@ TEST_F(SheetsTest, TheProposedPagesReachBeyondTheLastRow) {
 TEST_F(SheetsTest, ANewLabelAfterAMergePrintsEachOfItsCells) {
   DesignLabel(3);
   PrintToPdf(Pdf());
+  DirtyFlag = kFalse;  // as after a save: nothing is asked
   frmMain.mnuFileNew.Press();
   Add(kText, kTextLeft, kFirstLine, 60, 5).Text = "plain";
   frmMain.mnuFilePrint.Press();
