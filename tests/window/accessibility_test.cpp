@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <ostream>
 #include <set>
 
 #include "window/hand_steps.h"
@@ -220,6 +221,9 @@ TEST_F(SpokenWindow, EveryControlOfTheGroupHasANameOfItsOwn) {
   SelectTwoShapes();
   ExpectNames(kGroup);
 }
+
+// Or its name in a list of tests would be where it lies in memory.
+void PrintTo(const Panel& panel, std::ostream* out) { *out << panel.title; }
 
 class SpokenPanel : public SpokenWindow, public testing::WithParamInterface<Panel> {};
 
