@@ -1,6 +1,7 @@
 // The four fields of place and size.
 #include <algorithm>
 #include <cstddef>
+#include <string>
 
 #include "common/public_functions.h"
 #include "document/redraw.h"
@@ -28,13 +29,15 @@ bool OneIsSelected() {
   return SelectedObject > -1 && SelectedObject <= ObjectUB && SelectedUpper < 0;
 }
 
-// Which of the fields say something else than the record.
+// Which of the fields say something else than the record, and than was shown there: a field that
+// shows what is no longer so has not been typed in.
 class Entries {
  public:
   explicit Entries(const ObjectRecord& record) : shown_(ShownSizeOf(record)) {}
 
   bool Has(Field field) const {
-    return frmMain.txtDSize(field).Text() != shown_[static_cast<std::size_t>(field)];
+    const std::string& record_says = shown_[static_cast<std::size_t>(field)];
+    return !IsAsShown(field) && frmMain.txtDSize(field).Text() != record_says;
   }
 
   // Gives the number to `take` if there is one.

@@ -246,6 +246,16 @@ TEST_F(SizeFieldsTest, FieldsLeftUntouchedChangeNothingInEitherUnit) {
   }
 }
 
+// Whoever has forgotten to show a selection must not cost it its size.
+TEST_F(SizeFieldsTest, AFieldThatStillShowsSomethingElseIsNoEntry) {
+  SelectObject(PutBox(10, 10));
+  ASSERT_EQ(SizeFields(), kNone);
+  UnitScale = 25.4;
+  TypeInto(frmMain.txtDSize(0), "2");
+  LeaveField();
+  ExpectRecord(0, 50.8F, 10, 20, 10);
+}
+
 TEST_F(SizeFieldsTest, OnlyTheFieldThatWasTypedInIsTakenInInches) {
   mnuUnitIn_Click();
   SelectObject(Put(ShapeObject(kRectangle, 10.123F, 11.456F, 20.7891, 10.0123)));
