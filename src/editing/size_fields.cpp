@@ -72,6 +72,13 @@ void TakeSize(const Entries& entries, ObjectRecord& record) {
   entries.Give(kHeight, [&](double millimetres) { record.Height = ToFinite(millimetres); });
 }
 
+// What shows a text keeps its size through redraws, and gives it to the record in the end.
+void SizeHoldOfOpenText(const Entries& entries) {
+  if (!IsShownByHold(SelectedObject)) return;
+  if (entries.Has(kWidth)) SelectedHold().SetWidth(SelectedRecord().Width);
+  if (entries.Has(kHeight)) SelectedHold().SetHeight(SelectedRecord().Height);
+}
+
 void TakeEntries() {
   ObjectRecord& record = SelectedRecord();
   const Entries entries(record);
@@ -79,6 +86,7 @@ void TakeEntries() {
   TakePlace(entries, record);
   if (moved && IsMeasured(record.ObjType)) CarryOn(MoveHoldToPlace);
   TakeSize(entries, record);
+  CarryOn([&] { SizeHoldOfOpenText(entries); });
 }
 
 bool OneIsBeingTypedIn() {
