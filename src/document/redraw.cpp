@@ -290,13 +290,19 @@ void PlaceHold(Label& hold, const ObjectRecord& object) {
   Step([&] { hold.SetHeight(object.Height); });
 }
 
+// One that shows its object is as large as what it shows, which its record need not be before the
+// selection ends: the board would cut it off.
+void MoveHold(Label& hold, const ObjectRecord& object) {
+  hold.Move(object.Left + BoardOriginX, object.Top + BoardOriginY);
+}
+
 void RedrawObject(int index, const RedrawPass& pass) {
   Label& hold = HoldAt(index);
   if (index != SelectedObject) EndMeasuring(hold);
   const ObjectRecord& object = ObjectAt(index);
   if (index == RedrawSkip || (pass.output && BeginsOffTheLabel(object))) return;
-  const bool by_hold = !pass.output && IsShownByHold(index);
-  if (!by_hold) Step([&] { PaintObject(object, index, pass.output); });
+  if (!pass.output && IsShownByHold(index)) return Step([&] { MoveHold(hold, object); });
+  Step([&] { PaintObject(object, index, pass.output); });
   if (!pass.output) Step([&] { PlaceHold(hold, object); });
 }
 

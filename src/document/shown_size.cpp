@@ -30,9 +30,7 @@ ShownSize SizeOfSelection() {
   return size;
 }
 
-bool IsTypedIn(const TextBox& field, const std::string& last) {
-  return field.HasFocus() && field.Text() != last;
-}
+bool IsTypedIn(int index) { return frmMain.txtDSize(index).HasFocus() && !IsAsShown(index); }
 
 void Show(int index, const std::string& text) {
   shown[static_cast<std::size_t>(index)] = text;
@@ -42,7 +40,7 @@ void Show(int index, const std::string& text) {
 
 void ShowUnlessTyped(int index, const std::string& text, bool same_object) {
   const std::string& last = shown[static_cast<std::size_t>(index)];
-  const bool keeps = same_object && text == last && IsTypedIn(frmMain.txtDSize(index), last);
+  const bool keeps = same_object && text == last && IsTypedIn(index);
   if (!keeps) Show(index, text);
 }
 
@@ -71,6 +69,10 @@ void ShowPlaceInFields(double left, double top) {
 void ShowExtentInFields(double width, double height) {
   Show(kWidth, InUsersUnit(width));
   Show(kHeight, InUsersUnit(height));
+}
+
+bool IsAsShown(int index) {
+  return frmMain.txtDSize(index).Text() == shown[static_cast<std::size_t>(index)];
 }
 
 void ResetShownSize() {

@@ -24,6 +24,10 @@ void ShowSizeFields();
 void ShowPlaceInFields(double left, double top);
 void ShowExtentInFields(double width, double height);
 
+// Whether field `index` still says what was shown there last, in the unit of then: nothing has been
+// typed.
+bool IsAsShown(int index);
+
 // This module's state as at program start.
 void ResetShownSize();
 

@@ -9,6 +9,7 @@
 #include "common/public_functions.h"
 #include "document/objects.h"
 #include "document/redraw.h"
+#include "document/selection_state.h"
 #include "document/shown_size.h"
 #include "editing/geometry.h"
 #include "editing/magnetic_rule.h"
@@ -168,14 +169,16 @@ void TakeSizeOfRecord(Control& control, const ObjectRecord& object) {
   Traced([&] { control.SetHeight(object.Height); });
 }
 
-// A text is not painted anew: its hit area shows it.
+// A text is not painted anew: its hit area shows it, and stays as large as what it shows.
 void DropObject(Label& hold) {
   SnapFrame();
   ObjectRecord& object = ObjectAt(SelectedObject);
   const bool is_text = object.ObjType == kText;
   TakePlaceOfFrame(object);
-  TakeSizeOfRecord(frmMain.shpBox, object);
-  TakeSizeOfRecord(hold, object);
+  if (!IsShownByHold(SelectedObject)) {
+    TakeSizeOfRecord(frmMain.shpBox, object);
+    TakeSizeOfRecord(hold, object);
+  }
   hold.Move(frmMain.shpBox.Left(), frmMain.shpBox.Top());
   if (!is_text) RedrawBoard();
   ShowHandles(hold);

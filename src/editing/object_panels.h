@@ -81,9 +81,9 @@ void txtDSize_MouseMove(int Index);
 void txtDSize_KeyPress(int Index, int& KeyAscii);  // numbers only
 
 // Whichever field was left, the object that is selected by itself takes each of the four numbers
-// that is not what its record shows there: a field left as it stood moves nothing, though what it
-// shows is rounded. The board is redrawn; DirtyFlag stays as it is. Nothing while the mouse draws
-// or drags, whose figures the fields show then.
+// that was typed: a field left as it stood moves nothing, though what it shows is rounded. The
+// board is redrawn; DirtyFlag stays as it is. Nothing while the mouse draws or drags, whose figures
+// the fields show then.
 void txtDSize_LostFocus(int Index);
 
 // The same without the redraw, for who is about to change what an entry under way means.

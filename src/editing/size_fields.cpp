@@ -1,6 +1,7 @@
 // The four fields of place and size.
 #include <algorithm>
 #include <cstddef>
+#include <string>
 
 #include "common/public_functions.h"
 #include "document/redraw.h"
@@ -28,13 +29,15 @@ bool OneIsSelected() {
   return SelectedObject > -1 && SelectedObject <= ObjectUB && SelectedUpper < 0;
 }
 
-// Which of the fields say something else than the record.
+// Which of the fields say something else than the record, and than was shown there: a field that
+// shows what is no longer so has not been typed in.
 class Entries {
  public:
   explicit Entries(const ObjectRecord& record) : shown_(ShownSizeOf(record)) {}
 
   bool Has(Field field) const {
-    return frmMain.txtDSize(field).Text() != shown_[static_cast<std::size_t>(field)];
+    const std::string& record_says = shown_[static_cast<std::size_t>(field)];
+    return !IsAsShown(field) && frmMain.txtDSize(field).Text() != record_says;
   }
 
   // Gives the number to `take` if there is one.
@@ -69,6 +72,13 @@ void TakeSize(const Entries& entries, ObjectRecord& record) {
   entries.Give(kHeight, [&](double millimetres) { record.Height = ToFinite(millimetres); });
 }
 
+// What shows a text keeps its size through redraws, and gives it to the record in the end.
+void SizeHoldOfOpenText(const Entries& entries) {
+  if (!IsShownByHold(SelectedObject)) return;
+  if (entries.Has(kWidth)) SelectedHold().SetWidth(SelectedRecord().Width);
+  if (entries.Has(kHeight)) SelectedHold().SetHeight(SelectedRecord().Height);
+}
+
 void TakeEntries() {
   ObjectRecord& record = SelectedRecord();
   const Entries entries(record);
@@ -76,6 +86,7 @@ void TakeEntries() {
   TakePlace(entries, record);
   if (moved && IsMeasured(record.ObjType)) CarryOn(MoveHoldToPlace);
   TakeSize(entries, record);
+  CarryOn([&] { SizeHoldOfOpenText(entries); });
 }
 
 bool OneIsBeingTypedIn() {

@@ -5,6 +5,7 @@
 #include "barcode/validation.h"
 #include "document/redraw.h"
 #include "document/selection_state.h"
+#include "document/shown_size.h"
 #include "editing/selection.h"
 #include "forms/frmMain.h"
 #include "platform/dialogs.h"
@@ -75,6 +76,7 @@ void TakeSize(double width, double height) {
   record.Height = height;
   frmMain.shpBox.SetWidth(width);
   frmMain.shpBox.SetHeight(height);
+  ShowSizeFields();
 }
 
 void FitPostNet(double length) {

@@ -209,6 +209,7 @@ void SelectWithoutMouse(int index) {
   CarryOn([&] { ShowFrameOf(index); });
   FillPanelFromObject(false);
   ShowObject(index);
+  ShowSizeFields();
 }
 
 void lblHold_MouseMove(int Index, int /*Button*/, int /*Shift*/, double X, double Y) {

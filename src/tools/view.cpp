@@ -8,6 +8,7 @@
 #include "document/selection_state.h"
 #include "document/shown_size.h"
 #include "editing/object_panels.h"
+#include "editing/selected_object.h"
 #include "editing/selection.h"
 #include "forms/frmMain.h"
 #include "layouts/layout_list.h"
@@ -38,23 +39,29 @@ void SetPointer(std::int16_t shape) {
 
 // --- zoom ---
 
-bool TextIsSelected() {
-  bool is_text = false;
-  CarryOn([&] { is_text = SelectedObject > -1 && ObjectAt(SelectedObject).ObjType == kText; });
-  return is_text;
+// A new text has no caption of its own yet: the caret stays.
+void ShowCaption(Label& hold, const std::string& text) {
+  if (!text.empty()) hold.SetCaption(text);
+}
+
+// Fonts are not as wide at every size, and redraws leave the hit area as large as it is.
+void FitToZoom(Label& hold, const ObjectRecord& text) {
+  const bool grows = hold.AutoSize();
+  CarryOn([&] { hold.SetAutoSize(true); });
+  CarryOn([&] { hold.SetFontSize(text.FontSize * ZoomFactor); });
+  CarryOn([&] { ShowCaption(hold, text.Text.Trimmed()); });
+  hold.SetAutoSize(grows);
 }
 
 // A selected text is shown by its hit area and not by the painter, so the hit area takes the new
 // size, and one that was only painted so far its whole style. Whatever becomes of the hit area, the
 // board is painted and the mark of the object to skip does not outlive it.
 void RedrawWithSelectedText() {
-  const int index = SelectedObject;
-  if (!IsShownByHold(index)) CarryOn([&] { FitHoldToText(index); });
-  CarryOn([&] { HoldAt(index).SetFontSize(ObjectAt(index).FontSize * ZoomFactor); });
-  CarryOn([&] { HoldAt(index).SetCaption(ObjectAt(index).Text.Trimmed()); });
+  if (!IsShownByHold(SelectedObject)) CarryOn([] { FitHoldToText(SelectedObject); });
+  CarryOn([] { FitToZoom(SelectedHold(), SelectedRecord()); });
   RedrawBoard();
   RedrawSkip = -1;
-  CarryOn([&] { ShowHandles(HoldAt(index)); });
+  CarryOn([] { ShowHandles(SelectedHold()); });
 }
 
 void RedrawWithSelection() {

@@ -345,6 +345,7 @@ TEST_F(DragTest, DraggedOnlyDownwardOrNotAtAllATextOfABrokenWidthMayLoseAPoint) 
   } rows[] = {{10.6, 25, 11}, {10.6, 0, 11}, {10.4, 25, 12}, {10.4, 0, 12}};
   for (const auto& row : rows) {
     ObjectUB = -1;
+    DropSelection();
     ObjectRecord text = TextObject("Abcd", 10, 10);
     text.FontSize = 12;
     text.Width = row.width;

@@ -162,6 +162,17 @@ TEST_F(BoardKeysTest, PageKeysSelectInStackingOrderAndGoAround) {
   EXPECT_EQ(DirtyFlag, kFalse);
 }
 
+TEST_F(BoardKeysTest, WithAToolArmedAPageKeyShowsTheSizeOfWhatItSelects) {
+  PutBox(10, 12);
+  Arm(frmMain.cmdRect);
+  KeyDown(kPageDown);
+  ASSERT_EQ(SelectedObject, 0);
+  EXPECT_EQ(SizeFields(), "10.00 12.00 20.00 10.00 ");
+  for (int field = 0; field < 4; ++field) frmMain.txtDSize(field).UserFocus();
+  ToBoard();
+  ExpectRecord(0, 10, 12, 20, 10);
+}
+
 TEST_F(BoardKeysTest, PageUpBeginsWithTheLast) {
   PutBox(10, 10);
   PutBox(40, 10);

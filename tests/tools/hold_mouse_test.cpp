@@ -579,17 +579,35 @@ TEST_F(HoldMouseTest, TheReleaseWritesTheRecordOnce) {
   ExpectFrame(115, 87, 20, 10);
 }
 
-// Its hit area measures what it shows, its record may hold a width that was typed.
-TEST_F(HoldMouseTest, ATextIsDroppedAsWideAsItsRecordWhateverItsHitArea) {
+// Its hit area shows it, whatever its record says before the selection ends.
+TEST_F(HoldMouseTest, ATextIsDroppedAsWideAsItIsShownAndItsRecordStays) {
   const int index = PutText("Abcd");
   ObjectAt(index).Width = 12;
   ObjectAt(index).Height = 7;
   Press(115, 90);
   MoveTo(118, 92);
-  HoldAt(index).SetAutoSize(false);
+  Release(118, 92);
+  EXPECT_NEAR(HoldAt(index).Width(), 4 * kCharacter, 1e-6);
+  EXPECT_NEAR(HoldAt(index).Height(), kLineHeight, 1e-6);
+  ExpectFrame(113, 87, 4 * kCharacter, kLineHeight);
+  ExpectRecord(index, 13, 12, 12, 7);
+}
+
+// Also where no redraw brings its hit area back to that.
+TEST_F(HoldMouseTest, AFieldIsDroppedAsWideAsItsRecordWhateverItsHitArea) {
+  ObjectRecord field = Field(0, 0);
+  field.Left = 10;
+  field.Top = 10;
+  field.Width = 12;
+  field.Height = 7;
+  const int index = Put(field);
+  Press(115, 90);
+  MoveTo(118, 92);
   HoldAt(index).SetWidth(33);
   HoldAt(index).SetHeight(22);
+  SuspendRedraw = kTrue;
   Release(118, 92);
+  SuspendRedraw = kFalse;
   EXPECT_NEAR(HoldAt(index).Width(), 12, 1e-9);
   EXPECT_NEAR(HoldAt(index).Height(), 7, 1e-9);
   ExpectFrame(113, 87, 12, 7);

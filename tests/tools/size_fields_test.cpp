@@ -119,6 +119,19 @@ TEST_F(SizeFieldsTest, MenusThatChangeASizeShowIt) {
   EXPECT_EQ(frmMain.txtDSize(3).Text(), "22.00");
 }
 
+TEST_F(SizeFieldsTest, APostalFormatShowsTheSizeThatItGives) {
+  ObjectRecord barcode = ShapeObject(kBarcode, 10, 10, 20, 10);
+  barcode.Text = "12345";
+  barcode.Param = 2;
+  SelectObject(Put(barcode));
+  for (const int format : {12, 13}) {
+    frmMain.cboBCode.UserChoose(format);
+    ASSERT_EQ(ObjectAt(0).Param, format);
+    EXPECT_NE(SizeFields(), "10.00 10.00 20.00 10.00 ");
+    EXPECT_EQ(SizeFields(), OfRecord(0)) << format;
+  }
+}
+
 // --- while the mouse draws or drags -------------------------------------------------------------
 
 TEST_F(SizeFieldsTest, ABoxIsShownWhileItIsDrawnWhicheverWayItGoes) {
@@ -244,6 +257,16 @@ TEST_F(SizeFieldsTest, FieldsLeftUntouchedChangeNothingInEitherUnit) {
       EXPECT_EQ(ObjectAt(0), odd) << metric << field;
     }
   }
+}
+
+// Whoever has forgotten to show a selection must not cost it its size.
+TEST_F(SizeFieldsTest, AFieldThatStillShowsSomethingElseIsNoEntry) {
+  SelectObject(PutBox(10, 10));
+  ASSERT_EQ(SizeFields(), kNone);
+  UnitScale = 25.4;
+  TypeInto(frmMain.txtDSize(0), "2");
+  LeaveField();
+  ExpectRecord(0, 50.8F, 10, 20, 10);
 }
 
 TEST_F(SizeFieldsTest, OnlyTheFieldThatWasTypedInIsTakenInInches) {
