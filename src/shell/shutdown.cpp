@@ -18,7 +18,7 @@ void OfferToSave(bool& cancel) {
                                    MessageButtons::kYesNoCancel, MessageIcon::kQuestion);
   if (answer == Answer::kYes) {
     CarryOn([] { SaveProject(kFalse); });
-    if (DirtyFlag) cancel = true;  // the user left the file dialog without a name
+    if (DirtyFlag) cancel = true;  // no file was named, or it could not be written
   }
   if (answer == Answer::kCancel) cancel = true;
 }
