@@ -13,6 +13,7 @@ void CloseSource() {
   SourceTable = {};
   CurrentTable.clear();
   DatabasePassword.clear();
+  FieldValues.assign(kFieldSlots, {});
   FieldUB = -1;
   RecordCount = -1;
   frmMain.cboRSet.Clear();

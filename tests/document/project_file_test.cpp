@@ -347,10 +347,10 @@ TEST_F(ProjectFileTest, LoadTakesRecordsTrailersCaptionAndRecentFile) {
   EXPECT_EQ(RedrawCount, 1);
 }
 
-TEST_F(ProjectFileTest, LoadFillsNoFieldValues) {
-  FieldValues[0] = "as before";
+TEST_F(ProjectFileTest, LoadEmptiesTheRowOfTheFormerSource) {
+  FieldValues.assign(kFieldSlots, "of the source before");
   Load(Bytes({SerialTrailer(), SourceTrailer()}));
-  EXPECT_EQ(FieldValues[0], "as before");
+  EXPECT_EQ(FieldValues, std::vector<std::string>(101));
 }
 
 TEST_F(ProjectFileTest, FileWithoutTrailersLoadsEveryRecordAsAnObject) {
