@@ -3,6 +3,7 @@
 #include "common/prog_settings.h"
 #include "common/public_functions.h"
 #include "document/project_file.h"
+#include "document/selection_state.h"
 #include "forms/frmMain.h"
 #include "platform/fault.h"
 #include "platform/files.h"
@@ -78,6 +79,7 @@ void ShowSaveNote(const std::string& note) { frmMain.sB1.SetPanelText(kNotesPane
 
 void SaveProject(const Flag& ForceDialog) {
   if ((ProjectPath.empty() || ForceDialog) && !AskForName()) return;
+  TakeEntryUnderWay();
   const std::int16_t objects = ObjectUB;
   CarryOn([] { AppendTrailer(FillSerialTrailer); });
   CarryOn([] { AppendTrailer(FillSourceTrailer); });

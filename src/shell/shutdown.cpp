@@ -3,6 +3,7 @@
 #include "common/prog_settings.h"
 #include "document/objects.h"
 #include "document/project_file.h"
+#include "document/selection_state.h"
 #include "forms/frmMain.h"
 #include "platform/dialogs.h"
 #include "platform/windows.h"
@@ -13,6 +14,7 @@ namespace tagwright {
 namespace {
 
 void OfferToSave(bool& cancel) {
+  TakeEntryUnderWay();  // which may be the only change
   if (!DirtyFlag) return;
   const Answer answer = MessageBox("Do you want to save the changes you have made to this label?",
                                    MessageButtons::kYesNoCancel, MessageIcon::kQuestion);
