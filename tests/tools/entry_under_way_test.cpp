@@ -186,5 +186,31 @@ TEST_F(EntryUnderWayTest, DataThatOnlyItsFieldHoldsIsAskedAbout) {
   }
 }
 
+// --- select all ---------------------------------------------------------------------------------
+
+TEST_F(EntryUnderWayTest, SelectAllTakesTheBarcodesDataFirst) {
+  Put(ShapeObject(kRectangle, 60, 10, 20, 10));
+  const int barcode = SelectBarcode();
+  TypeInto(frmMain.txtBCodeData, "NEW");
+  frmMain.mnuEditSelectAll.Press();
+  EXPECT_EQ(ObjectAt(barcode).Text.Trimmed(), "NEW");
+  EXPECT_EQ(SelectedUpper, 1);
+  EXPECT_TRUE(frmMain.txtSetFocus(0).HasFocus());
+}
+
+TEST_F(EntryUnderWayTest, SelectAllGivesTheDataToTheBarcodeAndNotToAnEmptyTextThatGoes) {
+  for (const bool empty_first : {true, false}) {
+    StartAnew();
+    if (empty_first) PutText("", 60, 10);
+    SelectBarcode();
+    if (!empty_first) PutText("", 60, 10);
+    TypeInto(frmMain.txtBCodeData, "NEW");
+    frmMain.mnuEditSelectAll.Press();
+    ASSERT_EQ(ObjectUB, 0) << empty_first;
+    EXPECT_EQ(ObjectAt(0).ObjType, kBarcode) << empty_first;
+    EXPECT_EQ(ObjectAt(0).Text.Trimmed(), "NEW") << empty_first;
+  }
+}
+
 }  // namespace
 }  // namespace tagwright
