@@ -65,6 +65,7 @@ void ShowRecentFiles();
 // --- state of the data source that a project carries ---
 inline std::string DatabasePassword;              // plain; blank for none
 inline std::string CurrentTable;                  // the chosen table's name
+inline std::int32_t UnlistedTable = -1;           // its row, while no database fills cboRSet
 inline std::int32_t RecordCount = -1;             // rows of the source, -1 none
 inline std::unique_ptr<Database> SourceDatabase;  // the open database, null none
 

@@ -42,11 +42,16 @@ void FillSerialTrailer(ObjectRecord& trailer) {
       std::to_string(frmMain.chkFirstRow.Value()) + std::to_string(frmMain.chkQuote.Value());
 }
 
+// A project whose database is away keeps its table until another source is named.
+std::int32_t ChosenTable() {
+  return frmMain.cboRSet.ListCount() == 0 ? UnlistedTable : frmMain.cboRSet.ListIndex();
+}
+
 void FillSourceTrailer(ObjectRecord& trailer) {
   trailer.ObjType = kSourceTrailer;
   trailer.Text = frmMain.lblFileName.Caption();
   CarryOn([&] { trailer.Param = ToInt16(frmMain.cboImportType.ListIndex()); });
-  trailer.FillColor = frmMain.cboRSet.ListIndex();
+  trailer.FillColor = ChosenTable();
   trailer.FontName = DatabasePassword;
   trailer.ForeColor = frmMain.cboLabelLayout.ListIndex();
 }

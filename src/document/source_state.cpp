@@ -12,6 +12,7 @@ void CloseSource() {
   SourceDatabase.reset();
   SourceTable = {};
   CurrentTable.clear();
+  UnlistedTable = -1;
   DatabasePassword.clear();
   FieldValues.assign(kFieldSlots, {});
   FieldUB = -1;
