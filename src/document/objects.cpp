@@ -75,6 +75,7 @@ void ResetDataSource() {
   FieldUB = -1;
   DatabasePassword.clear();
   CurrentTable.clear();
+  UnlistedTable = -1;
   RecordCount = -1;
   SourceDatabase.reset();
 }

@@ -17,6 +17,7 @@ namespace {
 // Returns false when the user cancels, and where a label that was to be saved has not been: no file
 // was named, or it could not be written.
 bool MayLeaveLabel() {
+  TakeEntryUnderWay();  // which may be the only change
   if (!DirtyFlag) return true;
   const Answer answer = MessageBox("Do you want to save the changes you have made to this label?",
                                    MessageButtons::kYesNoCancel, MessageIcon::kQuestion);

@@ -26,11 +26,12 @@ inline const std::string kProjectFilter = "Tagwright Project (*.twp)|*.twp";
 std::string ProjectRecordBytes(const ObjectRecord& record);
 ObjectRecord ProjectRecordFromBytes(std::string_view bytes);
 
-// Saves the document with its trailers to ProjectPath, or to a name asked for when that is empty or
-// `ForceDialog` is set: then the caption shows that name, which is taken exactly. Deletes an
-// existing file before it writes. Clears DirtyFlag; where the file could not be written that stays
-// as it was, and the status bar says why. Updates the recent files in either case. The trailers
-// stay in the slots beyond ObjectUB. A cancelled dialog changes nothing. Never faults.
+// Saves the document, an entry under way included, with its trailers to ProjectPath, or to a name
+// asked for when that is empty or `ForceDialog` is set: then the caption shows that name, which is
+// taken exactly. Deletes an existing file before it writes. Clears DirtyFlag; where the file could
+// not be written that stays as it was, and the status bar says why. Updates the recent files in
+// either case. The trailers stay in the slots beyond ObjectUB. A cancelled dialog changes nothing.
+// Never faults.
 void SaveProject(const Flag& ForceDialog);
 
 // What the status bar says of the last save: nothing where it went well.
@@ -64,6 +65,7 @@ void ShowRecentFiles();
 // --- state of the data source that a project carries ---
 inline std::string DatabasePassword;              // plain; blank for none
 inline std::string CurrentTable;                  // the chosen table's name
+inline std::int32_t UnlistedTable = -1;           // its row, while no database fills cboRSet
 inline std::int32_t RecordCount = -1;             // rows of the source, -1 none
 inline std::unique_ptr<Database> SourceDatabase;  // the open database, null none
 

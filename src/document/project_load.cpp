@@ -96,8 +96,10 @@ void PrepareSource(bool database, const std::string& path) {
   }
 }
 
+// A database that is away leaves nothing to choose from: the row waits for the next save.
 void ChooseTable(int row) {
   if (row < 0) return;
+  if (frmMain.cboRSet.ListCount() == 0) UnlistedTable = row;
   CarryOn([&] { frmMain.cboRSet.SetListIndex(row); });
   CurrentTable = frmMain.cboRSet.Text();
 }

@@ -3,6 +3,7 @@
 #include "common/prog_settings.h"
 #include "common/public_functions.h"
 #include "document/project_file.h"
+#include "document/selection_state.h"
 #include "forms/frmMain.h"
 #include "platform/fault.h"
 #include "platform/files.h"
@@ -41,11 +42,16 @@ void FillSerialTrailer(ObjectRecord& trailer) {
       std::to_string(frmMain.chkFirstRow.Value()) + std::to_string(frmMain.chkQuote.Value());
 }
 
+// A project whose database is away keeps its table until another source is named.
+std::int32_t ChosenTable() {
+  return frmMain.cboRSet.ListCount() == 0 ? UnlistedTable : frmMain.cboRSet.ListIndex();
+}
+
 void FillSourceTrailer(ObjectRecord& trailer) {
   trailer.ObjType = kSourceTrailer;
   trailer.Text = frmMain.lblFileName.Caption();
   CarryOn([&] { trailer.Param = ToInt16(frmMain.cboImportType.ListIndex()); });
-  trailer.FillColor = frmMain.cboRSet.ListIndex();
+  trailer.FillColor = ChosenTable();
   trailer.FontName = DatabasePassword;
   trailer.ForeColor = frmMain.cboLabelLayout.ListIndex();
 }
@@ -78,6 +84,7 @@ void ShowSaveNote(const std::string& note) { frmMain.sB1.SetPanelText(kNotesPane
 
 void SaveProject(const Flag& ForceDialog) {
   if ((ProjectPath.empty() || ForceDialog) && !AskForName()) return;
+  TakeEntryUnderWay();
   const std::int16_t objects = ObjectUB;
   CarryOn([] { AppendTrailer(FillSerialTrailer); });
   CarryOn([] { AppendTrailer(FillSourceTrailer); });

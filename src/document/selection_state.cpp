@@ -55,6 +55,13 @@ void KeyboardToBoard() {
   CarryOn([] { frmMain.txtSetFocus(0).SetFocus(); });
 }
 
+void TakeEntryUnderWay() {
+  if (frmMain.txtBCodeData.HasFocus()) frmMain.txtBCodeData.Events().LostFocus.Raise(-1);
+  for (const auto& [index, field] : frmMain.txtDSize) {
+    if (field->HasFocus()) frmMain.txtDSize.Events().LostFocus.Raise(index);
+  }
+}
+
 void DropSelection() {
   DisableSelectionCommands();
   EndMeasuringEverywhere();

@@ -24,6 +24,12 @@ void EndGroup();
 // keep Ctrl+A and Ctrl+C for itself.
 void KeyboardToBoard();
 
+// What is being typed in txtBCodeData or a field of txtDSize goes to its object, as if the field
+// were left: menus, shortcuts and message boxes do not move the keyboard. The field keeps it, so
+// that the typing goes on and no key meant for it acts on the object. A text takes each key by
+// itself.
+void TakeEntryUnderWay();
+
 // Nothing selected, whatever keys are held and without a look at the records, which may be others
 // by now: state, commands, frame, handles, count and txtDSize. No hit area shows a text any more;
 // the board is not redrawn.

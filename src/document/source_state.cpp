@@ -12,7 +12,9 @@ void CloseSource() {
   SourceDatabase.reset();
   SourceTable = {};
   CurrentTable.clear();
+  UnlistedTable = -1;
   DatabasePassword.clear();
+  FieldValues.assign(kFieldSlots, {});
   FieldUB = -1;
   RecordCount = -1;
   frmMain.cboRSet.Clear();

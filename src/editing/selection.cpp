@@ -39,7 +39,8 @@ void LeaveFields() {
 
 // A menu leaves the keyboard where it is: what was typed there is for the object that was selected
 // then.
-void LeaveSizeFields() {
+void LeaveEntryFields() {
+  if (frmMain.txtBCodeData.HasFocus()) KeyboardToBoard();
   for (const auto& [index, field] : frmMain.txtDSize) {
     if (field->HasFocus()) KeyboardToBoard();
   }
@@ -229,7 +230,7 @@ void mnuEditSelectAll_Click() {
   if (selecting_all) return;
   frmMain.sB1.SetPanelText(3, "");
   if (ObjectUB < 0) return;
-  LeaveSizeFields();
+  LeaveEntryFields();
   RemoveEmptyTexts();
   if (ObjectUB < 0) return DropSelection();
   ListAllObjects();

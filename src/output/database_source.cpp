@@ -105,6 +105,7 @@ bool ReadColumns() {
 void LeaveTable() {
   SourceTable = {};
   SourceRecordset.reset();
+  FieldValues.assign(kFieldSlots, {});
   FieldUB = -1;
 }
 

@@ -3,6 +3,7 @@
 #include "common/prog_settings.h"
 #include "document/objects.h"
 #include "document/project_file.h"
+#include "document/selection_state.h"
 #include "forms/frmMain.h"
 #include "platform/dialogs.h"
 #include "platform/windows.h"
@@ -13,12 +14,13 @@ namespace tagwright {
 namespace {
 
 void OfferToSave(bool& cancel) {
+  TakeEntryUnderWay();  // which may be the only change
   if (!DirtyFlag) return;
   const Answer answer = MessageBox("Do you want to save the changes you have made to this label?",
                                    MessageButtons::kYesNoCancel, MessageIcon::kQuestion);
   if (answer == Answer::kYes) {
     CarryOn([] { SaveProject(kFalse); });
-    if (DirtyFlag) cancel = true;  // the user left the file dialog without a name
+    if (DirtyFlag) cancel = true;  // no file was named, or it could not be written
   }
   if (answer == Answer::kCancel) cancel = true;
 }

@@ -5,6 +5,7 @@
 
 #include "document/document_support.h"
 #include "document/selection_state.h"
+#include "document/source_state.h"
 #include "platform/picture.h"
 #include "support/file_size_limit.h"
 
@@ -347,10 +348,10 @@ TEST_F(ProjectFileTest, LoadTakesRecordsTrailersCaptionAndRecentFile) {
   EXPECT_EQ(RedrawCount, 1);
 }
 
-TEST_F(ProjectFileTest, LoadFillsNoFieldValues) {
-  FieldValues[0] = "as before";
+TEST_F(ProjectFileTest, LoadEmptiesTheRowOfTheFormerSource) {
+  FieldValues.assign(kFieldSlots, "of the source before");
   Load(Bytes({SerialTrailer(), SourceTrailer()}));
-  EXPECT_EQ(FieldValues[0], "as before");
+  EXPECT_EQ(FieldValues, std::vector<std::string>(101));
 }
 
 TEST_F(ProjectFileTest, FileWithoutTrailersLoadsEveryRecordAsAnObject) {
@@ -692,6 +693,71 @@ TEST_F(ProjectFileTest, DatabaseThatCannotBeOpenedIsToldAndTheLoadGoesOn) {
   EXPECT_EQ(frmMain.lblFileName.Caption(), folder.File("a.mdb"));
   EXPECT_EQ(ObjectUB, 0);
   EXPECT_EQ(SerialPrefix, "SN-");
+}
+
+// --- a database that is away --------------------------------------------------------------------
+
+class AwayDatabaseTest : public ProjectFileTest {
+ protected:
+  // A project with the second table of a database that is not there; the load is gone on with.
+  void LoadWithout() {
+    SetDatabaseEngine({});
+    ObjectRecord source = SourceTrailer();
+    source.Param = 0;
+    source.Text = folder.File("a.mdb");
+    source.FillColor = 1;
+    dialogs.answers = {Answer::kYes};
+    Load(Bytes({TextObject("a"), SerialTrailer(), source}));
+    ASSERT_EQ(frmMain.cboRSet.ListCount(), 0);
+  }
+
+  void BringBack() {
+    Made("a.mdb", "x");
+    SetDatabaseEngine(
+        [](const std::string&, const std::string&) { return std::make_unique<TwoTables>(); });
+  }
+
+  static std::int32_t TableIn(const std::string& bytes) {
+    return RecordOf(bytes, bytes.size() / 333 - 1).FillColor;
+  }
+};
+
+TEST_F(AwayDatabaseTest, ItsTableIsChosenAgainOnceItIsBack) {
+  LoadWithout();
+  const std::string bytes = Saved();
+  BringBack();
+  Load(bytes);
+  EXPECT_EQ(frmMain.cboRSet.ListIndex(), 1);
+  EXPECT_EQ(CurrentTable, "Items");
+}
+
+TEST_F(AwayDatabaseTest, ItsTableOutlastsAnyNumberOfSaves) {
+  LoadWithout();
+  const std::string bytes = Saved();
+  dialogs.answers = {Answer::kYes};
+  Load(bytes);
+  EXPECT_EQ(TableIn(Saved()), 1);
+}
+
+TEST_F(AwayDatabaseTest, ANewLabelAnotherProjectAndAnotherSourceForgetItsTable) {
+  LoadWithout();
+  mnuFileNew_Click();
+  EXPECT_EQ(TableIn(Saved()), -1) << "new";
+  LoadWithout();
+  Load(Bytes({SerialTrailer(), SourceTrailer()}));
+  EXPECT_EQ(TableIn(Saved()), -1) << "another project";
+  LoadWithout();
+  CloseSource();
+  EXPECT_EQ(TableIn(Saved()), -1) << "another source";
+}
+
+TEST_F(AwayDatabaseTest, TheTableOfAListIsTheOneThatIsChosenThere) {
+  LoadWithout();
+  const std::string bytes = Saved();
+  BringBack();
+  Load(bytes);
+  frmMain.cboRSet.SetListIndex(0);
+  EXPECT_EQ(TableIn(Saved()), 0);
 }
 
 // --- hit areas and pictures ---------------------------------------------------------------------

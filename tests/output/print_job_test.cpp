@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <random>
 
 #include "output/job_fixture.h"
@@ -231,6 +232,53 @@ TEST_F(PrintJobTest, ATickedTitleWithoutAMergeMovesNothingWhereNoSourceIsOpen) {
   SetCells(1, 1);
   Print();
   EXPECT_EQ(Printed(), (std::vector<Texts>{{"kept"}}));
+}
+
+// Every way in which a source goes, each after a job that has filled both columns from it.
+TEST_F(PrintJobTest, AJobWithoutAMergePaintsNoValueOfAFormerSource) {
+  const struct {
+    const char* name;
+    std::function<void()> let_go;
+  } rows[] = {
+      {"new", [] { mnuFileNew_Click(); }},
+      {"load", [this] { LoadProject(Written("other.twp", "")); }},
+      {"a database that cannot be read", [this] { Browse(kDatabaseSource, "none.mdb"); }},
+      {"a text that cannot be read",
+       [this] { Browse(kTabSource, folder.File("no such folder/a.txt")); }},
+      {"a narrower text", [this] { Browse(kTabSource, Written("narrow.txt", "Only\nx\n")); }},
+      {"a narrower table",
+       [this] {
+         Browse(kDatabaseSource, "a.mdb");
+         frmMain.cboRSet.UserChoose(0);
+         FieldValues[1] = "secret";  // as a merged job leaves it
+         frmMain.cboRSet.UserChoose(1);
+       }},
+  };
+  databases.files["a.mdb"] = {{{"Wide", {"A", "B"}, {}}, {"Narrow", {"A"}, {}}}};
+  SetCells(1, 1);
+  SetRange("1", "9");
+  for (const auto& row : rows) {
+    ObjectUB = -1;
+    AddField(1);
+    BrowseCsv("Name,Word\nAda,secret\nBob,secret\n");
+    frmMain.chkMailshot.SetValue(1);
+    Print();
+    ASSERT_EQ(FieldValues[1], "secret") << row.name;
+    row.let_go();
+    frmMain.chkMailshot.SetValue(0);
+    ObjectUB = -1;
+    AddField(1);
+    SetCells(1, 1);
+    SetRange("1", "1");
+    const std::size_t before = Printed().size();
+    Print();
+    const std::vector<Texts> printed = Printed();
+    for (std::size_t page = before; page < printed.size(); ++page) {
+      for (const std::string& text : printed[page]) EXPECT_NE(text, "secret") << row.name;
+    }
+    EXPECT_GT(printed.size(), before) << row.name;
+    EXPECT_EQ(std::count(FieldValues.begin(), FieldValues.end(), "secret"), 0) << row.name;
+  }
 }
 
 TEST_F(PrintJobTest, ATickedTitleWithoutAMergeMovesAnOpenSource) {
