@@ -41,7 +41,6 @@ TEST_F(WiringTest, AStartLeavesNothingToSave) { EXPECT_EQ(DirtyFlag, kFalse); }
 
 TEST_F(WiringTest, WhatTheUserChoosesOfWhatTheProjectStoresCountsAsAChange) {
   WriteFile(folder.File("a.csv"), "Name\nAda\n");
-  frmMain.cboRSet.AddItem("People");
   const std::function<void()> choices[] = {
       [] { frmMain.cboLabelLayout.UserChoose(5); },
       [&] {
@@ -49,7 +48,10 @@ TEST_F(WiringTest, WhatTheUserChoosesOfWhatTheProjectStoresCountsAsAChange) {
         frmMain.cmdBrowse.Press();
       },
       [] { frmMain.cboImportType.UserChoose(2); },
-      [] { frmMain.cboRSet.UserChoose(0); },
+      [] {
+        frmMain.cboRSet.AddItem("People");
+        frmMain.cboRSet.UserChoose(0);
+      },
       [] { frmMain.chkFirstRow.Press(); },
       [] { frmMain.chkQuote.Press(); },
   };
