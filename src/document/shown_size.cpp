@@ -19,11 +19,6 @@ std::int16_t shown_object = -1;
 
 std::string InUsersUnit(double millimetres) { return FormatFixed(millimetres / UnitScale, 2); }
 
-// A selection may point past the last record, where there is nothing to show.
-bool OneIsSelected() {
-  return SelectedObject > -1 && SelectedObject <= ObjectUB && SelectedUpper < 0;
-}
-
 ShownSize SizeOfSelection() {
   ShownSize size = kNoSize;
   if (OneIsSelected()) CarryOn([&] { size = ShownSizeOf(ObjectAt(SelectedObject)); });
@@ -45,6 +40,10 @@ void ShowUnlessTyped(int index, const std::string& text, bool same_object) {
 }
 
 }  // namespace
+
+bool OneIsSelected() {
+  return SelectedObject > -1 && SelectedObject <= ObjectUB && SelectedUpper < 0;
+}
 
 ShownSize ShownSizeOf(const ObjectRecord& record) {
   return {InUsersUnit(record.Left), InUsersUnit(record.Top), InUsersUnit(record.Width),

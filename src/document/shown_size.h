@@ -9,6 +9,10 @@
 
 namespace tagwright {
 
+// Whether one object is selected by itself. A selection may point past the last record, where there
+// is nothing to show.
+bool OneIsSelected();
+
 // What the four fields say of a record.
 using ShownSize = std::array<std::string, 4>;
 ShownSize ShownSizeOf(const ObjectRecord& record);

@@ -25,10 +25,6 @@ constexpr int kArrow = 1;
 // Param, and FillColor is 0. Postal symbols can be typed over.
 constexpr std::int32_t kPostNetMark = 12;
 
-bool OneIsSelected() {
-  return SelectedObject > -1 && SelectedObject <= ObjectUB && SelectedUpper < 0;
-}
-
 // Which of the fields say something else than the record, and than was shown there: a field that
 // shows what is no longer so has not been typed in.
 class Entries {
