@@ -47,7 +47,8 @@ void SetWithinRange(ScrollBar& bar, double value) {
 // A step of a bar is a board unit, which grows with the zoom.
 void Scroll(ScrollBar& bar, double& rest, double notches) {
   const double steps = notches * kScrollOfNotch / std::max(ZoomFactor, kLeastZoom);
-  if (const double whole = WholeSteps(rest, steps)) SetWithinRange(bar, bar.Value() - whole);
+  const double whole = WholeSteps(rest, steps);
+  if (whole != 0) SetWithinRange(bar, bar.Value() - whole);
 }
 
 // --- zooming ------------------------------------------------------------------------------------
