@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cstddef>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -178,7 +179,8 @@ int GuideColumn(const Program& program) {
   for (int x = 0; x < board.width; ++x) {
     int filled = 0;
     for (int y = 0; y < board.height; ++y) {
-      filled += pixels[static_cast<std::size_t>(y * board.width + x)] == kAccent;
+      const std::ptrdiff_t row = y;
+      filled += pixels.begin()[row * board.width + x] == kAccent;
     }
     if (filled >= board.height - kScrollBar) return board.x + x;
   }
