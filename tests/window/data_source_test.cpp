@@ -132,6 +132,25 @@ TEST_F(DatabaseWindow, WithoutTheReaderADatabaseIsToldToBeUnreadable) {
   ExpectNoSource(program);
 }
 
+TEST_F(DatabaseWindow, ALabelOpenedWithoutTheReaderSaysSoAndHasNoSource) {
+  const std::string saved = folder + "/people.twp";
+  Program program(folder);
+  OpenPeople(program);
+  SaveProjectAs(program, saved);
+  ChooseMenu(program, {"File", "New"});
+  WaitFor("a new label", [&] { return program.Title().find("[untitled]") != std::string::npos; });
+  std::filesystem::remove(folder + "/tagwright-reader");
+  ChooseMenu(program, {"File", "Open"});
+  WaitForWindow("Open");
+  Type(saved);
+  Key("Return");
+  const std::string said = AnswerMessage(program);
+  EXPECT_TRUE(said.starts_with("The file " + database + " cannot be read as a database")) << said;
+  WaitForWindow("[people.twp]");
+  Key("ctrl+i");
+  ExpectNoSource(program);
+}
+
 TEST_F(DatabaseWindow, ALinkedTableIsListedAndSaysWhereItLies) {
   Program program(folder);
   OpenPeople(program);

@@ -3,7 +3,6 @@
 // here is what nobody could.
 #include <gtest/gtest.h>
 
-#include <cctype>
 #include <filesystem>
 #include <fstream>
 
@@ -21,11 +20,6 @@ class FilesWindow : public testing::Test {
   static void WaitForNote(const Program& program, const std::string& text) {
     WaitFor("\"" + text + "\" in the status bar",
             [&] { return Find(program, "Notes", "label").description == text; });
-  }
-
-  static std::string InLowerCase(std::string text) {
-    for (char& letter : text) letter = static_cast<char>(std::tolower(letter));
-    return text;
   }
 
   std::string folder = FreshFolder();
@@ -92,7 +86,7 @@ TEST_F(FilesWindow, ARecentFileKeepsItsNameAndDialogsOpenBesideIt) {
     EXPECT_EQ(Leave(program), 0);
   }
   Program program(folder);
-  ChooseMenu(program, {"File", InLowerCase(first)});
+  ChooseMenu(program, {"File", RecentName(first)});
   WaitForWindow("[Salt & Pepper.twp]");
   ChooseMenu(program, {"File", "Open"});
   WaitForWindow("Open");

@@ -10,6 +10,8 @@ namespace {
 constexpr double kPixel = 0.45;  // of which there are nearly four to a millimetre
 constexpr int kLine = 10;
 constexpr int kRectangle = 11;
+constexpr int kEllipse = 13;
+constexpr int kRightButton = 3;
 
 class HandFaultsWindow : public testing::Test {
  protected:
@@ -134,6 +136,43 @@ TEST_F(HandFaultsWindow, ADataFieldDraggedByAHandleShowsOnce) {
   const Box around{paper.X(15), paper.Y(5), paper.X(60) - paper.X(15), paper.Y(35) - paper.Y(5)};
   const auto dragged = Pixels(around);
   EXPECT_EQ(dragged, PixelsPaintedAnew(around));
+}
+
+// Each change by itself: a label that was saved since is asked for again.
+TEST_F(HandFaultsWindow, WhatAMenuAKeyAndAListChangeIsAskedForAtExit) {
+  const auto asks = [&] {
+    Key("ctrl+q");
+    return AnswerMessage(program, "Cancel").starts_with("Do you want to save the changes");
+  };
+  DrawShape(program, paper, "Rectangle", 20, 8, 60, 30);
+  Saved();
+  paper.Click(40, 19, kRightButton);
+  Find(program, "Change Shape to");
+  for (const char* key : {"Down", "Right", "Return"}) Key(key);
+  WaitToHear(program, "Label", "Ellipse at");
+  EXPECT_TRUE(asks());
+  EXPECT_EQ(Saved().at(0).kind, kEllipse);
+
+  Key("Delete");
+  WaitToHear(program, "Label", "Nothing selected");
+  EXPECT_TRUE(asks());
+  EXPECT_TRUE(Saved().empty());
+
+  PressOn(program, "Select Tool");
+  ChooseRow(program, "Layout", "A4 24 per sheet");
+  EXPECT_TRUE(asks());
+}
+
+// A recent label replaces an unsaved one without a question. What its lists say while they are
+// filled is no change.
+TEST_F(HandFaultsWindow, ALabelFromTheRecentListLeavesNothingToAskFor) {
+  DrawShape(program, paper, "Rectangle", 20, 8, 40, 18);
+  Saved();
+  DrawShape(program, paper, "Ellipse", 30, 8, 50, 18);
+  ChooseMenu(program, {"File", RecentName(folder + "/label.twp")});
+  WaitToHear(program, "Label", "Nothing selected");
+  Key("ctrl+q");
+  EXPECT_EQ(program.WaitForExit(), 0);
 }
 
 }  // namespace

@@ -66,6 +66,17 @@ TEST_F(PrintWindow, ACancelledDialogPrintsNothingAndTheNextPressAsksAgain) {
   EXPECT_EQ(Texts(pdf).find("Jar B-1015"), std::string::npos);
 }
 
+TEST_F(PrintWindow, TheNextSheetIsSavedBesideTheLastOne) {
+  fs::create_directory(folder + "/sheets");
+  Program program(folder);
+  for (const std::string& named : {folder + "/sheets/first.pdf", std::string("second.pdf")}) {
+    StartPrintToPdf(program, named);
+    const std::string sheet = folder + "/sheets/" + fs::path(named).filename().string();
+    WaitFor(sheet, [&] { return fs::exists(sheet); });
+    WaitForWindow("Tagwright");
+  }
+}
+
 // The tick for merging goes with the data that it was for.
 TEST_F(PrintWindow, ANewLabelAfterAMergePrintsItsSheet) {
   const std::string second = folder + "/second.pdf";

@@ -156,6 +156,14 @@ TEST_F(SelectionWindow, TheMenuKeyCopiesPropertiesToAnOpenTextWhichStaysShown) {
   EXPECT_EQ(objects[1].kind, kText);
 }
 
+// The panel shows its menu wherever nothing of it lies.
+TEST_F(SelectionWindow, ARightPressOnThePanelOfTextsOpensTheirMenu) {
+  TypeText("Fig", 20, 20);
+  const Box lines = Find(program, "Text", "text").box;
+  Click(lines.x + lines.width + 4, lines.y + lines.height / 2, 3);
+  Find(program, "Copy Properties from");
+}
+
 TEST_F(SelectionWindow, AShapeIsPlacedAndOthersAreReachedWithoutAMouse) {
   DrawShape(program, paper, "Ellipse", 5, 5, 15, 10);
   PressBySpeech(program, "Rectangle", "push button");

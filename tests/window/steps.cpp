@@ -1,6 +1,7 @@
 #include "window/steps.h"
 
 #include <algorithm>
+#include <cctype>
 #include <filesystem>
 
 namespace tagwright::window_test {
@@ -35,6 +36,11 @@ void SaveProjectAs(const Program& program, const std::string& path) {
   Key("Return");
   WaitForWindow("Tagwright");
   WaitFor("the file " + path, [&] { return std::filesystem::exists(path); });
+}
+
+std::string RecentName(std::string path) {
+  for (char& letter : path) letter = static_cast<char>(std::tolower(letter));
+  return path;
 }
 
 void BrowseToData(const Program& program, const std::string& kind, const std::string& path) {

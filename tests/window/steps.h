@@ -16,6 +16,9 @@ void OpenProject(const Program& program, const std::string& path);
 // Saves with File > Save As under `path`, and waits for the file.
 void SaveProjectAs(const Program& program, const std::string& path);
 
+// What the menu of recent files calls a project.
+std::string RecentName(std::string path);
+
 // Chooses the kind of data on the panel of data fields, which asks for the file, and names it.
 void BrowseToData(const Program& program, const std::string& kind, const std::string& path);
 

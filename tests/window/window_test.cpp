@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cctype>
 #include <cstddef>
 #include <cstdlib>
 #include <filesystem>
@@ -40,11 +39,6 @@ bool IsTicked(const Program& program, const std::vector<std::string>& path) {
   Key("Escape");
   Key("Escape");
   return ticked;
-}
-
-std::string InLowerCase(std::string text) {
-  for (char& letter : text) letter = static_cast<char>(std::tolower(letter));
-  return text;
 }
 
 class Window : public testing::Test {
@@ -319,7 +313,7 @@ TEST_F(Window, SavesUnderANewNameAndFindsItAgainAfterTheNextStart) {
   Program program(folder);
   // The window manager frames a window after it has shown it.
   WaitFor("the window at its place", [&] { return program.Frame() == place; });
-  ChooseMenu(program, {"File", InLowerCase(saved)});
+  ChooseMenu(program, {"File", RecentName(saved)});
   WaitFor("the recent file", [&] { return Coloured(program, kMist) > 1000; });
   EXPECT_NE(program.Title().find("[Harbour Label.twp]"), std::string::npos);
 }

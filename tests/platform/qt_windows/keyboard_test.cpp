@@ -325,6 +325,25 @@ TEST_F(KeyboardTest, TheFieldOfAListIsPressedLikeAnyOther) {
   EXPECT_EQ(log, Log({"focus", "down 1", "up 1"}));
 }
 
+// A field of lines consists of two widgets, and the one hands the other what it does not use
+// itself.
+TEST_F(KeyboardTest, TheLinesOfATextArePressedOnceByEachButton) {
+  frmMain.txtTool.SetVisible(true);
+  frmMain.txtTool.ZOrder();
+  frmMain.txtTool.Events().MouseDown = [this](int button, int, double, double) {
+    log.push_back("down " + std::to_string(button));
+  };
+  frmMain.txtTool.Events().MouseUp = [this](int button, int, double, double) {
+    log.push_back("up " + std::to_string(button));
+  };
+  auto& lines = Find<QPlainTextEdit>("txtTool");
+  const QPoint middle = lines.viewport()->rect().center();
+  for (const Qt::MouseButton button : {Qt::LeftButton, Qt::MiddleButton, Qt::RightButton}) {
+    QTest::mouseClick(lines.viewport(), button, {}, middle);
+  }
+  EXPECT_EQ(log, Log({"down 1", "up 1", "down 4", "up 4", "down 2", "up 2"}));
+}
+
 // --- the window sees every key first ------------------------------------------------------------
 
 TEST_F(KeyboardTest, TheWindowSeesAKeyBeforeTheField) {

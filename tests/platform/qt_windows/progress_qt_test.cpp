@@ -55,6 +55,7 @@ TEST_F(ProgressQtTest, ALongJobSaysHowFarItIs) {
     if (!Shown()) return false;
     EXPECT_EQ(Shown()->findChild<QLabel*>()->text(), "Pages done: 3");
     EXPECT_EQ(Shown()->findChild<QProgressBar*>()->value(), 250);
+    EXPECT_FALSE(Shown()->findChild<QProgressBar*>()->isTextVisible()) << "the pages say enough";
     return true;
   }));
   EXPECT_EQ(Shown(), nullptr) << "it goes with its job";

@@ -133,6 +133,28 @@ TEST_F(WindowsQtTest, ClosingAsksTheForm) {
   EXPECT_EQ(log.size(), 2U);
 }
 
+TEST_F(WindowsQtTest, AWindowThatIsHiddenLeavesTheScreenAndStaysLoaded) {
+  Load(frmAbout);
+  Show(frmAbout);
+  ASSERT_TRUE(WindowOf(frmAbout)->isVisible());
+  frmAbout.SetVisible(false);
+  EXPECT_FALSE(WindowOf(frmAbout)->isVisible());
+  EXPECT_TRUE(IsLoaded(frmAbout));
+  frmAbout.SetVisible(true);
+  EXPECT_TRUE(WindowOf(frmAbout)->isVisible());
+}
+
+TEST_F(WindowsQtTest, TheActiveWindowIsNotActivatedAgain) {
+  frmMain.WindowEvents().Activate = [this] { log.push_back("activate"); };
+  ASSERT_EQ(ActiveForm(), &frmMain);
+  QEvent once_more(QEvent::WindowActivate);
+  QCoreApplication::sendEvent(&Window(), &once_more);
+  EXPECT_EQ(log, Log({}));
+  frmMain.UserDeactivate();
+  QCoreApplication::sendEvent(&Window(), &once_more);
+  EXPECT_EQ(log, Log({"activate"}));
+}
+
 // A handler may go on for long after it has unloaded a window.
 TEST_F(WindowsQtTest, AnUnloadedWindowIsGoneAtOnce) {
   Load(frmAbout);
