@@ -126,6 +126,18 @@ inline bool TextEntryActive = false;  // a text field of a panel has the keyboar
 inline bool PanelLoading = false;     // a panel is being filled: its events write nothing back
 inline bool LoadingProject = false;   // a project is being loaded: no dialogs open
 
+// Code fills a panel while this lives: what its controls say meanwhile is nobody's wish.
+class PanelFilling {
+ public:
+  PanelFilling() { PanelLoading = true; }
+  ~PanelFilling() { PanelLoading = before_; }
+  PanelFilling(const PanelFilling&) = delete;
+  PanelFilling& operator=(const PanelFilling&) = delete;
+
+ private:
+  bool before_ = PanelLoading;
+};
+
 // --- operations ---------------------------------------------------------------------------------
 
 // Gives record `index` its fresh state: zero numbers, blank text. Faults 9 outside the array.

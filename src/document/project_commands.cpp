@@ -26,10 +26,6 @@ bool MayLeaveLabel() {
   return !DirtyFlag;
 }
 
-void HideHitAreas() {
-  for (const auto& [index, hold] : frmMain.lblHold) hold->SetVisible(false);
-}
-
 void EmptyDocument() {
   ObjectUB = -1;
   RedrawSkip = -1;

@@ -41,8 +41,8 @@ void ShowSaveNote(const std::string& note);
 // areas, selection, caption and recent files; ends in a redraw. The project keeps the name that the
 // file has on disk. DirtyFlag is clear at the end, whatever the lists that are filled have said. A
 // file of 32,768 bytes or more opens as that many blank records, and one that cannot be read
-// likewise. If the user will not go on without the data file the document is empty, LoadingProject
-// stays set and nothing is redrawn. Never faults.
+// likewise. If the user will not go on without the data file the document is empty, and so is the
+// board. Never faults.
 void LoadProject(const std::string& Path);
 
 // Recent files: slots 0 to 6, RecentUB the highest used one (-1 none).

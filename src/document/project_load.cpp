@@ -221,8 +221,11 @@ void Load(const std::string& path) {
   ReadRecords(path);
   const MissingPictures untold(MissingPictures::kUntold);  // the load has its own words for them
   LoadingProject = true;
-  if (!TakeSourceTrailer()) return;  // the guard stays, and the window as it is
-  TakeSerialTrailer();
+  if (TakeSourceTrailer()) {
+    TakeSerialTrailer();
+  } else {
+    HideHitAreas();  // of the label before: there are no others
+  }
   LoadingProject = false;
   PlaceHolds();
   RemoveMissingPictures();

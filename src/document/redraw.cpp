@@ -312,10 +312,12 @@ void RedrawObjects(const RedrawPass& pass) {
 }
 
 // The newest object is taken for the one whose picture could not be read: it has just been placed.
-// Its index, which is past the end now, must not stay the selection's.
+// Its index, which is past the end now, must not stay the selection's, and the label is no longer
+// what its file says.
 void DropNewestObject() {
   MessageBox("Invalid Picture Format");
   --ObjectUB;
+  DirtyFlag = kTrue;
   CarryOn([] { frmMain.lblHold(ObjectUB).SetVisible(false); });
   DropSelection();
 }

@@ -40,6 +40,10 @@ bool IsShownByHold(int index) {
   return ObjectAt(index).ObjType == kText && hold.Visible() && !hold.Caption().empty();
 }
 
+void HideHitAreas() {
+  for (const auto& [index, hold] : frmMain.lblHold) hold->SetVisible(false);
+}
+
 void ForgetCount() {
   if (frmMain.sB1.PanelText(3).starts_with("Objects Selected: ")) frmMain.sB1.SetPanelText(3, "");
 }
@@ -57,6 +61,7 @@ void KeyboardToBoard() {
 
 void TakeEntryUnderWay() {
   if (frmMain.txtBCodeData.HasFocus()) frmMain.txtBCodeData.Events().LostFocus.Raise(-1);
+  if (frmMain.cboFont.HasFocus()) frmMain.cboFont.Events().LostFocus.Raise(-1);
   for (const auto& [index, field] : frmMain.txtDSize) {
     if (field->HasFocus()) frmMain.txtDSize.Events().LostFocus.Raise(index);
   }

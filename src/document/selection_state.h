@@ -13,6 +13,9 @@ void DisableSelectionCommands();
 // opening until it is deselected.
 bool IsShownByHold(int index);
 
+// No object can be pressed, until its hit area is placed anew.
+void HideHitAreas();
+
 // Panel 3 of sB1 counts no selected objects any more. What else stands there stays.
 void ForgetCount();
 
@@ -24,7 +27,7 @@ void EndGroup();
 // keep Ctrl+A and Ctrl+C for itself.
 void KeyboardToBoard();
 
-// What is being typed in txtBCodeData or a field of txtDSize goes to its object, as if the field
+// What is being typed in txtBCodeData, cboFont or a field of txtDSize goes to its object, as if it
 // were left: menus, shortcuts and message boxes do not move the keyboard. The field keeps it, so
 // that the typing goes on and no key meant for it acts on the object. A text takes each key by
 // itself.

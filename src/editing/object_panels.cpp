@@ -164,24 +164,20 @@ void FillPanelByKind(bool keyboard_to_text) {
 
 void FillPanelFromObject(bool keyboard_to_text) {
   if (CurrentTool > 0) return;
-  const bool loading_before = PanelLoading;
-  PanelLoading = true;
+  const PanelFilling filling;
   CarryOn([&] { FillPanelByKind(keyboard_to_text); });
   SizeBoxFollowsFontBox();
   ShowSizeFields();
-  PanelLoading = loading_before;
 }
 
 void ShowTextStyle() {
   if (!TextIsSelected()) return;
-  const bool loading_before = PanelLoading;
-  PanelLoading = true;
+  const PanelFilling filling;
   frmMain.cboFont.SetText(SelectedRecord().FontName.Trimmed());
   frmMain.cboSize.SetText(FormatNumber(SelectedRecord().FontSize));
   frmMain.chkBold.SetValue(Ticked(SelectedRecord().Bold));
   frmMain.chkItalic.SetValue(Ticked(SelectedRecord().Italic));
   frmMain.lblTextColor.SetBackColor(SelectedRecord().ForeColor);
-  PanelLoading = loading_before;
 }
 
 void ShowPictureSize(const std::string& path) {

@@ -38,9 +38,9 @@ void LeaveFields() {
 }
 
 // A menu leaves the keyboard where it is: what was typed there is for the object that was selected
-// then.
+// then, and Delete is for those that are selected now.
 void LeaveEntryFields() {
-  if (frmMain.txtBCodeData.HasFocus()) KeyboardToBoard();
+  if (frmMain.txtBCodeData.HasFocus() || frmMain.txtTool.HasFocus()) KeyboardToBoard();
   for (const auto& [index, field] : frmMain.txtDSize) {
     if (field->HasFocus()) KeyboardToBoard();
   }

@@ -26,6 +26,13 @@ void ShowLength(int box, float millimetres) {
   frmMain.txtLabLayout(box).SetText(FormatFixed(length, 2));
 }
 
+void ListTitles() {
+  frmMain.cboLabelLayout.Clear();
+  for (int i = 0; i <= LabelLayoutTop; ++i) {
+    frmMain.cboLabelLayout.AddItem(LabelLayouts[static_cast<std::size_t>(i)].Title.Trimmed());
+  }
+}
+
 // What a list says while it is filled is no change of the user's.
 class UnchangedLabel {
  public:
@@ -42,14 +49,19 @@ class UnchangedLabel {
 
 void FillLayoutList() {
   const UnchangedLabel unchanged;
+  ListTitles();
   ComboBox& list = frmMain.cboLabelLayout;
-  list.Clear();
   for (int i = 0; i <= LabelLayoutTop; ++i) {
-    const LabelLayout& layout = LabelLayouts[static_cast<std::size_t>(i)];
-    list.AddItem(layout.Title.Trimmed());
-    if (layout.IsDefault != kFalse) list.SetListIndex(i);
+    if (LabelLayouts[static_cast<std::size_t>(i)].IsDefault != kFalse) list.SetListIndex(i);
   }
   if (list.ListIndex() == -1) list.SetListIndex(0);
+}
+
+void RefillLayoutList() {
+  const UnchangedLabel unchanged;
+  const int chosen = frmMain.cboLabelLayout.ListIndex();
+  ListTitles();
+  if (chosen >= 0) frmMain.cboLabelLayout.SetListIndex(chosen);
 }
 
 void ShowLayout() {

@@ -8,6 +8,10 @@ namespace tagwright {
 // Faults 380 where there is no layout at all; the list is empty then.
 void FillLayoutList();
 
+// Fills the list anew and keeps its row, whose numbers are shown in the user's unit of now. Without
+// a chosen row nothing but the list changes. Faults 380 where the row is gone.
+void RefillLayoutList();
+
 // Shows the numbers of the layout chosen in cboLabelLayout in txtLabLayout(0) to (7), in the user's
 // unit, makes its label size the document's (LabelWidth, LabelHeight, millimetres) and redraws.
 // Objects stay where they are. Faults 9 where no loaded layout is chosen, before anything changes.

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "common/public_functions.h"
+#include "document/objects.h"
 #include "forms/frmMain.h"
 
 namespace tagwright {
@@ -19,9 +20,14 @@ bool ChooseRow(ComboBox& box, std::string_view text) {
 
 }  // namespace
 
-void SelectFontRow(std::string_view name) { ChooseRow(frmMain.cboFont, name); }
+// They show what a new object will have: a selected one keeps what it has.
+void SelectFontRow(std::string_view name) {
+  const PanelFilling filling;
+  ChooseRow(frmMain.cboFont, name);
+}
 
 void SelectSizeRow(std::string_view text) {
+  const PanelFilling filling;
   if (!ChooseRow(frmMain.cboSize, text)) frmMain.cboSize.SetText(std::string(text));
 }
 
@@ -32,8 +38,10 @@ void cboFont_KeyPress(int& KeyAscii) {
   KeyAscii = CompleteCombo(frmMain.cboFont, KeyAscii);
 }
 
+// What was typed is taken once, however often a save asks for it.
 void cboFont_LostFocus() {
   if (FontComboTyped) SelectComboText(frmMain.cboFont);
+  FontComboTyped = kFalse;
 }
 
 }  // namespace tagwright

@@ -11,16 +11,16 @@ namespace tagwright {
 // The user typed in cboFont since it got the keyboard.
 inline Flag FontComboTyped = kFalse;
 
-// Chooses the row of cboFont that equals `name` exactly, which raises its Click; without one the
-// combo stays as it is.
+// Chooses the row of cboFont that equals `name` exactly; without one the combo stays as it is. No
+// object takes it.
 void SelectFontRow(std::string_view name);
 
-// Chooses the row of cboSize that equals `text` exactly, which raises its Click; without one the
-// combo's text becomes `text`, which raises nothing.
+// Chooses the row of cboSize that equals `text` exactly; without one the combo's text becomes
+// `text`. No object takes it.
 void SelectSizeRow(std::string_view text);
 
 void cboFont_GotFocus();               // clears FontComboTyped
 void cboFont_KeyPress(int& KeyAscii);  // sets it and completes what is typed
-void cboFont_LostFocus();              // selects the row of a typed name
+void cboFont_LostFocus();              // selects the row of a typed name, and clears it
 
 }  // namespace tagwright

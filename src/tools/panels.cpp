@@ -4,6 +4,8 @@
 
 #include "common/prog_settings.h"
 #include "document/objects.h"
+#include "document/selection_state.h"
+#include "editing/object_panels.h"
 #include "forms/frmMain.h"
 #include "platform/fault.h"
 #include "platform/locale.h"
@@ -36,7 +38,10 @@ void SelectStyleOfLastField() {
 
 }  // namespace
 
+// A menu leaves the keyboard in a text that is open, which would take the size shown here at its
+// end.
 void mnuFileImport_Click() {
+  if (TextEditOpen) KeyboardToBoard();
   CurrentTool = 0;
   CursorShape = 0;
   frmMain.SetMousePointer(0);

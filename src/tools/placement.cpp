@@ -148,10 +148,8 @@ void FillEmptyText(ObjectRecord& record) {
 // What the box still holds of another text, left blank or with its label, must not reach this one
 // and take its caret away.
 void EmptyTextBox() {
-  const bool loading_before = PanelLoading;
-  PanelLoading = true;
+  const PanelFilling filling;
   frmMain.txtTool.SetText("");
-  PanelLoading = loading_before;
 }
 
 // --- the end of a gesture -----------------------------------------------------------------------

@@ -223,14 +223,14 @@ void mnuFileRulers_Click() {
 void UseMillimetres() { ShowUnit(true, 1.0, 1.0); }
 void UseInches() { ShowUnit(false, 2.54, kMillimetresPerInch); }
 
-// An installation whose layouts could not be read has none to choose.
+// A unit is how numbers are shown: the label keeps its layout.
 void mnuUnitMM_Click() {
   TakeSizeEntry();
   ProgSettings.MetricUnits = kTrue;
   UseMillimetres();
   RedrawBoard();
   ShowSizeFields();
-  CarryOn(FillLayoutList);
+  CarryOn(RefillLayoutList);
 }
 
 void mnuUnitIn_Click() {
@@ -239,7 +239,7 @@ void mnuUnitIn_Click() {
   UseInches();
   RedrawBoard();
   ShowSizeFields();
-  CarryOn(FillLayoutList);
+  CarryOn(RefillLayoutList);
 }
 
 void ResetView() { CrossHairsShown = kTrue; }

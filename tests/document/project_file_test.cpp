@@ -559,8 +559,8 @@ TEST_F(ProjectFileTest, MissingDataFileAsksAndNoLeavesAnEmptyDocumentUnderTheNew
   EXPECT_EQ(frmMain.cboLabelLayout.ListIndex(), 2) << "likewise";
   EXPECT_EQ(frmMain.lblFileName.Caption(), "");
   EXPECT_EQ(SerialPrefix, "");
-  EXPECT_EQ(RedrawCount, 0);
-  EXPECT_TRUE(LoadingProject) << "the routine leaves before it clears its guard";
+  EXPECT_EQ(RedrawCount, 1) << "of nothing";
+  EXPECT_FALSE(LoadingProject);
 }
 
 TEST_F(ProjectFileTest, MissingDataFileAndYesLoadsOn) {

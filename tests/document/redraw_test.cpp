@@ -451,6 +451,7 @@ TEST_F(RedrawTest, UnreadablePictureDropsTheNewestObjectAndLeavesAtOnce) {
   ASSERT_EQ(dialogs.messages.size(), 1u);
   EXPECT_EQ(dialogs.messages[0].text, "Invalid Picture Format");
   EXPECT_EQ(ObjectUB, 0) << "not the picture but the last record";
+  EXPECT_EQ(DirtyFlag, kTrue) << "the label's file still has it";
   EXPECT_FALSE(HoldAt(0).Visible()) << "the hit area of the new bound";
   EXPECT_TRUE(HoldAt(1).Visible());
   for (int i = 0; i < 4; ++i) EXPECT_FALSE(frmMain.lblHandle(i).Visible()) << i;

@@ -28,13 +28,13 @@ TEST_F(WiringTest, ChoosingALayoutGivesTheLabelItsSizeAndRedraws) {
   EXPECT_EQ(RedrawCount, redraws + 1);
 }
 
-TEST_F(WiringTest, AUnitChangeRedrawsForTheUnitAndForTheLayoutThatItSelects) {
+TEST_F(WiringTest, AUnitChangeRedrawsForTheUnitAndForTheLayoutThatItShowsAgain) {
   frmMain.cboLabelLayout.UserChoose(0);
   const auto redraws = RedrawCount;
   frmMain.mnuUnitIn.Press();
   EXPECT_EQ(RedrawCount, redraws + 2);
-  EXPECT_EQ(frmMain.cboLabelLayout.Text(), "A4 14 per sheet");
-  EXPECT_EQ(LabelWidth, 99);
+  EXPECT_EQ(frmMain.cboLabelLayout.ListIndex(), 0);
+  EXPECT_EQ(LabelWidth, 199);
 }
 
 TEST_F(WiringTest, AStartLeavesNothingToSave) { EXPECT_EQ(DirtyFlag, kFalse); }
@@ -63,9 +63,42 @@ TEST_F(WiringTest, WhatTheUserChoosesOfWhatTheProjectStoresCountsAsAChange) {
 }
 
 TEST_F(WiringTest, AUnitChangeIsNoChangeOfTheLabel) {
-  frmMain.mnuUnitIn.Press();
-  frmMain.mnuUnitMM.Press();
+  frmMain.cboLabelLayout.UserChoose(5);
+  DirtyFlag = kFalse;
+  for (Menu* unit : {&frmMain.mnuUnitIn, &frmMain.mnuUnitMM}) {
+    unit->Press();
+    EXPECT_EQ(DirtyFlag, kFalse);
+    EXPECT_EQ(frmMain.cboLabelLayout.ListIndex(), 5);
+    EXPECT_EQ(LabelWidth, 63);
+    EXPECT_EQ(LabelHeight, 38);
+  }
+}
+
+// What the board shows is what would be saved.
+TEST_F(WiringTest, ALabelThatIsNotLoadedWithoutItsDataLeavesAnEmptyBoard) {
+  WriteFile(folder.File("a.csv"), "Name\nAda\n");
+  dialogs.files = {folder.File("a.csv"), folder.File("a.twp")};
+  frmMain.cboImportType.UserChoose(1);
+  GrowObjects();
+  ClearObject(0);
+  ObjectAt(0).ObjType = kRectangle;
+  ObjectAt(0).Width = 20;
+  ObjectAt(0).Height = 10;
+  SaveProject(kTrue);
+  DeleteFile(folder.File("a.csv"));
+  HoldAt(3).SetVisible(true);  // of a larger label before
+  dialogs.answers = {Answer::kNo};
+  const auto redraws = RedrawCount;
+  frmMain.mnuFileOld(0).Press();
+  ASSERT_EQ(ObjectUB, -1);
+  EXPECT_GT(RedrawCount, redraws + 1) << "once for the layout, with the records, and once without";
+  for (const auto& [index, hold] : frmMain.lblHold) EXPECT_FALSE(hold->Visible()) << index;
   EXPECT_EQ(DirtyFlag, kFalse);
+  EXPECT_FALSE(LoadingProject);
+  WriteFile(folder.File("b.csv"), "Town\nLeeds\n");
+  dialogs.files = {folder.File("b.csv")};
+  frmMain.cboImportType.UserChoose(1);
+  EXPECT_EQ(frmMain.lblFileName.Caption(), folder.File("b.csv")) << "a kind asks for its file";
 }
 
 TEST_F(WiringTest, AnOpenedLabelHasNoUnsavedChangesWhereverItIsOpened) {
@@ -169,9 +202,6 @@ TEST_F(WiringTest, ThePrintPanelFollowsItsFieldsAndTheLabel) {
   EXPECT_EQ(frmMain.lblLabels.Caption(), "Labels: 14");
   frmMain.cboLabelLayout.UserChoose(5);
   EXPECT_EQ(frmMain.lblLabels.Caption(), "Labels: 21");
-  frmMain.mnuUnitIn.Press();  // which chooses the default layout
-  EXPECT_EQ(frmMain.lblLabels.Caption(), "Labels: 14");
-  frmMain.mnuUnitMM.Press();
   frmMain.chkMailshot.Press();
   EXPECT_EQ(frmMain.lblLabels.Caption(), "Labels: 0");
 
@@ -181,7 +211,7 @@ TEST_F(WiringTest, ThePrintPanelFollowsItsFieldsAndTheLabel) {
   frmMain.mnuFileNew.Press();
   EXPECT_FALSE(frmMain.chkMailshot.Visible());
   EXPECT_EQ(frmMain.chkMailshot.Value(), 0);
-  EXPECT_EQ(frmMain.lblLabels.Caption(), "Labels: 14");
+  EXPECT_EQ(frmMain.lblLabels.Caption(), "Labels: 21");
   frmMain.txtPrintFrom.SetText("1");
   frmMain.mnuFileOld(0).Press();
   EXPECT_TRUE(frmMain.chkMailshot.Visible());

@@ -109,6 +109,30 @@ TEST_F(EntryUnderWayTest, EverySaveTakesTheWidthThatIsBeingTyped) {
   }
 }
 
+TEST_F(EntryUnderWayTest, EverySaveTakesTheFontThatIsBeingTyped) {
+  for (const Command& save : Saves()) {
+    StartAnew();
+    SelectBarcode();
+    TypeInto(frmMain.cboFont, "cour");
+    ASSERT_EQ(ObjectAt(0).FontName.Trimmed(), "Arial") << save.name;
+    save.run();
+    ASSERT_TRUE(FileExists(Path())) << save.name;
+    EXPECT_EQ(Saved().FontName.Trimmed(), "Courier New") << save.name;
+    EXPECT_EQ(DirtyFlag, kFalse) << save.name;
+  }
+}
+
+TEST_F(EntryUnderWayTest, AFontIsTakenOnceAndIsNoChangeWhenItsBoxIsLeft) {
+  SelectBarcode();
+  ProjectPath = Path();
+  TypeInto(frmMain.cboFont, "cour");
+  frmMain.mnuFileSave.Press();
+  EXPECT_TRUE(frmMain.cboFont.HasFocus());
+  TakeEntryUnderWay();
+  KeyboardToBoard();
+  EXPECT_EQ(DirtyFlag, kFalse);
+}
+
 // What is saved is what the label then is: leaving the field later is no further change.
 TEST_F(EntryUnderWayTest, ASavedEntryIsNoUnsavedChangeOnceItsFieldIsLeft) {
   SelectBarcode();
@@ -196,6 +220,19 @@ TEST_F(EntryUnderWayTest, SelectAllTakesTheBarcodesDataFirst) {
   EXPECT_EQ(ObjectAt(barcode).Text.Trimmed(), "NEW");
   EXPECT_EQ(SelectedUpper, 1);
   EXPECT_TRUE(frmMain.txtSetFocus(0).HasFocus());
+}
+
+// A covered field that kept the keyboard would keep Delete for itself.
+TEST_F(EntryUnderWayTest, SelectAllFromATextThatIsBeingTypedTakesTheKeyboardAlong) {
+  Put(ShapeObject(kRectangle, 60, 10, 20, 10));
+  frmMain.cmdTools(3).Press();
+  ClickOnLabel(20, 30);
+  frmMain.txtTool.UserType("Fig");
+  frmMain.mnuEditSelectAll.Press();
+  EXPECT_EQ(ObjectAt(1).Text.Trimmed(), "Fig");
+  EXPECT_EQ(SelectedUpper, 1);
+  EXPECT_TRUE(frmMain.txtSetFocus(0).HasFocus());
+  EXPECT_FALSE(TextEditOpen);
 }
 
 TEST_F(EntryUnderWayTest, SelectAllGivesTheDataToTheBarcodeAndNotToAnEmptyTextThatGoes) {

@@ -77,7 +77,8 @@ class HandTest : public EditingTest {
     return shown;
   }
 
-  static void TypeInto(TextBox& field, const std::string& text) {
+  template <class Field>
+  static void TypeInto(Field& field, const std::string& text) {
     field.UserFocus();
     field.SetText("");
     field.UserType(text);

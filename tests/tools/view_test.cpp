@@ -505,17 +505,32 @@ TEST_F(ViewTest, ChoosingTheSameUnitAgainShowsTheSame) {
   }
 }
 
-// Rebuilding the list selects the default layout, which gives the label its size.
-TEST_F(ViewTest, AUnitChangeSelectsTheDefaultLayoutAndSoChangesTheLabel) {
+// The list is filled anew, with its own default among the rows.
+TEST_F(ViewTest, AUnitChangeKeepsTheLayoutAndShowsItsNumbersInTheUnit) {
   LoadLabelLayouts();
   FillLayoutList();
   frmMain.cboLabelLayout.SetListIndex(0);
   ASSERT_EQ(LabelWidth, 199);
+  const std::string layout = frmMain.cboLabelLayout.Text();
   mnuUnitIn_Click();
-  EXPECT_EQ(frmMain.cboLabelLayout.Text(), "A4 14 per sheet");
-  EXPECT_EQ(LabelWidth, 99);
-  EXPECT_EQ(LabelHeight, 38);
-  EXPECT_EQ(frmMain.txtLabLayout(2).Text(), "3.90");  // 99 / 25.4 = 3.8976
+  EXPECT_EQ(frmMain.cboLabelLayout.Text(), layout);
+  EXPECT_EQ(LabelWidth, 199);
+  EXPECT_EQ(frmMain.txtLabLayout(2).Text(), "7.83");  // 199 / 25.4 = 7.8346
+  mnuUnitMM_Click();
+  EXPECT_EQ(frmMain.cboLabelLayout.ListIndex(), 0);
+  EXPECT_EQ(LabelWidth, 199);
+  EXPECT_EQ(frmMain.txtLabLayout(2).Text(), "199.00");
+}
+
+TEST_F(ViewTest, AUnitChangeChoosesNoLayoutForALabelWithoutOne) {
+  LoadLabelLayouts();
+  FillLayoutList();
+  frmMain.cboLabelLayout.SetListIndex(-1);
+  LabelWidth = 12;
+  mnuUnitIn_Click();
+  EXPECT_EQ(frmMain.cboLabelLayout.ListIndex(), -1);
+  EXPECT_EQ(LabelWidth, 12);
+  EXPECT_EQ(frmMain.cboLabelLayout.ListCount(), LabelLayoutTop + 1);
 }
 
 TEST_F(ViewTest, AUnitChangeWithoutLayoutsSaysNothing) {
