@@ -120,6 +120,9 @@ TEST_F(DatabaseWindow, AFileThatIsNoDatabaseLeavesNothingOfTheOneBefore) {
   ExpectNoSource(program);
   ChooseMenu(program, {"File", "Print"});
   EXPECT_EQ(Find(program, "Labels", "label").description, "Labels: 0");
+  StartPrintToPdf(program, folder + "/none.pdf");
+  EXPECT_TRUE(AnswerMessage(program).starts_with("No label was printed: "));
+  EXPECT_FALSE(std::filesystem::exists(folder + "/none.pdf"));
 }
 
 TEST_F(DatabaseWindow, WithoutTheReaderADatabaseIsToldToBeUnreadable) {

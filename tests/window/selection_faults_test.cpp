@@ -156,6 +156,32 @@ TEST_F(SelectionWindow, TheMenuKeyCopiesPropertiesToAnOpenTextWhichStaysShown) {
   EXPECT_EQ(objects[1].kind, kText);
 }
 
+TEST_F(SelectionWindow, SelectAllByItsMenuEndsATextThatIsBeingTyped) {
+  DrawShape(program, paper, "Rectangle", 50, 8, 80, 30);
+  TypeText("Fig", 20, 20);
+  ChooseMenu(program, {"Edit", "Select All"});
+  WaitToHear(program, "Label", "2 objects selected");
+  EXPECT_EQ(Focused(program).name, "Label");
+  Type("lost");
+  EXPECT_EQ(Saved().at(1).text, "Fig");
+}
+
+// The panel of data fields proposes a style for the next field.
+TEST_F(SelectionWindow, ImportByItsKeyLeavesTheSelectedTextAsItIs) {
+  PressOn(program, "Text Tool");
+  ChooseRow(program, "Size", "20");
+  paper.Click(20, 20);
+  Type("Fig");
+  WaitToHear(program, "Label", "Text \"Fig\"");
+  const SavedObject typed = Saved().at(0);
+  Key("ctrl+i");
+  Find(program, "Import File Type", "label");
+  const SavedObject after = SavedAs(program, folder + "/after.twp").at(0);
+  EXPECT_EQ(after.font_size, 20);
+  EXPECT_EQ(after.font, typed.font);
+  EXPECT_EQ(after.width, typed.width);
+}
+
 // The panel shows its menu wherever nothing of it lies.
 TEST_F(SelectionWindow, ARightPressOnThePanelOfTextsOpensTheirMenu) {
   TypeText("Fig", 20, 20);

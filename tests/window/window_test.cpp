@@ -125,13 +125,14 @@ TEST_F(Window, AFieldTakesADecimalPointFromTheKeyboard) {
 
 TEST_F(Window, InchesAndMillimetresChangeWhatIsShownButNotTheLabel) {
   Program program(folder);
+  ChooseRow(program, "Layout", "A4 24 per sheet");  // not the one that a new label has
+  WaitForText(program, "Label Width", "63.00");
   const int before = LabelSpan(program).width;
-  EXPECT_EQ(Find(program, "Label Width", "text").text, "99.00");
   ChooseMenu(program, {"Options", "Units of Measure", "Inches"});
-  WaitForText(program, "Label Width", "3.90");
+  WaitForText(program, "Label Width", "2.48");
   EXPECT_EQ(LabelSpan(program).width, before);
   ChooseMenu(program, {"Options", "Units of Measure", "Millimeters"});
-  WaitForText(program, "Label Width", "99.00");
+  WaitForText(program, "Label Width", "63.00");
   EXPECT_EQ(LabelSpan(program).width, before);
 }
 
