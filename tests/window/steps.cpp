@@ -102,16 +102,20 @@ int Coloured(const Program& program, std::uint32_t color) {
   return static_cast<int>(std::ranges::count(pixels, color));
 }
 
+// What is asked of a window that is still being framed is lost.
 void PlaceWindow(const Program& program, const Box& frame) {
-  const Box client = program.Client();
-  const Box outer = program.Frame();
-  Shell("xdotool windowsize " + program.Window() +
-        Numbers(frame.width - (outer.width - client.width),
-                frame.height - (outer.height - client.height)));
-  // The toolkit's windows count their place inside the frame.
-  Shell("xdotool windowmove " + program.Window() +
-        Numbers(frame.x + client.x - outer.x, frame.y + client.y - outer.y));
-  WaitFor("the window at its place", [&] { return program.Frame() == frame; });
+  WaitFor("the window at its place", [&] {
+    const Box client = program.Client();
+    const Box outer = program.Frame();
+    if (outer == frame) return true;
+    Shell("xdotool windowsize " + program.Window() +
+          Numbers(frame.width - (outer.width - client.width),
+                  frame.height - (outer.height - client.height)));
+    // The toolkit's windows count their place inside the frame.
+    Shell("xdotool windowmove " + program.Window() +
+          Numbers(frame.x + client.x - outer.x, frame.y + client.y - outer.y));
+    return false;
+  });
 }
 
 }  // namespace tagwright::window_test
