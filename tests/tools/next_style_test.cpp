@@ -12,8 +12,8 @@ class NextStyleTest : public HandTest {
   // One of each kind that has a font, in one that no panel proposes.
   NextStyleTest() {
     PutText("Apple", 10, 10);
-    ObjectRecord field = TextObject("Name", 10, 25);
-    field.ObjType = kDataField;
+    ObjectRecord field = ShapeObject(kDataField, 10, 25, 20, 6);
+    field.Text = "Name";
     Put(field);
     ObjectRecord barcode = ShapeObject(kBarcode, 50, 10, 30, 15);
     barcode.Text = "12345";
@@ -75,6 +75,7 @@ TEST_F(NextStyleTest, AToolButtonWithAModifierLeavesTheSelectionAlone) {
       ClickOnLabel(ObjectAt(index).Left + 1, ObjectAt(index).Top + 1);
       ASSERT_EQ(SelectedObject, index);
       ModifierHeld = true;
+      frmMain.cmdTools(tool).UserFocus();  // as every way to press it brings along
       frmMain.cmdTools(tool).Press();
       ModifierHeld = false;
       ASSERT_EQ(SelectedObject, index);
