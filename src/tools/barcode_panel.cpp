@@ -116,7 +116,9 @@ void cboBCode_Click() {
 
 void cboBCode_KeyPress(int& KeyAscii) { KeyAscii = 0; }
 
+// Delete and Cut enter no character, but what they leave is as much an entry as what keys add.
 void txtBCodeData_Change() {
+  if (frmMain.txtBCodeData.HasFocus() && !PanelLoading) BarcodeEdited = kTrue;
   const std::string text = frmMain.txtBCodeData.Text();
   if (text.empty()) return;
   frmMain.cmdBCode.SetEnabled(false);

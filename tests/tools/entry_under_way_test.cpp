@@ -144,6 +144,24 @@ TEST_F(EntryUnderWayTest, ASavedEntryIsNoUnsavedChangeOnceItsFieldIsLeft) {
   EXPECT_EQ(DirtyFlag, kFalse);
 }
 
+TEST_F(EntryUnderWayTest, WhatDeleteAloneLeavesInTheDataIsTaken) {
+  SelectBarcode();
+  ProjectPath = Path();
+  frmMain.txtBCodeData.UserFocus();
+  frmMain.txtBCodeData.UserEdit("LD", 0);
+  KeyboardToBoard();
+  EXPECT_EQ(ObjectAt(0).Text.Trimmed(), "LD");
+  EXPECT_EQ(DirtyFlag, kTrue);
+}
+
+// The panel of another barcode says what that one holds, and nobody has typed it.
+TEST_F(EntryUnderWayTest, DataThatAPanelShowsIsNoEntry) {
+  SelectBarcode();
+  frmMain.txtBCodeData.UserFocus();
+  FillPanelFromObject(false);
+  EXPECT_EQ(BarcodeEdited, kFalse);
+}
+
 // On the board the next Delete would take the object instead of a character.
 TEST_F(EntryUnderWayTest, AfterASaveTheTypingGoesOnInItsField) {
   SelectBarcode();
