@@ -2,6 +2,10 @@
 // saved label.
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <filesystem>
+#include <system_error>
+
 #include "window/hand_steps.h"
 
 namespace tagwright::window_test {
@@ -161,6 +165,20 @@ TEST_F(HandFaultsWindow, WhatAMenuAKeyAndAListChangeIsAskedForAtExit) {
   PressOn(program, "Select Tool");
   ChooseRow(program, "Layout", "A4 24 per sheet");
   EXPECT_TRUE(asks());
+}
+
+// Before a look at the flag once a second has enabled anything.
+TEST_F(HandFaultsWindow, CtrlSRightAfterAChangeSavesIt) {
+  constexpr std::uintmax_t kWithoutObjects = 666;
+  const std::string label = folder + "/label.twp";
+  DrawShape(program, paper, "Rectangle", 20, 8, 60, 30);
+  Saved();
+  ASSERT_GT(std::filesystem::file_size(label), kWithoutObjects);
+  Shell("xdotool key Delete ctrl+s");
+  WaitFor("the label without its rectangle", [&] {
+    std::error_code gone;  // for a moment, while it is replaced
+    return std::filesystem::file_size(label, gone) == kWithoutObjects;
+  });
 }
 
 // A recent label replaces an unsaved one without a question. What its lists say while they are
