@@ -14,8 +14,9 @@
 #include <string>
 
 #include "barcode/mod_bar_code.h"
-#include "platform/qt/surface_qt.h"
-#include "platform/recorder.h"
+#include "platform/painting/recorder.h"
+#include "qt/painting/surfaces.h"
+#include "qt/services/paint_services.h"
 
 namespace {
 

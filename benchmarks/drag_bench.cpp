@@ -16,8 +16,8 @@
 #include "document/objects.h"
 #include "document/redraw.h"
 #include "forms/frmMain.h"
-#include "platform/application.h"
-#include "platform/desktop.h"
+#include "platform/services/application.h"
+#include "platform/services/desktop.h"
 #include "shell/startup.h"
 
 namespace {

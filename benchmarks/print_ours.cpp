@@ -17,9 +17,9 @@
 #include "document/objects.h"
 #include "document/project_file.h"
 #include "forms/frmMain.h"
-#include "platform/application.h"
-#include "platform/desktop.h"
-#include "platform/dialogs.h"
+#include "platform/services/application.h"
+#include "platform/services/desktop.h"
+#include "platform/services/dialogs.h"
 #include "sheet_rows.h"
 #include "shell/startup.h"
 

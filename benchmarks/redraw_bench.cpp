@@ -15,8 +15,9 @@
 #include "document/project_file.h"
 #include "document/redraw.h"
 #include "forms/frmMain.h"
-#include "platform/desktop.h"
-#include "platform/qt/surface_qt.h"
+#include "platform/services/desktop.h"
+#include "qt/painting/surfaces.h"
+#include "qt/services/paint_services.h"
 #include "shell/startup.h"
 
 namespace {

@@ -12,8 +12,8 @@
 #include "document/objects.h"
 #include "document/project_file.h"
 #include "forms/frmMain.h"
-#include "platform/desktop.h"
-#include "platform/fault.h"
+#include "platform/faults/fault.h"
+#include "platform/services/desktop.h"
 #include "shell/startup.h"
 
 using namespace tagwright;

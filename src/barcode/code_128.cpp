@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "barcode/engine.h"
-#include "platform/locale.h"
+#include "platform/text/locale.h"
 
 namespace tagwright {
 namespace {

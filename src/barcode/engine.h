@@ -16,8 +16,8 @@
 #include <vector>
 
 #include "common/diagnostics.h"
-#include "platform/fault.h"
-#include "platform/surface.h"
+#include "platform/faults/fault.h"
+#include "platform/painting/surface.h"
 
 namespace tagwright {
 

@@ -3,7 +3,7 @@
 
 #include <array>
 
-#include "platform/controls.h"
+#include "platform/controls/controls.h"
 
 namespace tagwright {
 

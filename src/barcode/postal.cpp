@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "platform/scale.h"
+#include "platform/painting/scale.h"
 
 namespace tagwright {
 namespace {

@@ -1,7 +1,7 @@
 #include "barcode/validation.h"
 
 #include "barcode/data_rules.h"
-#include "platform/text.h"
+#include "platform/text/text.h"
 
 namespace tagwright {
 namespace {

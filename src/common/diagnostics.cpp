@@ -3,9 +3,9 @@
 #include <string>
 
 #include "common/prog_settings.h"
-#include "platform/desktop.h"
-#include "platform/dialogs.h"
-#include "platform/files.h"
+#include "platform/files/files.h"
+#include "platform/services/desktop.h"
+#include "platform/services/dialogs.h"
 
 namespace tagwright {
 namespace {

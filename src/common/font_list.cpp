@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "platform/fonts.h"
+#include "platform/painting/fonts.h"
 
 namespace tagwright {
 

@@ -3,11 +3,11 @@
 #include <cmath>
 #include <limits>
 
-#include "platform/desktop.h"
-#include "platform/fault.h"
-#include "platform/locale.h"
-#include "platform/text.h"
-#include "platform/windows.h"
+#include "platform/controls/windows.h"
+#include "platform/faults/fault.h"
+#include "platform/services/desktop.h"
+#include "platform/text/locale.h"
+#include "platform/text/text.h"
 
 namespace tagwright {
 namespace {

@@ -5,8 +5,8 @@
 #include <string>
 #include <string_view>
 
-#include "platform/controls.h"
-#include "platform/database.h"
+#include "platform/controls/controls.h"
+#include "platform/database/database.h"
 
 namespace tagwright {
 

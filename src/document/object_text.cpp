@@ -7,10 +7,10 @@
 #include "common/public_functions.h"
 #include "document/objects.h"
 #include "document/redraw.h"
-#include "platform/clock.h"
-#include "platform/fault.h"
-#include "platform/locale.h"
-#include "platform/surface.h"
+#include "platform/faults/fault.h"
+#include "platform/painting/surface.h"
+#include "platform/services/clock.h"
+#include "platform/text/locale.h"
 
 namespace tagwright {
 namespace {

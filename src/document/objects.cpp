@@ -7,8 +7,8 @@
 #include "document/redraw.h"
 #include "document/shown_size.h"
 #include "forms/frmMain.h"
-#include "platform/fault.h"
-#include "platform/surface.h"
+#include "platform/faults/fault.h"
+#include "platform/painting/surface.h"
 
 namespace tagwright {
 namespace {

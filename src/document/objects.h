@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/controls.h"
-#include "platform/text.h"
+#include "platform/controls/controls.h"
+#include "platform/text/text.h"
 
 namespace tagwright {
 

@@ -2,7 +2,7 @@
 #include "document/overlay_geometry.h"
 #include "document/redraw.h"
 #include "forms/frmMain.h"
-#include "platform/fault.h"
+#include "platform/faults/fault.h"
 
 namespace tagwright {
 namespace {

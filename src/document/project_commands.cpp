@@ -6,10 +6,10 @@
 #include "document/selection_state.h"
 #include "document/source_state.h"
 #include "forms/frmMain.h"
-#include "platform/dialogs.h"
-#include "platform/fault.h"
-#include "platform/files.h"
-#include "platform/text.h"
+#include "platform/faults/fault.h"
+#include "platform/files/files.h"
+#include "platform/services/dialogs.h"
+#include "platform/text/text.h"
 
 namespace tagwright {
 namespace {

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "document/objects.h"
-#include "platform/database.h"
+#include "platform/database/database.h"
 
 namespace tagwright {
 

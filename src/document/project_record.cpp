@@ -1,5 +1,5 @@
-#include "common/bytes.h"
 #include "document/project_file.h"
+#include "platform/files/bytes.h"
 
 namespace tagwright {
 namespace {

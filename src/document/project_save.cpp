@@ -5,8 +5,8 @@
 #include "document/project_file.h"
 #include "document/selection_state.h"
 #include "forms/frmMain.h"
-#include "platform/fault.h"
-#include "platform/files.h"
+#include "platform/faults/fault.h"
+#include "platform/files/files.h"
 
 namespace tagwright {
 namespace {

@@ -5,9 +5,9 @@
 #include "common/prog_settings.h"
 #include "document/project_file.h"
 #include "forms/frmMain.h"
-#include "platform/dialog_folders.h"
-#include "platform/files.h"
-#include "platform/text.h"
+#include "platform/files/files.h"
+#include "platform/services/dialog_folders.h"
+#include "platform/text/text.h"
 
 namespace tagwright {
 namespace {

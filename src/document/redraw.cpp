@@ -10,11 +10,11 @@
 #include "document/selection_state.h"
 #include "document/shown_size.h"
 #include "forms/frmMain.h"
-#include "platform/dialogs.h"
-#include "platform/fault.h"
-#include "platform/picture.h"
-#include "platform/printer.h"
-#include "platform/surface.h"
+#include "platform/faults/fault.h"
+#include "platform/painting/picture.h"
+#include "platform/painting/printer.h"
+#include "platform/painting/surface.h"
+#include "platform/services/dialogs.h"
 
 namespace tagwright {
 namespace {

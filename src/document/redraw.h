@@ -6,7 +6,7 @@
 #include <set>
 #include <string>
 
-#include "platform/controls.h"
+#include "platform/controls/controls.h"
 
 namespace tagwright {
 

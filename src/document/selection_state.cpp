@@ -4,7 +4,7 @@
 #include "document/redraw.h"
 #include "document/shown_size.h"
 #include "forms/frmMain.h"
-#include "platform/fault.h"
+#include "platform/faults/fault.h"
 
 namespace tagwright {
 namespace {

@@ -3,8 +3,8 @@
 #include <cstddef>
 
 #include "forms/frmMain.h"
-#include "platform/fault.h"
-#include "platform/locale.h"
+#include "platform/faults/fault.h"
+#include "platform/text/locale.h"
 
 namespace tagwright {
 namespace {

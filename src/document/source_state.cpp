@@ -3,7 +3,7 @@
 #include "document/objects.h"
 #include "document/project_file.h"
 #include "forms/frmMain.h"
-#include "platform/dialogs.h"
+#include "platform/services/dialogs.h"
 
 namespace tagwright {
 

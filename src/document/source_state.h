@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/database.h"
-#include "platform/fault.h"
+#include "platform/database/database.h"
+#include "platform/faults/fault.h"
 
 namespace tagwright {
 

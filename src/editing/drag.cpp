@@ -17,8 +17,8 @@
 #include "editing/track_status.h"
 #include "editing/undo.h"
 #include "forms/frmMain.h"
-#include "platform/fault.h"
-#include "platform/locale.h"
+#include "platform/faults/fault.h"
+#include "platform/text/locale.h"
 
 namespace tagwright {
 namespace {

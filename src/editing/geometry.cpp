@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "platform/fault.h"
+#include "platform/faults/fault.h"
 
 namespace tagwright {
 

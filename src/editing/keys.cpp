@@ -4,7 +4,7 @@
 #include "editing/clipboard.h"
 #include "editing/selection.h"
 #include "forms/frmMain.h"
-#include "platform/controls.h"
+#include "platform/controls/controls.h"
 
 namespace tagwright {
 namespace {

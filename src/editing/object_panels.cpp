@@ -9,10 +9,10 @@
 #include "editing/panel_stack.h"
 #include "editing/selected_object.h"
 #include "forms/frmMain.h"
-#include "platform/fault.h"
-#include "platform/locale.h"
-#include "platform/picture.h"
-#include "platform/text.h"
+#include "platform/faults/fault.h"
+#include "platform/painting/picture.h"
+#include "platform/text/locale.h"
+#include "platform/text/text.h"
 
 namespace tagwright {
 namespace {

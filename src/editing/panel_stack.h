@@ -2,7 +2,7 @@
 // belong to no panel and move to the one that needs them.
 #pragma once
 
-#include "platform/controls.h"
+#include "platform/controls/controls.h"
 
 namespace tagwright {
 

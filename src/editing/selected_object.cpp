@@ -4,7 +4,7 @@
 #include <limits>
 
 #include "forms/frmMain.h"
-#include "platform/fault.h"
+#include "platform/faults/fault.h"
 
 namespace tagwright {
 

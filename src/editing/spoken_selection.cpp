@@ -2,8 +2,8 @@
 
 #include "document/objects.h"
 #include "editing/track_status.h"
-#include "platform/files.h"
-#include "platform/locale.h"
+#include "platform/files/files.h"
+#include "platform/text/locale.h"
 
 namespace tagwright {
 namespace {

@@ -7,7 +7,7 @@
 #include "editing/object_panels.h"
 #include "editing/selected_object.h"
 #include "forms/frmMain.h"
-#include "platform/fault.h"
+#include "platform/faults/fault.h"
 
 namespace tagwright {
 namespace {

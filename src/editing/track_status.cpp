@@ -7,7 +7,7 @@
 #include "document/shown_size.h"
 #include "editing/drag.h"
 #include "forms/frmMain.h"
-#include "platform/locale.h"
+#include "platform/text/locale.h"
 
 namespace tagwright {
 namespace {

@@ -1,7 +1,7 @@
 // What follows the pointer while it is over an object: cross hairs, status bar, position fields.
 #pragma once
 
-#include "platform/controls.h"
+#include "platform/controls/controls.h"
 
 namespace tagwright {
 

@@ -1,7 +1,7 @@
 // The window "About".
 #pragma once
 
-#include "platform/controls.h"
+#include "platform/controls/controls.h"
 
 namespace tagwright {
 

@@ -2,8 +2,8 @@
 // Controls and their design values only; what they do is bound in shell/wiring.cpp.
 #pragma once
 
-#include "platform/controls.h"
-#include "platform/dialogs.h"
+#include "platform/controls/controls.h"
+#include "platform/services/dialogs.h"
 
 namespace tagwright {
 

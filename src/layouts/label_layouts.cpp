@@ -1,9 +1,9 @@
 #include "layouts/label_layouts.h"
 
-#include "common/bytes.h"
 #include "common/prog_settings.h"
 #include "common/public_functions.h"
-#include "platform/files.h"
+#include "platform/files/bytes.h"
+#include "platform/files/files.h"
 
 namespace tagwright {
 namespace {

@@ -4,8 +4,8 @@
 #include "document/redraw.h"
 #include "forms/frmMain.h"
 #include "layouts/label_layouts.h"
-#include "platform/fault.h"
-#include "platform/locale.h"
+#include "platform/faults/fault.h"
+#include "platform/text/locale.h"
 
 namespace tagwright {
 namespace {

@@ -7,10 +7,10 @@
 #include "barcode/formats.h"
 #include "common/public_functions.h"
 #include "forms/frmSerialNumber.h"
-#include "platform/fault.h"
-#include "platform/locale.h"
-#include "platform/scale.h"
-#include "platform/windows.h"
+#include "platform/controls/windows.h"
+#include "platform/faults/fault.h"
+#include "platform/painting/scale.h"
+#include "platform/text/locale.h"
 
 namespace tagwright {
 namespace {

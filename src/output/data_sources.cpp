@@ -8,10 +8,10 @@
 #include "forms/frmMain.h"
 #include "output/database_source.h"
 #include "output/text_source.h"
-#include "platform/dialog_folders.h"
-#include "platform/dialogs.h"
-#include "platform/fault.h"
-#include "platform/files.h"
+#include "platform/faults/fault.h"
+#include "platform/files/files.h"
+#include "platform/services/dialog_folders.h"
+#include "platform/services/dialogs.h"
 
 namespace tagwright {
 namespace {

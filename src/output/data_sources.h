@@ -15,7 +15,7 @@
 #include <string>
 
 #include "document/source_state.h"
-#include "platform/line_reader.h"
+#include "platform/files/line_reader.h"
 
 namespace tagwright {
 

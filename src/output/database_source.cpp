@@ -11,8 +11,8 @@
 #include "document/project_file.h"
 #include "forms/frmMain.h"
 #include "output/data_sources.h"
-#include "platform/dialogs.h"
-#include "platform/fault.h"
+#include "platform/faults/fault.h"
+#include "platform/services/dialogs.h"
 
 namespace tagwright {
 namespace {

@@ -14,10 +14,10 @@
 #include "forms/frmMain.h"
 #include "layouts/label_layouts.h"
 #include "output/data_sources.h"
-#include "platform/dialogs.h"
-#include "platform/locale.h"
-#include "platform/printer.h"
-#include "platform/progress.h"
+#include "platform/painting/printer.h"
+#include "platform/services/dialogs.h"
+#include "platform/services/progress.h"
+#include "platform/text/locale.h"
 
 namespace tagwright {
 namespace {

@@ -10,9 +10,9 @@
 #include "document/project_file.h"
 #include "forms/frmMain.h"
 #include "output/print_job.h"
-#include "platform/locale.h"
-#include "platform/printer.h"
-#include "platform/text.h"
+#include "platform/painting/printer.h"
+#include "platform/text/locale.h"
+#include "platform/text/text.h"
 #include "tools/panels.h"
 
 namespace tagwright {

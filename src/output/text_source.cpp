@@ -11,11 +11,11 @@
 #include "document/project_file.h"
 #include "forms/frmMain.h"
 #include "output/data_sources.h"
-#include "platform/fault.h"
-#include "platform/files.h"
-#include "platform/line_reader.h"
-#include "platform/progress.h"
-#include "platform/text.h"
+#include "platform/faults/fault.h"
+#include "platform/files/files.h"
+#include "platform/files/line_reader.h"
+#include "platform/services/progress.h"
+#include "platform/text/text.h"
 
 namespace tagwright {
 namespace {

@@ -11,9 +11,9 @@
 #include <optional>
 #include <string_view>
 
-#include "platform/fault.h"
-#include "platform/files.h"
-#include "platform/jet_header.h"
+#include "platform/database/jet_header.h"
+#include "platform/faults/fault.h"
+#include "platform/files/files.h"
 
 namespace tagwright {
 namespace {

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/stored_value.h"
+#include "platform/database/stored_value.h"
 
 namespace tagwright {
 

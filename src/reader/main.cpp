@@ -12,8 +12,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/fault.h"
-#include "platform/reader_protocol.h"
+#include "platform/database/reader_protocol.h"
+#include "platform/faults/fault.h"
 #include "reader/jet_file.h"
 
 namespace tagwright {

@@ -4,7 +4,7 @@
 
 #include "common/prog_settings.h"
 #include "forms/frmAbout.h"
-#include "platform/windows.h"
+#include "platform/controls/windows.h"
 
 namespace tagwright::about {
 

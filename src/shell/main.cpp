@@ -1,4 +1,4 @@
-#include "platform/application.h"
+#include "platform/services/application.h"
 #include "shell/startup.h"
 
 int main(int argc, char** argv) {

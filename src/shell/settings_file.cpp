@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "common/bytes.h"
-#include "platform/fault.h"
-#include "platform/files.h"
+#include "platform/faults/fault.h"
+#include "platform/files/bytes.h"
+#include "platform/files/files.h"
 
 namespace tagwright {
 namespace {

@@ -5,8 +5,8 @@
 #include "document/project_file.h"
 #include "document/selection_state.h"
 #include "forms/frmMain.h"
-#include "platform/dialogs.h"
-#include "platform/windows.h"
+#include "platform/controls/windows.h"
+#include "platform/services/dialogs.h"
 #include "shell/settings_file.h"
 #include "shell/startup.h"
 

@@ -5,8 +5,8 @@
 #include "document/redraw.h"
 #include "forms/frmAbout.h"
 #include "forms/frmMain.h"
-#include "platform/desktop.h"
-#include "platform/windows.h"
+#include "platform/controls/windows.h"
+#include "platform/services/desktop.h"
 #include "tools/tool_buttons.h"
 #include "tools/view.h"
 

@@ -8,9 +8,9 @@
 #include "document/shown_size.h"
 #include "editing/selection.h"
 #include "forms/frmMain.h"
-#include "platform/dialogs.h"
-#include "platform/fault.h"
-#include "platform/text.h"
+#include "platform/faults/fault.h"
+#include "platform/services/dialogs.h"
+#include "platform/text/text.h"
 #include "tools/placement_arithmetic.h"
 
 namespace tagwright {

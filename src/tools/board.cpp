@@ -11,7 +11,7 @@
 #include "editing/selection.h"
 #include "editing/track_status.h"
 #include "forms/frmMain.h"
-#include "platform/locale.h"
+#include "platform/text/locale.h"
 #include "tools/placement.h"
 #include "tools/rule_drag.h"
 

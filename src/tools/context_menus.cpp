@@ -8,10 +8,10 @@
 #include "document/shown_size.h"
 #include "editing/selected_object.h"
 #include "forms/frmMain.h"
-#include "platform/dialogs.h"
-#include "platform/fault.h"
-#include "platform/locale.h"
-#include "platform/windows.h"
+#include "platform/controls/windows.h"
+#include "platform/faults/fault.h"
+#include "platform/services/dialogs.h"
+#include "platform/text/locale.h"
 
 namespace tagwright {
 namespace {

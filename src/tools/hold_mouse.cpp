@@ -15,8 +15,8 @@
 #include "editing/selection.h"
 #include "editing/track_status.h"
 #include "forms/frmMain.h"
-#include "platform/locale.h"
-#include "platform/windows.h"
+#include "platform/controls/windows.h"
+#include "platform/text/locale.h"
 #include "tools/placement.h"
 
 namespace tagwright {

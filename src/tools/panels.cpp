@@ -7,8 +7,8 @@
 #include "document/selection_state.h"
 #include "editing/object_panels.h"
 #include "forms/frmMain.h"
-#include "platform/fault.h"
-#include "platform/locale.h"
+#include "platform/faults/fault.h"
+#include "platform/text/locale.h"
 #include "tools/font_box.h"
 
 namespace tagwright {

@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "common/public_functions.h"
-#include "platform/fault.h"
-#include "platform/locale.h"
-#include "platform/scale.h"
+#include "platform/faults/fault.h"
+#include "platform/painting/scale.h"
+#include "platform/text/locale.h"
 
 namespace tagwright {
 namespace {

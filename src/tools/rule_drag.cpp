@@ -6,7 +6,7 @@
 #include "document/objects.h"
 #include "editing/magnetic_rule.h"
 #include "forms/frmMain.h"
-#include "platform/locale.h"
+#include "platform/text/locale.h"
 
 namespace tagwright {
 namespace {

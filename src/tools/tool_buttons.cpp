@@ -7,8 +7,8 @@
 #include "editing/panel_stack.h"
 #include "editing/selection.h"
 #include "forms/frmMain.h"
-#include "platform/fault.h"
-#include "platform/locale.h"
+#include "platform/faults/fault.h"
+#include "platform/text/locale.h"
 #include "tools/font_box.h"
 #include "tools/placement.h"
 

@@ -12,8 +12,8 @@
 #include "editing/selection.h"
 #include "forms/frmMain.h"
 #include "layouts/layout_list.h"
-#include "platform/locale.h"
-#include "platform/text.h"
+#include "platform/text/locale.h"
+#include "platform/text/text.h"
 
 namespace tagwright {
 namespace {

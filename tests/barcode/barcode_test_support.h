@@ -11,8 +11,8 @@
 
 #include "barcode/engine.h"
 #include "barcode/mod_bar_code.h"
-#include "platform/desktop.h"
-#include "platform/files.h"
+#include "platform/files/files.h"
+#include "platform/services/desktop.h"
 #include "support/test_support.h"
 
 namespace tagwright {

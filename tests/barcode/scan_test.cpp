@@ -15,9 +15,10 @@
 #include "document/objects.h"
 #include "document/redraw.h"
 #include "forms/frmMain.h"
-#include "platform/qt/printer_qt.h"
-#include "platform/qt/surface_qt.h"
-#include "platform/text.h"
+#include "platform/text/text.h"
+#include "qt/painting/surfaces.h"
+#include "qt/printing/printers.h"
+#include "qt/services/paint_services.h"
 
 namespace tagwright {
 namespace {

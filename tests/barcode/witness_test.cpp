@@ -11,7 +11,7 @@
 #include "barcode/code_39.h"
 #include "barcode/postal.h"
 #include "barcode_test_support.h"
-#include "platform/text.h"
+#include "platform/text/text.h"
 
 namespace tagwright {
 namespace {

@@ -1,11 +1,11 @@
-#include "common/bytes.h"
+#include "platform/files/bytes.h"
 
 #include <gtest/gtest.h>
 
 #include <bit>
 #include <limits>
 
-#include "platform/text.h"
+#include "platform/text/text.h"
 
 namespace tagwright {
 namespace {

@@ -4,7 +4,7 @@
 #include <fstream>
 
 #include "common/prog_settings.h"
-#include "platform/desktop.h"
+#include "platform/services/desktop.h"
 #include "support/test_support.h"
 
 namespace tagwright {

@@ -4,10 +4,10 @@
 #include <limits>
 
 #include "forms/frmMain.h"
-#include "platform/desktop.h"
-#include "platform/locale.h"
-#include "platform/text.h"
-#include "platform/windows.h"
+#include "platform/controls/windows.h"
+#include "platform/services/desktop.h"
+#include "platform/text/locale.h"
+#include "platform/text/text.h"
 #include "support/fault_of.h"
 #include "support/test_support.h"
 

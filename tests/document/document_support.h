@@ -10,8 +10,8 @@
 #include "document/project_file.h"
 #include "document/redraw.h"
 #include "forms/frmMain.h"
-#include "platform/files.h"
-#include "platform/locale.h"
+#include "platform/files/files.h"
+#include "platform/text/locale.h"
 #include "support/test_support.h"
 
 namespace tagwright {

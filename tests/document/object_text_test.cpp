@@ -1,7 +1,7 @@
 #include <cmath>
 
 #include "document/document_support.h"
-#include "platform/fault.h"
+#include "platform/faults/fault.h"
 
 namespace tagwright {
 namespace {

@@ -1,7 +1,7 @@
 #include "document/objects.h"
 
 #include "document/document_support.h"
-#include "platform/fault.h"
+#include "platform/faults/fault.h"
 #include "support/fault_of.h"
 
 namespace tagwright {

@@ -1,5 +1,5 @@
 #include "document/document_support.h"
-#include "platform/fault.h"
+#include "platform/faults/fault.h"
 #include "support/fault_of.h"
 
 namespace tagwright {

@@ -11,10 +11,11 @@
 #include <utility>
 
 #include "document/document_support.h"
-#include "platform/picture.h"
-#include "platform/printer.h"
-#include "platform/qt/printer_qt.h"
-#include "platform/qt/surface_qt.h"
+#include "platform/painting/picture.h"
+#include "platform/painting/printer.h"
+#include "qt/painting/surfaces.h"
+#include "qt/printing/printers.h"
+#include "qt/services/paint_services.h"
 #include "support/pdf_reader.h"
 
 namespace tagwright {

@@ -2,8 +2,8 @@
 
 #include "document/document_support.h"
 #include "document/selection_state.h"
-#include "platform/dialog_folders.h"
-#include "platform/text.h"
+#include "platform/services/dialog_folders.h"
+#include "platform/text/text.h"
 
 namespace tagwright {
 namespace {

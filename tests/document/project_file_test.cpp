@@ -6,7 +6,7 @@
 #include "document/document_support.h"
 #include "document/selection_state.h"
 #include "document/source_state.h"
-#include "platform/picture.h"
+#include "platform/painting/picture.h"
 #include "support/file_size_limit.h"
 
 namespace tagwright {

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "document/document_support.h"
-#include "platform/event.h"
+#include "platform/controls/event.h"
 
 namespace tagwright {
 

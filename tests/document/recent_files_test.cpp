@@ -1,5 +1,5 @@
 #include "document/document_support.h"
-#include "platform/text.h"
+#include "platform/text/text.h"
 
 namespace tagwright {
 namespace {

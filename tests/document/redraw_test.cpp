@@ -6,8 +6,8 @@
 
 #include "common/prog_settings.h"
 #include "document/document_support.h"
-#include "platform/picture.h"
-#include "platform/printer.h"
+#include "platform/painting/picture.h"
+#include "platform/painting/printer.h"
 
 namespace tagwright {
 namespace {

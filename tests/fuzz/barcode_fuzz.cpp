@@ -8,7 +8,7 @@
 
 #include "barcode/mod_bar_code.h"
 #include "barcode/validation.h"
-#include "platform/recorder.h"
+#include "platform/painting/recorder.h"
 
 namespace {
 

@@ -9,9 +9,9 @@
 #include <string>
 #include <string_view>
 
-#include "platform/fault.h"
-#include "platform/jet_header.h"
-#include "platform/reader_protocol.h"
+#include "platform/database/jet_header.h"
+#include "platform/database/reader_protocol.h"
+#include "platform/faults/fault.h"
 
 namespace {
 

@@ -8,9 +8,9 @@
 #include "forms/frmMain.h"
 #include "layouts/label_layouts.h"
 #include "layouts/layout_list.h"
-#include "platform/fault.h"
-#include "platform/files.h"
-#include "platform/windows.h"
+#include "platform/controls/windows.h"
+#include "platform/faults/fault.h"
+#include "platform/files/files.h"
 
 using namespace tagwright;
 

@@ -5,9 +5,10 @@
 #include <cstdlib>
 #include <string>
 
-#include "platform/picture.h"
-#include "platform/qt/picture_qt.h"
-#include "platform/qt/surface_qt.h"
+#include "platform/painting/picture.h"
+#include "qt/painting/surfaces.h"
+#include "qt/pictures/pictures.h"
+#include "qt/services/paint_services.h"
 
 namespace {
 

@@ -10,10 +10,10 @@
 
 #include "document/objects.h"
 #include "document/project_file.h"
-#include "platform/desktop.h"
-#include "platform/event.h"
-#include "platform/fault.h"
-#include "platform/files.h"
+#include "platform/controls/event.h"
+#include "platform/faults/fault.h"
+#include "platform/files/files.h"
+#include "platform/services/desktop.h"
 #include "shell/startup.h"
 
 namespace tagwright {

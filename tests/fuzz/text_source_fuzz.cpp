@@ -8,10 +8,10 @@
 #include "document/project_file.h"
 #include "forms/frmMain.h"
 #include "output/data_sources.h"
-#include "platform/fault.h"
-#include "platform/files.h"
-#include "platform/text.h"
-#include "platform/windows.h"
+#include "platform/controls/windows.h"
+#include "platform/faults/fault.h"
+#include "platform/files/files.h"
+#include "platform/text/text.h"
 
 using namespace tagwright;
 

@@ -3,7 +3,7 @@
 #include <filesystem>
 
 #include "common/prog_settings.h"
-#include "platform/files.h"
+#include "platform/files/files.h"
 #include "support/fault_of.h"
 #include "support/test_support.h"
 

@@ -4,7 +4,7 @@
 #include "document/redraw.h"
 #include "forms/frmMain.h"
 #include "layouts/label_layouts.h"
-#include "platform/fault.h"
+#include "platform/faults/fault.h"
 #include "support/test_support.h"
 
 namespace tagwright {

@@ -8,8 +8,8 @@
 #include "document/redraw.h"
 #include "forms/frmMain.h"
 #include "forms/frmSerialNumber.h"
-#include "platform/locale.h"
-#include "platform/windows.h"
+#include "platform/controls/windows.h"
+#include "platform/text/locale.h"
 #include "shell/wiring.h"
 #include "support/test_support.h"
 

@@ -2,7 +2,7 @@
 #include "output/data_sources.h"
 
 #include "output/source_fixture.h"
-#include "platform/dialog_folders.h"
+#include "platform/services/dialog_folders.h"
 
 namespace tagwright {
 namespace {

@@ -13,8 +13,8 @@
 #include "output/print_job.h"
 #include "output/print_panel.h"
 #include "output/source_fixture.h"
-#include "platform/locale.h"
-#include "platform/windows.h"
+#include "platform/controls/windows.h"
+#include "platform/text/locale.h"
 
 namespace tagwright {
 

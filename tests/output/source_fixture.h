@@ -10,7 +10,7 @@
 #include "document/project_file.h"
 #include "forms/frmMain.h"
 #include "output/data_sources.h"
-#include "platform/files.h"
+#include "platform/files/files.h"
 #include "support/fake_database.h"
 #include "support/test_support.h"
 

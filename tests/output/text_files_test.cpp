@@ -7,7 +7,7 @@
 #include <algorithm>
 
 #include "output/source_fixture.h"
-#include "platform/text.h"
+#include "platform/text/text.h"
 
 namespace tagwright {
 namespace {

@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "platform/controls.h"
-#include "platform/dialogs.h"
-#include "platform/windows.h"
+#include "platform/controls/controls.h"
+#include "platform/controls/windows.h"
+#include "platform/services/dialogs.h"
 #include "support/test_support.h"
 
 namespace tagwright {

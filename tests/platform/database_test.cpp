@@ -1,4 +1,4 @@
-#include "platform/database.h"
+#include "platform/database/database.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
-#include "platform/dialogs.h"
+#include "platform/services/dialogs.h"
 
 #include <gtest/gtest.h>
 
-#include "platform/fault.h"
+#include "platform/faults/fault.h"
 #include "support/test_support.h"
 
 namespace tagwright {

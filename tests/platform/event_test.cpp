@@ -1,5 +1,5 @@
 // Faults, events and what waits for them.
-#include "platform/event.h"
+#include "platform/controls/event.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/fault.h"
+#include "platform/faults/fault.h"
 #include "support/test_support.h"
 
 namespace tagwright {

@@ -1,4 +1,4 @@
-#include "platform/files.h"
+#include "platform/files/files.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -6,8 +6,8 @@
 #include <filesystem>
 #include <fstream>
 
-#include "platform/desktop.h"
-#include "platform/text.h"
+#include "platform/services/desktop.h"
+#include "platform/text/text.h"
 #include "support/fault_of.h"
 #include "support/file_size_limit.h"
 #include "support/test_support.h"

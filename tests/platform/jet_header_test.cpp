@@ -1,4 +1,4 @@
-#include "platform/jet_header.h"
+#include "platform/database/jet_header.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,7 @@
 #include <cmath>
 #include <cstdint>
 
-#include "platform/text.h"
+#include "platform/text/text.h"
 #include "support/jet_writer.h"
 
 namespace tagwright {

@@ -1,10 +1,10 @@
-#include "platform/line_reader.h"
+#include "platform/files/line_reader.h"
 
 #include <vector>
 
-#include "platform/fault.h"
-#include "platform/files.h"
-#include "platform/text.h"
+#include "platform/faults/fault.h"
+#include "platform/files/files.h"
+#include "platform/text/text.h"
 #include "support/fault_of.h"
 #include "support/test_support.h"
 

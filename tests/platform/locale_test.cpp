@@ -1,4 +1,4 @@
-#include "platform/locale.h"
+#include "platform/text/locale.h"
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,7 @@
 #include <cmath>
 #include <limits>
 
-#include "platform/clock.h"
+#include "platform/services/clock.h"
 #include "support/fault_of.h"
 
 namespace tagwright {

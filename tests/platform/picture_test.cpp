@@ -1,12 +1,12 @@
-#include "platform/picture.h"
+#include "platform/painting/picture.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
 #include <string>
 
-#include "platform/fault.h"
-#include "platform/files.h"
+#include "platform/faults/fault.h"
+#include "platform/files/files.h"
 #include "support/test_support.h"
 
 namespace tagwright {

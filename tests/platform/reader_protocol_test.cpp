@@ -1,4 +1,4 @@
-#include "platform/reader_protocol.h"
+#include "platform/database/reader_protocol.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
-#include "platform/recorder.h"
+#include "platform/painting/recorder.h"
 
 #include <gtest/gtest.h>
 
-#include "platform/fonts.h"
+#include "platform/painting/fonts.h"
 
 namespace tagwright {
 namespace {

@@ -1,10 +1,10 @@
-#include "platform/scale.h"
+#include "platform/painting/scale.h"
 
 #include <gtest/gtest.h>
 
 #include <limits>
 
-#include "platform/fault.h"
+#include "platform/faults/fault.h"
 
 namespace tagwright {
 namespace {

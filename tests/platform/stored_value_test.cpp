@@ -1,10 +1,10 @@
-#include "platform/stored_value.h"
+#include "platform/database/stored_value.h"
 
 #include <gtest/gtest.h>
 
 #include <limits>
 
-#include "platform/locale.h"
+#include "platform/text/locale.h"
 
 namespace tagwright {
 namespace {

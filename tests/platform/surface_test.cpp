@@ -1,11 +1,11 @@
-#include "platform/surface.h"
+#include "platform/painting/surface.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <limits>
 
-#include "platform/recorder.h"
+#include "platform/painting/recorder.h"
 #include "support/test_support.h"
 
 namespace tagwright {

@@ -1,5 +1,5 @@
 // Windows come and go.
-#include "platform/windows.h"
+#include "platform/controls/windows.h"
 
 #include <memory>
 

@@ -5,9 +5,10 @@
 #include "forms/frmAbout.h"
 #include "forms/frmMain.h"
 #include "forms/frmSerialNumber.h"
-#include "platform/desktop.h"
-#include "platform/qt/surface_qt.h"
-#include "platform/windows.h"
+#include "platform/controls/windows.h"
+#include "platform/services/desktop.h"
+#include "qt/painting/surfaces.h"
+#include "qt/services/paint_services.h"
 #include "shell/startup.h"
 
 namespace tagwright {

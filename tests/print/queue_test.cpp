@@ -8,7 +8,7 @@
 
 #include "document/objects.h"
 #include "forms/frmMain.h"
-#include "platform/files.h"
+#include "platform/files/files.h"
 #include "print/print_fixture.h"
 #include "print/queue_service.h"
 #include "print/rendered_page.h"

@@ -10,7 +10,7 @@
 
 #include "common/prog_settings.h"
 #include "forms/frmMain.h"
-#include "platform/files.h"
+#include "platform/files/files.h"
 #include "print/code_128_reader.h"
 #include "print/print_fixture.h"
 #include "support/fake_database.h"

@@ -4,8 +4,8 @@
 #include "document/objects.h"
 #include "document/project_file.h"
 #include "forms/frmMain.h"
-#include "platform/files.h"
-#include "platform/picture.h"
+#include "platform/files/files.h"
+#include "platform/painting/picture.h"
 #include "shell/startup.h"
 #include "support/test_support.h"
 

@@ -12,9 +12,9 @@
 #include "editing/drag.h"
 #include "editing/keys.h"
 #include "editing/selection.h"
-#include "platform/locale.h"
-#include "platform/picture.h"
-#include "platform/windows.h"
+#include "platform/controls/windows.h"
+#include "platform/painting/picture.h"
+#include "platform/text/locale.h"
 #include "shell/shell_fixture.h"
 
 namespace tagwright {

@@ -4,7 +4,7 @@
 
 #include <map>
 
-#include "platform/picture.h"
+#include "platform/painting/picture.h"
 #include "shell/shell_fixture.h"
 
 namespace tagwright {

@@ -4,7 +4,7 @@
 #include <cctype>
 #include <memory>
 
-#include "platform/fault.h"
+#include "platform/faults/fault.h"
 
 namespace tagwright {
 namespace {

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/database.h"
+#include "platform/database/database.h"
 
 namespace tagwright {
 

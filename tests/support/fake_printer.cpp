@@ -1,6 +1,6 @@
 #include "support/fake_printer.h"
 
-#include "platform/fault.h"
+#include "platform/faults/fault.h"
 
 namespace tagwright {
 namespace {

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/printer.h"
-#include "platform/recorder.h"
+#include "platform/painting/printer.h"
+#include "platform/painting/recorder.h"
 
 namespace tagwright {
 

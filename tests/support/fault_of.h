@@ -3,7 +3,7 @@
 
 #include <utility>
 
-#include "platform/fault.h"
+#include "platform/faults/fault.h"
 
 namespace tagwright {
 

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <utility>
 
-#include "platform/text.h"
+#include "platform/text/text.h"
 
 namespace tagwright {
 namespace {

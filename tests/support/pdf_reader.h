@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/surface.h"
+#include "platform/painting/surface.h"
 
 namespace tagwright {
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/progress.h"
+#include "platform/services/progress.h"
 
 namespace tagwright {
 

@@ -7,12 +7,12 @@
 #include "document/objects.h"
 #include "document/project_file.h"
 #include "forms/frmMain.h"
-#include "platform/clock.h"
-#include "platform/desktop.h"
-#include "platform/dialog_folders.h"
-#include "platform/locale.h"
-#include "platform/progress.h"
-#include "platform/windows.h"
+#include "platform/controls/windows.h"
+#include "platform/services/clock.h"
+#include "platform/services/desktop.h"
+#include "platform/services/dialog_folders.h"
+#include "platform/services/progress.h"
+#include "platform/text/locale.h"
 
 namespace tagwright {
 namespace {

@@ -11,8 +11,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/dialogs.h"
-#include "platform/recorder.h"
+#include "platform/painting/recorder.h"
+#include "platform/services/dialogs.h"
 #include "support/fake_printer.h"
 #include "support/scripted_progress.h"
 

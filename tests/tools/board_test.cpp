@@ -3,7 +3,7 @@
 #include "common/prog_settings.h"
 #include "document/objects.h"
 #include "forms/frmMain.h"
-#include "platform/files.h"
+#include "platform/files/files.h"
 #include "support/test_support.h"
 #include "tools/view.h"
 

@@ -1,6 +1,6 @@
 #include "tools/context_menus.h"
 
-#include "platform/windows.h"
+#include "platform/controls/windows.h"
 #include "tools/hand_fixture.h"
 
 namespace tagwright {

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "editing/editing_support.h"
-#include "platform/picture.h"
+#include "platform/painting/picture.h"
 #include "shell/wiring.h"
 #include "tools/barcode_panel.h"
 #include "tools/placement.h"

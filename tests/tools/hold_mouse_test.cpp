@@ -6,7 +6,7 @@
 #include "editing/clipboard.h"
 #include "editing/editing_support.h"
 #include "editing/property_pick.h"
-#include "platform/windows.h"
+#include "platform/controls/windows.h"
 #include "tools/barcode_panel.h"
 #include "tools/placement.h"
 

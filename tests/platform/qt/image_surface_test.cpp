@@ -3,7 +3,7 @@
 #include <limits>
 
 #include "paint_environment.h"
-#include "platform/qt/picture_qt.h"
+#include "qt/pictures/pictures.h"
 
 namespace tagwright {
 namespace {

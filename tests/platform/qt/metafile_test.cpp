@@ -9,12 +9,12 @@
 
 #include "metafile_writer.h"
 #include "paint_environment.h"
-#include "platform/fault.h"
-#include "platform/files.h"
-#include "platform/qt/fonts_qt.h"
-#include "platform/qt/metafile_qt.h"
-#include "platform/qt/metafile_records.h"
-#include "platform/qt/picture_qt.h"
+#include "platform/faults/fault.h"
+#include "platform/files/files.h"
+#include "platform/painting/metafile_records.h"
+#include "qt/fonts/fonts.h"
+#include "qt/pictures/metafiles.h"
+#include "qt/pictures/pictures.h"
 #include "support/test_support.h"
 
 namespace tagwright {

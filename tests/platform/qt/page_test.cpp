@@ -7,8 +7,8 @@
 #include <string>
 
 #include "paint_environment.h"
-#include "platform/files.h"
-#include "platform/qt/picture_qt.h"
+#include "platform/files/files.h"
+#include "qt/pictures/pictures.h"
 #include "support/pdf_reader.h"
 #include "support/test_support.h"
 

@@ -6,10 +6,11 @@
 #include <QGuiApplication>
 #include <QImage>
 
-#include "platform/fonts.h"
-#include "platform/picture.h"
-#include "platform/printer.h"
-#include "platform/qt/surface_qt.h"
+#include "platform/painting/fonts.h"
+#include "platform/painting/picture.h"
+#include "platform/painting/printer.h"
+#include "qt/painting/surfaces.h"
+#include "qt/services/paint_services.h"
 
 namespace tagwright {
 

@@ -7,9 +7,9 @@
 #include <string>
 
 #include "paint_environment.h"
-#include "platform/fault.h"
-#include "platform/files.h"
-#include "platform/qt/picture_qt.h"
+#include "platform/faults/fault.h"
+#include "platform/files/files.h"
+#include "qt/pictures/pictures.h"
 #include "support/test_support.h"
 
 namespace tagwright {

@@ -1,4 +1,6 @@
 // The printers of the toolkit, above all the one that writes files.
+#include "qt/printing/printers.h"
+
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -7,9 +9,8 @@
 #include <string>
 
 #include "paint_environment.h"
-#include "platform/fault.h"
-#include "platform/files.h"
-#include "platform/qt/printer_qt.h"
+#include "platform/faults/fault.h"
+#include "platform/files/files.h"
 #include "support/full_disk.h"
 #include "support/pdf_reader.h"
 #include "support/test_support.h"

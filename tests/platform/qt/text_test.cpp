@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "paint_environment.h"
-#include "platform/qt/fonts_qt.h"
+#include "qt/fonts/fonts.h"
 #include "support/pdf_reader.h"
 #include "support/test_support.h"
 

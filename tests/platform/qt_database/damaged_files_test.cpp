@@ -10,7 +10,7 @@
 #include <random>
 
 #include "database_fixture.h"
-#include "platform/files.h"
+#include "platform/files/files.h"
 
 namespace tagwright {
 namespace {

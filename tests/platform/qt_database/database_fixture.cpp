@@ -1,8 +1,8 @@
 #include "database_fixture.h"
 
-#include "platform/files.h"
-#include "platform/locale.h"
-#include "platform/text.h"
+#include "platform/files/files.h"
+#include "platform/text/locale.h"
+#include "platform/text/text.h"
 
 namespace tagwright {
 

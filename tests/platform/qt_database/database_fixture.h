@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/qt/database_qt.h"
+#include "qt/services/database.h"
 #include "support/fault_of.h"
 #include "support/jet_writer.h"
 #include "support/test_support.h"

@@ -1,6 +1,4 @@
 // Whole files in both versions, through the built reader.
-#include "platform/qt/database_qt.h"
-
 #include <sys/wait.h>
 
 #include <QCoreApplication>
@@ -9,8 +7,9 @@
 #include <cstdlib>
 
 #include "database_fixture.h"
-#include "platform/locale.h"
-#include "platform/text.h"
+#include "platform/text/locale.h"
+#include "platform/text/text.h"
+#include "qt/services/database.h"
 
 namespace tagwright {
 namespace {

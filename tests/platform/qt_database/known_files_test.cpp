@@ -7,7 +7,7 @@
 #include <set>
 
 #include "database_fixture.h"
-#include "platform/locale.h"
+#include "platform/text/locale.h"
 
 namespace tagwright {
 namespace {

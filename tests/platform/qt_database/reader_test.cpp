@@ -5,8 +5,8 @@
 #include <QTimer>
 
 #include "database_fixture.h"
-#include "platform/files.h"
-#include "platform/reader_protocol.h"
+#include "platform/database/reader_protocol.h"
+#include "platform/files/files.h"
 
 namespace tagwright {
 namespace {

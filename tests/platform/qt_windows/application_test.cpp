@@ -1,4 +1,4 @@
-#include "platform/application.h"
+#include "platform/services/application.h"
 
 #include <gtest/gtest.h>
 
@@ -7,9 +7,9 @@
 #include <cstdlib>
 #include <string>
 
-#include "platform/desktop.h"
-#include "platform/locale.h"
-#include "platform/text.h"
+#include "platform/services/desktop.h"
+#include "platform/text/locale.h"
+#include "platform/text/text.h"
 
 namespace tagwright {
 namespace {

@@ -1,10 +1,10 @@
-#include "platform/qt/binder.h"
+#include "qt/controls/binder.h"
 
 #include <QAccessible>
 #include <QAccessibleInterface>
 
-#include "platform/qt/views.h"
 #include "platform/qt_windows/window_fixture.h"
+#include "qt/controls/views.h"
 
 namespace tagwright {
 namespace {

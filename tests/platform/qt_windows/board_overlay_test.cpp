@@ -3,10 +3,10 @@
 #include <cmath>
 #include <utility>
 
-#include "platform/fonts.h"
-#include "platform/qt/board_view.h"
-#include "platform/qt/surface_qt.h"
+#include "platform/painting/fonts.h"
 #include "platform/qt_windows/window_fixture.h"
+#include "qt/controls/board_view.h"
+#include "qt/painting/surfaces.h"
 
 namespace tagwright {
 namespace {

@@ -1,10 +1,10 @@
-#include "platform/qt/board_view.h"
+#include "qt/controls/board_view.h"
 
 #include <QPainter>
 #include <cmath>
 
-#include "platform/qt/views.h"
 #include "platform/qt_windows/window_fixture.h"
+#include "qt/controls/views.h"
 
 namespace tagwright {
 namespace {

@@ -1,5 +1,3 @@
-#include "platform/qt/dialogs_qt.h"
-
 #include <QAbstractButton>
 #include <QColorDialog>
 #include <QFileDialog>
@@ -11,8 +9,9 @@
 #include <fstream>
 #include <functional>
 
-#include "platform/dialog_folders.h"
 #include "platform/qt_windows/window_fixture.h"
+#include "platform/services/dialog_folders.h"
+#include "qt/services/dialogs.h"
 
 namespace tagwright {
 namespace {

@@ -9,8 +9,8 @@
 #include <QTextLayout>
 #include <QTimer>
 
-#include "platform/qt/views.h"
 #include "platform/qt_windows/window_fixture.h"
+#include "qt/controls/views.h"
 
 namespace tagwright {
 namespace {

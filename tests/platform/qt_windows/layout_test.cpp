@@ -9,9 +9,9 @@
 #include <algorithm>
 #include <set>
 
-#include "platform/qt/views.h"
-#include "platform/qt/windows_qt.h"
 #include "platform/qt_windows/window_fixture.h"
+#include "qt/controls/views.h"
+#include "qt/controls/windows.h"
 
 namespace tagwright {
 namespace {

@@ -1,11 +1,10 @@
-#include "platform/qt/locale_qt.h"
-
 #include <gtest/gtest.h>
 
 #include <cstdlib>
 #include <map>
 
-#include "platform/qt/dialogs_qt.h"
+#include "qt/services/dialogs.h"
+#include "qt/services/locale.h"
 
 namespace tagwright {
 namespace {

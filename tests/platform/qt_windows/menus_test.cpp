@@ -2,8 +2,8 @@
 #include <QMenu>
 #include <QMenuBar>
 
-#include "platform/qt/views.h"
 #include "platform/qt_windows/window_fixture.h"
+#include "qt/controls/views.h"
 
 namespace tagwright {
 namespace {

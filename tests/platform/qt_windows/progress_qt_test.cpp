@@ -1,5 +1,3 @@
-#include "platform/qt/progress_qt.h"
-
 #include <QDialog>
 #include <QElapsedTimer>
 #include <QLabel>
@@ -9,6 +7,7 @@
 #include <QTimer>
 
 #include "platform/qt_windows/window_fixture.h"
+#include "qt/services/progress.h"
 
 namespace tagwright {
 namespace {

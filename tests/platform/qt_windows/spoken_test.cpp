@@ -1,12 +1,13 @@
 // What assistive tools are told, asked as they ask.
+#include "qt/controls/spoken.h"
+
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QComboBox>
 #include <QListWidget>
 
-#include "platform/qt/spoken_qt.h"
-#include "platform/qt/views.h"
 #include "platform/qt_windows/window_fixture.h"
+#include "qt/controls/views.h"
 
 namespace tagwright {
 namespace {

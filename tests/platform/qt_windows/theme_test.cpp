@@ -1,4 +1,4 @@
-#include "platform/qt/theme.h"
+#include "qt/look/theme.h"
 
 #include <QLabel>
 #include <QToolButton>

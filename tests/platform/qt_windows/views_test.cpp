@@ -1,4 +1,4 @@
-#include "platform/qt/views.h"
+#include "qt/controls/views.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -12,7 +12,7 @@
 #include <QStackedWidget>
 #include <QTimer>
 
-#include "platform/event.h"
+#include "platform/controls/event.h"
 #include "platform/qt_windows/window_fixture.h"
 
 namespace tagwright {

@@ -1,8 +1,8 @@
 #include "platform/qt_windows/window_fixture.h"
 
-#include "platform/event.h"
-#include "platform/qt/theme.h"
-#include "platform/qt/windows_qt.h"
+#include "platform/controls/event.h"
+#include "qt/controls/windows.h"
+#include "qt/look/theme.h"
 
 namespace tagwright {
 

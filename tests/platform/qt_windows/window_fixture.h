@@ -14,7 +14,7 @@
 #include "forms/frmAbout.h"
 #include "forms/frmMain.h"
 #include "forms/frmSerialNumber.h"
-#include "platform/windows.h"
+#include "platform/controls/windows.h"
 #include "support/test_support.h"
 
 namespace tagwright {

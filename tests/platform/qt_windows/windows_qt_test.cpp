@@ -1,12 +1,11 @@
-#include "platform/qt/windows_qt.h"
-
 #include <QPointer>
 #include <QPushButton>
 #include <QScreen>
 #include <QTimer>
 
-#include "platform/qt/views.h"
 #include "platform/qt_windows/window_fixture.h"
+#include "qt/controls/views.h"
+#include "qt/controls/windows.h"
 
 namespace tagwright {
 namespace {

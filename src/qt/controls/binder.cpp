@@ -1,0 +1,155 @@
+#include "qt/controls/binder.h"
+
+#include <QAction>
+#include <QDialog>
+#include <QLabel>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QRegularExpression>
+#include <QToolButton>
+#include <QWidget>
+
+#include "qt/controls/board_view.h"
+#include "qt/controls/views.h"
+#include "qt/look/theme.h"
+#include "ui_frmAbout.h"
+#include "ui_frmMain.h"
+#include "ui_frmSerialNumber.h"
+
+namespace tagwright {
+namespace {
+
+// --- building -----------------------------------------------------------------------------------
+
+template <class FormFile, class Window>
+std::unique_ptr<QWidget> Build(QWidget* parent) {
+  auto window = std::make_unique<Window>(parent);
+  FormFile().setupUi(window.get());
+  return window;
+}
+
+struct KnownForm {
+  const char* name;
+  std::unique_ptr<QWidget> (*build)(QWidget* parent);
+};
+
+constexpr KnownForm kForms[] = {
+    {"frmMain", Build<Ui::frmMain, QMainWindow>},
+    {"frmAbout", Build<Ui::frmAbout, QDialog>},
+    {"frmSerialNumber", Build<Ui::frmSerialNumber, QDialog>},
+};
+
+// Icons stand in the form file by name, so that they take the colours of the theme.
+void SetIcons(QWidget& window) {
+  for (QToolButton* button : window.findChildren<QToolButton*>()) {
+    button->setIcon(ThemedIcon(button->property("iconName").toString()));
+  }
+  for (QLabel* label : window.findChildren<QLabel*>()) {
+    const QString name = label->property("iconName").toString();
+    if (name.isEmpty()) continue;
+    label->setPixmap(ThemedIcon(name).pixmap(label->minimumSize(), label->devicePixelRatioF()));
+  }
+}
+
+// --- matching -----------------------------------------------------------------------------------
+
+bool IsOnBoard(const Control& control) {
+  return control.Parent() && control.Parent()->Name() == "picBoard";
+}
+
+// What nobody sees as a widget: the board's painted children, the text box that stands for the
+// board, timers, holders of icons, the off-screen picture.
+bool NeedsNoWidget(const Control& control) {
+  const bool painted =
+      dynamic_cast<const Label*>(&control) || dynamic_cast<const Shape*>(&control) ||
+      dynamic_cast<const LineControl*>(&control) || dynamic_cast<const TextBox*>(&control);
+  return (IsOnBoard(control) && painted) || dynamic_cast<const Timer*>(&control) ||
+         dynamic_cast<const Image*>(&control) || control.Name() == "picTemp";
+}
+
+// The entry of a menu or of one of its items; null when the form file has none.
+QAction* ActionOf(const Control& menu, const QWidget& window) {
+  const QString name = ObjectName(menu);
+  if (const auto* submenu = window.findChild<QMenu*>(name)) return submenu->menuAction();
+  return window.findChild<QAction*>(name);
+}
+
+bool IsNamedLikeControl(const QString& name) {
+  static const QRegularExpression pattern(
+      "^(cbo|chk|cmd|lbl|pic|txt|lst|shp|tmr|mnu|vS|hS|sB)[A-Z0-9]\\w*$");
+  return pattern.match(name).hasMatch();
+}
+
+bool Matches(const QObject& object, const Form& form) {
+  for (const Control* control : form.AllControls()) {
+    if (ObjectName(*control) == object.objectName()) return true;
+  }
+  return false;
+}
+
+std::unique_ptr<ControlView> Bind(Control& control, QWidget& window) {
+  if (auto* menu = dynamic_cast<Menu*>(&control)) {
+    QAction* action = ActionOf(*menu, window);
+    return action ? MakeMenuView(*menu, *action) : nullptr;
+  }
+  if (auto* timer = dynamic_cast<Timer*>(&control)) return MakeTimerView(*timer);
+  auto* widget = window.findChild<QWidget*>(ObjectName(control));
+  if (!widget) return nullptr;
+  if (auto* board = dynamic_cast<BoardView*>(widget)) {
+    board->setProperty("control", true);
+    board->Attach(dynamic_cast<PictureBox&>(control));
+    return nullptr;  // the widget is the view
+  }
+  return MakeView(control, *widget);
+}
+
+}  // namespace
+
+std::unique_ptr<QWidget> BuildWindow(const Form& form, QWidget* parent) {
+  for (const KnownForm& known : kForms) {
+    if (form.Name() != known.name) continue;
+    std::unique_ptr<QWidget> window = known.build(parent);
+    window->setWindowIcon(ThemedIcon("application"));
+    SetIcons(*window);
+    return window;
+  }
+  return nullptr;
+}
+
+QWidget& ClientOf(QWidget& window) {
+  auto* main = qobject_cast<QMainWindow*>(&window);
+  return main ? *main->centralWidget() : window;
+}
+
+std::vector<std::unique_ptr<ControlView>> BindControls(Form& form, QWidget& window) {
+  std::vector<std::unique_ptr<ControlView>> views;
+  const std::vector<Control*> controls = form.AllControls();
+  for (Control* control : controls) {
+    if (auto view = Bind(*control, window)) views.push_back(std::move(view));
+  }
+  return views;
+}
+
+QStringList ControlsWithoutWidget(const Form& form, const QWidget& window) {
+  QStringList missing;
+  for (const Control* control : form.AllControls()) {
+    if (control == &form || NeedsNoWidget(*control)) continue;
+    const bool is_menu = dynamic_cast<const Menu*>(control) != nullptr;
+    const bool found = is_menu ? ActionOf(*control, window) != nullptr
+                               : window.findChild<QWidget*>(ObjectName(*control)) != nullptr;
+    if (!found) missing << ObjectName(*control);
+  }
+  return missing;
+}
+
+QStringList WidgetsWithoutControl(const Form& form, const QWidget& window) {
+  QStringList strangers;
+  for (const QObject* object : window.findChildren<QObject*>()) {
+    if (!IsNamedLikeControl(object->objectName())) continue;
+    if (!Matches(*object, form)) strangers << object->objectName();
+  }
+  return strangers;
+}
+
+}  // namespace tagwright

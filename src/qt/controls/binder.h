@@ -1,0 +1,30 @@
+// From form files to windows: builds a window and finds the widget of each control by its name.
+#pragma once
+
+#include <QStringList>
+#include <memory>
+#include <vector>
+
+#include "platform/controls/controls.h"
+
+class QWidget;
+
+namespace tagwright {
+
+// The window that the form file of `form` describes, with its icons; null when there is no file of
+// that name. `parent` is the window that it opens over.
+std::unique_ptr<QWidget> BuildWindow(const Form& form, QWidget* parent);
+
+// The part of a window inside frame and menu bar.
+QWidget& ClientOf(QWidget& window);
+
+// Makes the views of all controls, menus and timers of `form`. Controls without a widget have none:
+// the board paints its children, and what is off screen needs none.
+std::vector<std::unique_ptr<ControlView>> BindControls(Form& form, QWidget& window);
+
+// The names that do not match: controls that should have a widget or an action and have none, and
+// widgets and actions named like a control that no control answers to.
+QStringList ControlsWithoutWidget(const Form& form, const QWidget& window);
+QStringList WidgetsWithoutControl(const Form& form, const QWidget& window);
+
+}  // namespace tagwright
