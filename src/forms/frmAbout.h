@@ -8,12 +8,12 @@ namespace tagwright {
 struct FrmAbout : Form {
   FrmAbout();
 
-  PictureBox picIcon{this, "picIcon"};
-  Label lblTitle{this, "lblTitle"};
-  Label lblVersion{this, "lblVersion"};
-  Label lblCopyright{this, "lblCopyright"};
-  Label lblDisclaimer{this, "lblDisclaimer"};
-  CommandButton cmdOK{this, "cmdOK"};
+  PictureBox picIcon{this, "picIcon"};         // the program's icon
+  Label lblTitle{this, "lblTitle"};            // the product's name
+  Label lblVersion{this, "lblVersion"};        // "Version " and its number
+  Label lblCopyright{this, "lblCopyright"};    // whose it is
+  Label lblDisclaimer{this, "lblDisclaimer"};  // that there is no warranty
+  CommandButton cmdOK{this, "cmdOK"};          // "OK": closes the window
 };
 
 extern FrmAbout frmAbout;

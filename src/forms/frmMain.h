@@ -1,5 +1,8 @@
 // The main window: the label on its board, the panels above it, the tools beside it.
 // Controls and their design values only; what they do is bound in shell/wiring.cpp.
+//
+// Behind each control stands what it is to the user: its caption in quotes, or what it shows.
+// "(later)" marks what is seen and does nothing yet.
 #pragma once
 
 #include "platform/controls/controls.h"
@@ -11,189 +14,204 @@ struct FrmMain : Form {
   FrmMain();
 
   // --- menus ---
-  Menu mnuFile{this, "mnuFile"};
-  Menu mnuFileNew{&mnuFile, "mnuFileNew"};
-  Menu mnuFileOpen{&mnuFile, "mnuFileOpen"};
-  Menu mnuFileSave{&mnuFile, "mnuFileSave"};
-  Menu mnuFileSaveAs{&mnuFile, "mnuFileSaveAs"};
-  Menu mnuFilePrint{&mnuFile, "mnuFilePrint"};
-  Menu mnuFileImport{&mnuFile, "mnuFileImport"};
-  Menu mnuFileSerial{&mnuFile, "mnuFileSerial"};
-  Menu mnuFileDesign{&mnuFile, "mnuFileDesign"};
-  Menu mnuFileDefault{&mnuFile, "mnuFileDefault"};
-  Menu mnuFileBar4{&mnuFile, "mnuFileBar4"};
-  ControlArray<Menu> mnuFileOld{&mnuFile, "mnuFileOld", 6};
-  Menu mnuFileExit{&mnuFile, "mnuFileExit"};
+  Menu mnuFile{this, "mnuFile"};                    // "File"
+  Menu mnuFileNew{&mnuFile, "mnuFileNew"};          // "New": an empty label
+  Menu mnuFileOpen{&mnuFile, "mnuFileOpen"};        // "Open": another project
+  Menu mnuFileSave{&mnuFile, "mnuFileSave"};        // "Save", once there is something to save
+  Menu mnuFileSaveAs{&mnuFile, "mnuFileSaveAs"};    // "Save As": under another name
+  Menu mnuFilePrint{&mnuFile, "mnuFilePrint"};      // "Print": the print panel
+  Menu mnuFileImport{&mnuFile, "mnuFileImport"};    // "Import Data": the data panel
+  Menu mnuFileSerial{&mnuFile, "mnuFileSerial"};    // "Serial Number Setup": that window
+  Menu mnuFileDesign{&mnuFile, "mnuFileDesign"};    // "Design Label Layouts" (later)
+  Menu mnuFileDefault{&mnuFile, "mnuFileDefault"};  // "Default Settings" (later)
+  Menu mnuFileBar4{&mnuFile, "mnuFileBar4"};        // the line above the recent files
+  ControlArray<Menu> mnuFileOld{&mnuFile, "mnuFileOld", 6};  // the recent files, latest first
+  Menu mnuFileExit{&mnuFile, "mnuFileExit"};                 // "Exit"
 
-  Menu mnuFileEdit{this, "mnuFileEdit"};
-  Menu mnuUndo{&mnuFileEdit, "mnuUndo"};
-  Menu mnuEditCut{&mnuFileEdit, "mnuEditCut"};
-  Menu mnuEditCopy{&mnuFileEdit, "mnuEditCopy"};
-  Menu mnuEditPaste{&mnuFileEdit, "mnuEditPaste"};
-  Menu mnuEditSelectAll{&mnuFileEdit, "mnuEditSelectAll"};
+  Menu mnuFileEdit{this, "mnuFileEdit"};                    // "Edit"
+  Menu mnuUndo{&mnuFileEdit, "mnuUndo"};                    // "Undo" (later)
+  Menu mnuEditCut{&mnuFileEdit, "mnuEditCut"};              // "Cut" (later)
+  Menu mnuEditCopy{&mnuFileEdit, "mnuEditCopy"};            // "Copy" (later)
+  Menu mnuEditPaste{&mnuFileEdit, "mnuEditPaste"};          // "Paste" (later)
+  Menu mnuEditSelectAll{&mnuFileEdit, "mnuEditSelectAll"};  // "Select All": every object
 
-  Menu mnuArrange{this, "mnuArrange"};
-  Menu mnuArrAlign{&mnuArrange, "mnuArrAlign"};
-  ControlArray<Menu> mnuAAlign{&mnuArrAlign, "mnuAAlign", 6};
-  Menu mnuArrSize{&mnuArrange, "mnuArrSize"};
-  ControlArray<Menu> mnuASize{&mnuArrSize, "mnuASize", 3};
-  Menu mnuAHoriz{&mnuArrange, "mnuAHoriz"};
-  Menu mnuArrangeBTF{&mnuArrange, "mnuArrangeBTF"};
-  Menu mnuArrangeSTB{&mnuArrange, "mnuArrangeSTB"};
+  Menu mnuArrange{this, "mnuArrange"};           // "Arrange"
+  Menu mnuArrAlign{&mnuArrange, "mnuArrAlign"};  // "Align", of a group
+  // 0 left, 1 centre, 2 right, 3 top, 4 middle, 5 bottom.
+  ControlArray<Menu> mnuAAlign{&mnuArrAlign, "mnuAAlign", 6};  // to one edge or middle (later)
+  Menu mnuArrSize{&mnuArrange, "mnuArrSize"};                  // "Make Same Size", of a group
+  ControlArray<Menu> mnuASize{&mnuArrSize, "mnuASize", 3};     // 0 height, 1 width, 2 both (later)
+  Menu mnuAHoriz{&mnuArrange, "mnuAHoriz"};          // "Horizontal Centre to Label" (later)
+  Menu mnuArrangeBTF{&mnuArrange, "mnuArrangeBTF"};  // "Bring to Front" (later)
+  Menu mnuArrangeSTB{&mnuArrange, "mnuArrangeSTB"};  // "Send to Back" (later)
 
-  Menu mnuFileOptions{this, "mnuFileOptions"};
-  Menu mnuFileRulers{&mnuFileOptions, "mnuFileRulers"};
-  Menu mnuOptXHair{&mnuFileOptions, "mnuOptXHair"};
-  Menu mnuUnits{&mnuFileOptions, "mnuUnits"};
-  Menu mnuUnitMM{&mnuUnits, "mnuUnitMM"};
-  Menu mnuUnitIn{&mnuUnits, "mnuUnitIn"};
-  Menu mnuMagRuleArea{&mnuFileOptions, "mnuMagRuleArea"};
-  ControlArray<Menu> mnuMagRule{&mnuMagRuleArea, "mnuMagRule", 7};
+  Menu mnuFileOptions{this, "mnuFileOptions"};                      // "Options"
+  Menu mnuFileRulers{&mnuFileOptions, "mnuFileRulers"};             // "Show Rulers"
+  Menu mnuOptXHair{&mnuFileOptions, "mnuOptXHair"};                 // "Show Cross Hairs"
+  Menu mnuUnits{&mnuFileOptions, "mnuUnits"};                       // "Units of Measure"
+  Menu mnuUnitMM{&mnuUnits, "mnuUnitMM"};                           // "Millimeters"
+  Menu mnuUnitIn{&mnuUnits, "mnuUnitIn"};                           // "Inches"
+  Menu mnuMagRuleArea{&mnuFileOptions, "mnuMagRuleArea"};           // "Magnetic Rule Zone"
+  ControlArray<Menu> mnuMagRule{&mnuMagRuleArea, "mnuMagRule", 7};  // "0.5 mm" to "3.5 mm"
 
-  Menu mnuHelp{this, "mnuHelp"};
-  Menu mnuHelpHelp{&mnuHelp, "mnuHelpHelp"};
-  Menu mnuHelpWebsite{&mnuHelp, "mnuHelpWebsite"};
-  Menu mnuHelpAbout{&mnuHelp, "mnuHelpAbout"};
+  Menu mnuHelp{this, "mnuHelp"};                    // "Help"
+  Menu mnuHelpHelp{&mnuHelp, "mnuHelpHelp"};        // "Help", F1: the help file
+  Menu mnuHelpWebsite{&mnuHelp, "mnuHelpWebsite"};  // "Tagwright Website", in the browser
+  Menu mnuHelpAbout{&mnuHelp, "mnuHelpAbout"};      // "About ...": that window
 
   // Context menus, hidden from the bar at start-up.
-  Menu mnuFields{this, "mnuFields"};
-  ControlArray<Menu> mnuField{&mnuFields, "mnuField", 3};
-  Menu mnuFieldBC{&mnuFields, "mnuFieldBC"};
-  ControlArray<Menu> mnuFBC{&mnuFieldBC, "mnuFBC", 16};
-  Menu mnuBCSettings{&mnuFields, "mnuBCSettings"};
-  Menu mnuBCSetWid{&mnuBCSettings, "mnuBCSetWid"};
-  Menu mnuBCSetHgt{&mnuBCSettings, "mnuBCSetHgt"};
-  Menu mnuBCSetChars{&mnuBCSettings, "mnuBCSetChars"};
+  Menu mnuFields{this, "mnuFields"};                       // opens over a data field
+  ControlArray<Menu> mnuField{&mnuFields, "mnuField", 3};  // 0 as it stands, 1 currency, 2 number
+  Menu mnuFieldBC{&mnuFields, "mnuFieldBC"};               // "Barcode": show the value as one
+  ControlArray<Menu> mnuFBC{&mnuFieldBC, "mnuFBC", 16};    // of which format; 14, 15 paint none
+  Menu mnuBCSettings{&mnuFields, "mnuBCSettings"};         // "Barcode Settings", of such a field
+  Menu mnuBCSetWid{&mnuBCSettings, "mnuBCSetWid"};         // the width; asks for another one
+  Menu mnuBCSetHgt{&mnuBCSettings, "mnuBCSetHgt"};         // the height; asks for another one
+  Menu mnuBCSetChars{&mnuBCSettings, "mnuBCSetChars"};     // "Print Characters on Barcode"
 
-  Menu mnuDrawing{this, "mnuDrawing"};
-  Menu mnuDChange{&mnuDrawing, "mnuDChange"};
-  ControlArray<Menu> mnuDrawChange{&mnuDChange, "mnuDrawChange", 3};
-  Menu mnuAspect{&mnuDrawing, "mnuAspect"};
-  ControlArray<Menu> mnuShpAspect{&mnuAspect, "mnuShpAspect", 2};
+  Menu mnuDrawing{this, "mnuDrawing"};         // opens over a shape that is not a line
+  Menu mnuDChange{&mnuDrawing, "mnuDChange"};  // "Change Shape to"
+  // 0 ellipse, 1 rectangle, 2 rounded rectangle.
+  ControlArray<Menu> mnuDrawChange{&mnuDChange, "mnuDrawChange", 3};  // what it becomes
+  Menu mnuAspect{&mnuDrawing, "mnuAspect"};                           // "Aspect": the sides
+  // 0 the width takes the height, 1 the height takes the width.
+  ControlArray<Menu> mnuShpAspect{&mnuAspect, "mnuShpAspect", 2};  // the side that follows
 
-  Menu mnuGraphic{this, "mnuGraphic"};
-  Menu mnuGraphicRestore{&mnuGraphic, "mnuGraphicRestore"};
-  Menu mnuGraphicWidth{&mnuGraphicRestore, "mnuGraphicWidth"};
-  Menu mnuGraphicHeight{&mnuGraphicRestore, "mnuGraphicHeight"};
+  Menu mnuGraphic{this, "mnuGraphic"};                       // opens over a picture
+  Menu mnuGraphicRestore{&mnuGraphic, "mnuGraphicRestore"};  // "Restore Aspect Ratio", by one side
+  Menu mnuGraphicWidth{&mnuGraphicRestore, "mnuGraphicWidth"};    // "Adjust Width"
+  Menu mnuGraphicHeight{&mnuGraphicRestore, "mnuGraphicHeight"};  // "Adjust Height"
 
-  Menu mnuText{this, "mnuText"};
-  Menu mnuTextCopy{&mnuText, "mnuTextCopy"};
+  Menu mnuText{this, "mnuText"};              // opens on picText, or by the menu key
+  Menu mnuTextCopy{&mnuText, "mnuTextCopy"};  // "Copy Properties from": a click says which text
 
   // --- the strip across the top ---
-  PictureBox picFunctions{this, "picFunctions"};
-  ComboBox cboZoom{&picFunctions, "cboZoom"};
-  ControlArray<TextBox> txtDSize{&picFunctions, "txtDSize", 4};
-  CheckBox chkXHair{&picFunctions, "chkXHair"};
-  ComboBox cboFont{&picFunctions, "cboFont"};
-  ComboBox cboSize{&picFunctions, "cboSize"};
+  PictureBox picFunctions{this, "picFunctions"};  // the strip itself
+  ComboBox cboZoom{&picFunctions, "cboZoom"};     // "Zoom": the label's size on screen
+  // Of the selected object, or of what the mouse draws or drags; in the user's unit.
+  ControlArray<TextBox> txtDSize{&picFunctions, "txtDSize", 4};  // 0 left, 1 top, 2 width, 3 height
+  CheckBox chkXHair{&picFunctions, "chkXHair"};  // "Cross Hairs": lines through the pointer
+  ComboBox cboFont{&picFunctions, "cboFont"};    // "Font"; moves to the panel that needs it
+  ComboBox cboSize{&picFunctions, "cboSize"};    // "Size" in points; goes with it
 
   // --- the panels stacked in it ---
-  PictureBox picProperties{&picFunctions, "picProperties"};
-  ComboBox cboLabelLayout{&picProperties, "cboLabelLayout"};
-  CommandButton cmdDesLabel{&picProperties, "cmdDesLabel"};
-  ControlArray<TextBox> txtLabLayout{&picProperties, "txtLabLayout", 8};
+  PictureBox picProperties{&picFunctions, "picProperties"};   // how labels lie on the sheet
+  ComboBox cboLabelLayout{&picProperties, "cboLabelLayout"};  // "Layout" of the sheet
+  CommandButton cmdDesLabel{&picProperties, "cmdDesLabel"};   // "Design new Label" (later)
+  // Filled from the layout, which typing here leaves alone: 0 "No. Across", 1 "No. Down", and in
+  // the user's unit 2 "Width", 3 "Height", 4 "Left Margin", 5 "Top Margin", 6 "Horiz. Gutter", 7
+  // "Vert. Gutter".
+  ControlArray<TextBox> txtLabLayout{&picProperties, "txtLabLayout", 8};  // a job goes by them
 
-  PictureBox picText{&picFunctions, "picText"};
-  TextBox txtTool{&picText, "txtTool"};
-  CommandButton cmdTextColor{&picText, "cmdTextColor"};
-  Label lblTextColor{&picText, "lblTextColor"};
-  CheckBox chkBold{&picText, "chkBold"};
-  CheckBox chkItalic{&picText, "chkItalic"};
-  ControlArray<CommandButton> cmdAlign{&picText, "cmdAlign", 3};
+  PictureBox picText{&picFunctions, "picText"};  // the selected text, or the style of the next
+  TextBox txtTool{&picText, "txtTool"};          // what the text says, to be typed
+  CommandButton cmdTextColor{&picText, "cmdTextColor"};  // "Text Color": asks for another one
+  Label lblTextColor{&picText, "lblTextColor"};          // the colour in force
+  CheckBox chkBold{&picText, "chkBold"};                 // "Bold"
+  CheckBox chkItalic{&picText, "chkItalic"};             // "Italic"
+  ControlArray<CommandButton> cmdAlign{&picText, "cmdAlign", 3};  // 0 left, 1 right, 2 centre
 
-  PictureBox picBCode{&picFunctions, "picBCode"};
-  ComboBox cboBCode{&picBCode, "cboBCode"};
-  TextBox txtBCodeData{&picBCode, "txtBCodeData"};
-  TextBox txtBookland{&picBCode, "txtBookland"};
-  CheckBox chkChkSum{&picBCode, "chkChkSum"};
-  CheckBox chkPriCharacter{&picBCode, "chkPriCharacter"};
-  CommandButton cmdBCode{&picBCode, "cmdBCode"};
+  PictureBox picBCode{&picFunctions, "picBCode"};   // the selected barcode, or the next one
+  ComboBox cboBCode{&picBCode, "cboBCode"};         // "Barcode Format"
+  TextBox txtBCodeData{&picBCode, "txtBCodeData"};  // "Barcode Data": what the barcode says
+  TextBox txtBookland{&picBCode, "txtBookland"};    // supplement of a Bookland code; never shown
+  CheckBox chkChkSum{&picBCode, "chkChkSum"};       // "Generate Checksum"; changes nothing
+  CheckBox chkPriCharacter{&picBCode, "chkPriCharacter"};  // "Print Characters on Barcode"
+  CommandButton cmdBCode{&picBCode, "cmdBCode"};           // "Place Barcode": arms its tool
 
-  PictureBox picDrawing{&picFunctions, "picDrawing"};
-  CommandButton cmdLine{&picDrawing, "cmdLine"};
-  CommandButton cmdRect{&picDrawing, "cmdRect"};
-  CommandButton cmdRoundRect{&picDrawing, "cmdRoundRect"};
-  CommandButton cmdEllipse{&picDrawing, "cmdEllipse"};
-  ComboBox cboWeight{&picDrawing, "cboWeight"};
-  CommandButton cmdColor{&picDrawing, "cmdColor"};
-  ControlArray<Label> lblBCol{&picDrawing, "lblBCol", 7};  // 0 to 5 palette, 6 current fill
-  CommandButton cmdFColor{&picDrawing, "cmdFColor"};
-  ControlArray<Label> lblFCol{&picDrawing, "lblFCol", 7};  // 0 to 5 palette, 6 current outline
-  CheckBox chkTransparent{&picDrawing, "chkTransparent"};
+  PictureBox picDrawing{&picFunctions, "picDrawing"};       // the selected shape, or the next one
+  CommandButton cmdLine{&picDrawing, "cmdLine"};            // "Line": arms its tool
+  CommandButton cmdRect{&picDrawing, "cmdRect"};            // "Rectangle": likewise
+  CommandButton cmdRoundRect{&picDrawing, "cmdRoundRect"};  // "Rounded Rectangle": likewise
+  CommandButton cmdEllipse{&picDrawing, "cmdEllipse"};      // "Ellipse": likewise
+  ComboBox cboWeight{&picDrawing, "cboWeight"};             // "Line Weight" in pixels, 0 no outline
+  CommandButton cmdColor{&picDrawing, "cmdColor"};          // "Fill Colour": asks for another one
+  ControlArray<Label> lblBCol{&picDrawing, "lblBCol", 7};   // 0 to 5 greys, 6 the fill in force
+  CommandButton cmdFColor{&picDrawing, "cmdFColor"};       // "Outline Colour": asks for another one
+  ControlArray<Label> lblFCol{&picDrawing, "lblFCol", 7};  // 0 to 5 greys, 6 the outline in force
+  CheckBox chkTransparent{&picDrawing, "chkTransparent"};  // "Make Transparent": no fill
 
-  PictureBox picPicture{&picFunctions, "picPicture"};
-  Label lblGraphicFName{&picPicture, "lblGraphicFName"};
-  Label lblGraphicX{&picPicture, "lblGraphicX"};
-  Label lblGraphicY{&picPicture, "lblGraphicY"};
+  PictureBox picPicture{&picFunctions, "picPicture"};     // the selected picture, or the next one
+  Label lblGraphicFName{&picPicture, "lblGraphicFName"};  // "Filename": its full path
+  Label lblGraphicX{&picPicture, "lblGraphicX"};          // "Original X": width in 0.01 mm
+  Label lblGraphicY{&picPicture, "lblGraphicY"};          // "Original Y": height in 0.01 mm
 
-  PictureBox picFields{&picFunctions, "picFields"};
-  ComboBox cboImportType{&picFields, "cboImportType"};
-  CommandButton cmdBrowse{&picFields, "cmdBrowse"};
+  PictureBox picFields{&picFunctions, "picFields"};         // the data source
+  ComboBox cboImportType{&picFields, "cboImportType"};      // "Import File Type"; asks for the file
+  CommandButton cmdBrowse{&picFields, "cmdBrowse"};         // "Load File": asks for the file
   ControlArray<Label> lblFName{&picFields, "lblFName", 2};  // 0 "Filename", 1 "Recordset"
-  Label lblFileName{&picFields, "lblFileName"};
-  ComboBox cboRSet{&picFields, "cboRSet"};
-  CheckBox chkFirstRow{&picFields, "chkFirstRow"};
-  CheckBox chkQuote{&picFields, "chkQuote"};
-  Label lblRCount{&picFields, "lblRCount"};
-  ListBox lstFields{&picFields, "lstFields"};
+  Label lblFileName{&picFields, "lblFileName"};     // the file's path; empty without a source
+  ComboBox cboRSet{&picFields, "cboRSet"};          // "Recordset": a table of the database
+  CheckBox chkFirstRow{&picFields, "chkFirstRow"};  // "First Row contains Field Names"
+  CheckBox chkQuote{&picFields, "chkQuote"};        // "Remove Quote Marks" from values
+  Label lblRCount{&picFields, "lblRCount"};         // "Records: " and how many
+  ListBox lstFields{&picFields, "lstFields"};       // columns; a double click arms their tool
 
-  PictureBox picPrint{&picFunctions, "picPrint"};
-  ComboBox cboPrinter{&picPrint, "cboPrinter"};
-  TextBox txtPrintFrom{&picPrint, "txtPrintFrom"};
-  TextBox txtPrintTo{&picPrint, "txtPrintTo"};
-  TextBox txtNoCopies{&picPrint, "txtNoCopies"};
-  CheckBox chkMailshot{&picPrint, "chkMailshot"};
-  Label lblLabels{&picPrint, "lblLabels"};  // how many the job will have
-  CommandButton cmdPrint{&picPrint, "cmdPrint"};
-  CommandButton cmdPreview{&picPrint, "cmdPreview"};
-  CommandButton cmdSerNo{&picPrint, "cmdSerNo"};
+  PictureBox picPrint{&picFunctions, "picPrint"};     // the print job
+  ComboBox cboPrinter{&picPrint, "cboPrinter"};       // "Printer"
+  TextBox txtPrintFrom{&picPrint, "txtPrintFrom"};    // "From page"
+  TextBox txtPrintTo{&picPrint, "txtPrintTo"};        // "To Page"
+  TextBox txtNoCopies{&picPrint, "txtNoCopies"};      // "No. Copies" of each label
+  CheckBox chkMailshot{&picPrint, "chkMailshot"};     // "Include Mailshot Data": a row to a label
+  Label lblLabels{&picPrint, "lblLabels"};            // how many the job will have
+  CommandButton cmdPrint{&picPrint, "cmdPrint"};      // "Print": prints the labels
+  CommandButton cmdPreview{&picPrint, "cmdPreview"};  // "Preview" (later)
+  CommandButton cmdSerNo{&picPrint, "cmdSerNo"};      // "Serial Numbers": that window
 
-  PictureBox picSellAll{&picFunctions, "picSellAll"};
-  ControlArray<CommandButton> cmdSAllAlign{&picSellAll, "cmdSAllAlign", 6};
-  ControlArray<CommandButton> cmdSS{&picSellAll, "cmdSS", 3};
-  CommandButton cmdSpcHor{&picSellAll, "cmdSpcHor"};
-  CommandButton cmdSpcVert{&picSellAll, "cmdSpcVert"};
+  PictureBox picSellAll{&picFunctions, "picSellAll"};  // what a group can be given
+  ControlArray<CommandButton> cmdSAllAlign{&picSellAll, "cmdSAllAlign", 6};  // as mnuAAlign (later)
+  ControlArray<CommandButton> cmdSS{&picSellAll, "cmdSS", 3};                // as mnuASize (later)
+  CommandButton cmdSpcHor{&picSellAll, "cmdSpcHor"};    // "Space Evenly", across (later)
+  CommandButton cmdSpcVert{&picSellAll, "cmdSpcVert"};  // "Space Evenly", down (later)
 
   // --- the column of tools ---
-  PictureBox picTools{this, "picTools"};
-  CommandButton cmdToBack{&picTools, "cmdToBack"};
-  CommandButton cmdCenterLab{&picTools, "cmdCenterLab"};
-  CommandButton cmdToFront{&picTools, "cmdToFront"};
-  ControlArray<CommandButton> cmdTools{&picTools, "cmdTools", 8};
+  PictureBox picTools{this, "picTools"};                  // the column itself
+  CommandButton cmdToBack{&picTools, "cmdToBack"};        // "Send to Back" (later)
+  CommandButton cmdCenterLab{&picTools, "cmdCenterLab"};  // "Align to Centre of Label" (later)
+  CommandButton cmdToFront{&picTools, "cmdToFront"};      // "Bring to Front" (later)
+  // 0 "Select Tool", 1 "Generate Barcode", 2 "Insert Picture", 3 "Text Tool", 4 "Drawing Options",
+  // 5 "Zoom In", 6 "Zoom Out", 7 "Import Data". Which panel opens and which tool is armed: see
+  // tools/tool_buttons.cpp.
+  ControlArray<CommandButton> cmdTools{&picTools, "cmdTools", 8};  // pressed while armed
 
   // --- the zoom flyout ---
-  PictureBox picMag{this, "picMag"};
-  ControlArray<CommandButton> cmdMagnify{&picMag, "cmdMagnify", 5};
+  PictureBox picMag{this, "picMag"};  // opens while Zoom In or Zoom Out is held
+  // 0 "Show All", 1 "Zoom to Height", 2 "Zoom to Width", 3 "View Same Size" (100 %), 4 "View All
+  // Objects", which leaves the zoom as it is.
+  ControlArray<CommandButton> cmdMagnify{&picMag, "cmdMagnify", 5};  // zooms and closes the flyout
 
   // --- the board ---
-  PictureBox picBoard{this, "picBoard"};
-  ControlArray<Label> lblHold{&picBoard, "lblHold", 2};
-  LineControl HairX{&picBoard, "HairX"};
-  LineControl HairY{&picBoard, "HairY"};
-  LineControl lnMX{&picBoard, "lnMX"};
-  LineControl lnMY{&picBoard, "lnMY"};
-  Shape shpBox{&picBoard, "shpBox"};
-  LineControl shpLine{&picBoard, "shpLine"};
-  ControlArray<Label> lblHandle{&picBoard, "lblHandle", 4};
-  ScrollBar vS1{&picBoard, "vS1"};
-  ScrollBar hS1{&picBoard, "hS1"};
-  CommandButton cmdXC{&picBoard, "cmdXC"};
+  PictureBox picBoard{this, "picBoard"};  // the label, painted, and what is behind it
+  ControlArray<Label> lblHold{&picBoard, "lblHold", 2};  // over object i: takes its presses
+  LineControl HairX{&picBoard, "HairX"};                 // cross hair, from top to bottom
+  LineControl HairY{&picBoard, "HairY"};                 // cross hair, from left to right
+  LineControl lnMX{&picBoard, "lnMX"};                   // magnetic rule, from top to bottom
+  LineControl lnMY{&picBoard, "lnMY"};                   // magnetic rule, from left to right
+  Shape shpBox{&picBoard, "shpBox"};                     // frame of the selection, and rubber box
+  LineControl shpLine{&picBoard, "shpLine"};             // rubber line: the line being drawn
+  // 0 top left, 1 top right, 2 bottom left, 3 bottom right.
+  ControlArray<Label> lblHandle{&picBoard, "lblHandle", 4};  // drag to resize
+  ScrollBar vS1{&picBoard, "vS1"};                           // scrolls up and down
+  ScrollBar hS1{&picBoard, "hS1"};                           // scrolls left and right
+  CommandButton cmdXC{&picBoard, "cmdXC"};                   // the label back to the middle
   // Stands for the board itself: takes the keyboard away from a field.
-  ControlArray<TextBox> txtSetFocus{&picBoard, "txtSetFocus", 1};
+  ControlArray<TextBox> txtSetFocus{&picBoard, "txtSetFocus", 1};  // never seen
 
-  StatusBar sB1{this, "sB1", 4};
+  // 1 where the pointer is on the label, 2 the size of the selection or of what is drawn, 3 the
+  // zone of the rules or how many objects are selected, 4 notes, such as why a save failed.
+  StatusBar sB1{this, "sB1", 4};  // status bar
 
   // --- off screen ---
-  PictureBox picTemp{this, "picTemp"};
-  Image imageIcon{this, "imageIcon"};
-  Image Image1{this, "Image1"};
-  Image Image2{this, "Image2"};  // pointer of a data field
-  Image Image3{this, "Image3"};  // pointer of zoom in
-  Image Image4{this, "Image4"};  // pointer of zoom out
-  Image Image5{this, "Image5"};  // pointer of the barcode tool
-  Timer Timer1{this, "Timer1"};
-  Timer tmrButtons{this, "tmrButtons"};
-  CommonDialog cd1;
+  PictureBox picTemp{this, "picTemp"};   // holds the picture being painted
+  Image imageIcon{this, "imageIcon"};    // the program's icon
+  Image Image1{this, "Image1"};          // holds none
+  Image Image2{this, "Image2"};          // pointer of a data field
+  Image Image3{this, "Image3"};          // pointer of zoom in
+  Image Image4{this, "Image4"};          // pointer of zoom out
+  Image Image5{this, "Image5"};          // pointer of the barcode tool
+  Timer Timer1{this, "Timer1"};          // each second: is there something to save?
+  Timer tmrButtons{this, "tmrButtons"};  // counts how long a zoom tool is held
+  CommonDialog cd1;                      // asks for files and colours
 };
 
 extern FrmMain frmMain;

@@ -8,17 +8,17 @@ namespace tagwright {
 struct FrmSerialNumber : Form {
   FrmSerialNumber();
 
-  TextBox txtSerPref{this, "txtSerPref"};
-  TextBox txtSerIncr{this, "txtSerIncr"};  // the next number
-  ComboBox cboInc{this, "cboInc"};
-  CheckBox chkBCode{this, "chkBCode"};
-  ComboBox cboBCode{this, "cboBCode"};
-  ControlArray<Label> lblBCodeWid{this, "lblBCodeWid", 2};    // captions of the two boxes
+  TextBox txtSerPref{this, "txtSerPref"};  // "Prefix": stands before every number
+  TextBox txtSerIncr{this, "txtSerIncr"};  // "Incrementing Number": the next one
+  ComboBox cboInc{this, "cboInc"};         // "Incrementation"; kept, and numbers rise by one
+  CheckBox chkBCode{this, "chkBCode"};     // "Print as Barcode", in place of the text
+  ComboBox cboBCode{this, "cboBCode"};     // "Barcode Format"
+  ControlArray<Label> lblBCodeWid{this, "lblBCodeWid", 2};  // 0 "Barcode Width", 1 "Barcode Height"
   ControlArray<TextBox> txtBCodeWid{this, "txtBCodeWid", 2};  // 0 width, 1 height
-  ControlArray<Label> lblUnit{this, "lblUnit", 2};
-  CheckBox chkTxt{this, "chkTxt"};
-  CommandButton cmdSave{this, "cmdSave"};
-  CommandButton cmdCancel{this, "cmdCancel"};
+  ControlArray<Label> lblUnit{this, "lblUnit", 2};  // "mm" or "in", behind each of the two
+  CheckBox chkTxt{this, "chkTxt"};                  // "Print Serial Number on Barcode"; kept
+  CommandButton cmdSave{this, "cmdSave"};           // "Save": takes what stands here
+  CommandButton cmdCancel{this, "cmdCancel"};       // "Cancel": closes without it
 };
 
 extern FrmSerialNumber frmSerialNumber;
