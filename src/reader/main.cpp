@@ -1,5 +1,5 @@
-// The reader: answers one question about a database file (see platform/reader_protocol.h). It exits
-// with 0 after a whole answer.
+// The reader: answers one question about a database file (see platform/database/reader_protocol.h).
+// It exits with 0 after a whole answer.
 #include <fcntl.h>
 #include <sys/prctl.h>
 #include <sys/resource.h>

@@ -1,4 +1,4 @@
-// Databases through the reader, a program of its own (see platform/reader_protocol.h).
+// Databases through the reader, a program of its own (see platform/database/reader_protocol.h).
 #pragma once
 
 #include <chrono>
