@@ -5,6 +5,7 @@
 
 #include "barcode/engine.h"
 #include "platform/text/locale.h"
+#include "platform/text/text.h"
 
 namespace tagwright {
 namespace {
@@ -59,7 +60,7 @@ int RowOfDigits(std::string_view digits) {
   if (digits.empty() || digits.size() > 3) return kNoRow;
   int number = 0;
   for (const char digit : digits) {
-    if (digit < '0' || digit > '9') return kNoRow;
+    if (!IsDigit(digit)) return kNoRow;
     number = number * 10 + (digit - '0');
   }
   return number < kRows ? number : kNoRow;
@@ -134,7 +135,8 @@ void DrawCode128(std::string_view Data, std::int16_t CodeSet, float X, float Y, 
                  double Width, bool PrintCharacters, double FontSize) {
   BeginSymbol(X, Y, Height);
   // Stands until the symbol is measured.
-  EngineTraced([&] { ModuleWidth = Quotient(Width, static_cast<double>(Data.size()) * 11); });
+  EngineTraced(
+      [&] { ModuleWidth = Finite(Quotient(Width, static_cast<double>(Data.size()) * 11)); });
   const Patterns patterns = Code128Patterns(Data, CodeSet);
   EngineTraced([&] { MeasureModule(patterns, Width); });
   PaintPatterns(patterns);

@@ -6,15 +6,13 @@
 // of no width that still takes its turn; a leading "0" is how a character begins with a space.
 #pragma once
 
-#include <cfloat>
-#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
+#include "common/arithmetic.h"
 #include "common/diagnostics.h"
 #include "platform/faults/fault.h"
 #include "platform/painting/surface.h"
@@ -35,33 +33,6 @@ inline float CursorY = 0;            // top of the bars
 inline bool PrintChars = false;      // PaintPattern prints its text under its first bar
 inline std::int16_t PatternSum = 0;  // modules of the symbol last measured
 inline std::int32_t CheckSum = 0;    // of Code 128
-
-// --- checked arithmetic -------------------------------------------------------------------------
-
-// `value`, unless it is infinite or no number at all: then fault 6.
-inline double Finite(double value) {
-  if (!std::isfinite(value)) RaiseFault(kOverflow);
-  return value;
-}
-
-// To single precision. Faults 6 outside it and for no number.
-inline float ToSingle(double value) {
-  if (!(std::abs(value) <= FLT_MAX)) RaiseFault(kOverflow);
-  return static_cast<float>(value);
-}
-
-// A whole number as a smaller type. Faults 6 outside it.
-template <class Integer>
-Integer Narrowed(std::int64_t value) {
-  if (!std::in_range<Integer>(value)) RaiseFault(kOverflow);
-  return static_cast<Integer>(value);
-}
-
-// Faults 11 for a zero divisor, 6 for a quotient out of range.
-inline double Quotient(double value, double divisor) {
-  if (divisor == 0) RaiseFault(kDivisionByZero);
-  return Finite(value / divisor);
-}
 
 // --- painting -----------------------------------------------------------------------------------
 

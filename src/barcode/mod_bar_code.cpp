@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cfloat>
 
 #include "barcode/codabar.h"
 #include "barcode/code_128.h"
@@ -220,7 +221,7 @@ std::int16_t SumPattern(std::string_view Pattern) { return SumPatterns({Pattern}
 
 void MeasureModule(const Patterns& patterns, double Width, std::size_t gaps) {
   PatternSum = SumPatterns(patterns);
-  ModuleWidth = Quotient(Width, PatternSum + static_cast<double>(gaps));
+  ModuleWidth = Finite(Quotient(Width, PatternSum + static_cast<double>(gaps)));
 }
 
 void BeginSymbol(float X, float Y, double Height) {

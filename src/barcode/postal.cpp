@@ -4,6 +4,7 @@
 #include <array>
 
 #include "platform/painting/scale.h"
+#include "platform/text/text.h"
 
 namespace tagwright {
 namespace {
@@ -110,7 +111,7 @@ void PaintPostal(const Patterns& patterns, float x, float y, PaintBars paint_bar
 }  // namespace
 
 std::string_view PostNetSymbol(std::string_view Digit) {
-  if (Digit.size() != 1 || Digit[0] < '0' || Digit[0] > '9') return {};
+  if (Digit.size() != 1 || !IsDigit(Digit[0])) return {};
   return kPostNet[static_cast<std::size_t>(Digit[0] - '0')];
 }
 

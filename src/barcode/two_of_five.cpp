@@ -3,6 +3,7 @@
 #include <array>
 
 #include "common/public_functions.h"
+#include "platform/text/text.h"
 
 namespace tagwright {
 namespace {
@@ -57,8 +58,6 @@ constexpr std::array<Pair, 100> kPairs = [] {
   }
   return pairs;
 }();
-
-bool IsDigit(char character) { return character >= '0' && character <= '9'; }
 
 // The painter meets nothing but pairs and single digits, which need no locale to be read.
 bool IsAboveZero(std::string_view pair) {

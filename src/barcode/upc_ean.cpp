@@ -90,7 +90,8 @@ double ModulesOf(std::string_view data, std::int16_t format) {
 }
 
 void MeasureUpcEan(std::string_view data, std::int16_t format, double width) {
-  ModuleWidth = width == kFixedWidth ? kFixedModule : Quotient(width, ModulesOf(data, format));
+  ModuleWidth =
+      width == kFixedWidth ? kFixedModule : Finite(Quotient(width, ModulesOf(data, format)));
 }
 
 // Text beside the bars of an EAN-13, level with its digits.

@@ -22,8 +22,6 @@ constexpr Color kMarkerColor = Rgb(0, 0, 255);
 constexpr int kLastBarcodeFormat = 150;
 constexpr int kLastMarkedFormat = 125;
 constexpr double kBarcodeFontSize = 6;
-constexpr double kDefaultBarcodeWidth = 20;  // millimetres, of a field whose size is 0
-constexpr double kDefaultBarcodeHeight = 12;
 constexpr double kRoomUsed = 0.9;  // of what is left of the label, by a symbol that is too large
 
 // One object while its lines are painted.
@@ -128,13 +126,6 @@ bool PrintText(TextPass& pass, std::string_view text) {
 }
 
 // --- the value of a printed data field ----------------------------------------------------------
-
-const std::string& FieldValueAt(int column) {
-  if (column < 0 || static_cast<std::size_t>(column) >= FieldValues.size()) {
-    RaiseFault(kOutOfBounds);
-  }
-  return FieldValues[static_cast<std::size_t>(column)];
-}
 
 // A value that is no number leads to the column of another object: the one whose index is this
 // field's column.

@@ -108,6 +108,13 @@ std::int16_t& SelectedMember(int place) {
   return SelectedList[static_cast<std::size_t>(place)];
 }
 
+std::string& FieldValueAt(int column) {
+  if (column < 0 || static_cast<std::size_t>(column) >= FieldValues.size()) {
+    RaiseFault(kOutOfBounds);
+  }
+  return FieldValues[static_cast<std::size_t>(column)];
+}
+
 void GrowObjects() {
   if (ObjectUB == std::numeric_limits<std::int16_t>::max()) RaiseFault(kOverflow);
   ++ObjectUB;

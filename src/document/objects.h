@@ -40,6 +40,9 @@ constexpr std::int32_t kFirstBarcodeFormat = 100;
 // Whether `kind` is one of the shapes, lines included: above 9 and below 20.
 inline bool IsShape(std::int16_t kind) { return kind > 9 && kind < 20; }
 
+// Whether `kind` takes its extent from a text that its hit area measures: texts and data fields.
+inline bool IsMeasured(std::int16_t kind) { return kind == kText || kind == kDataField; }
+
 // One object. Several fields have a double use by kind; that is how the project file stores them
 // and is not to be normalised:
 //   barcode     Text data, Param format, Bold print characters under the bars
@@ -65,6 +68,15 @@ struct ObjectRecord {
 
   bool operator==(const ObjectRecord&) const = default;
 };
+
+// Whether it is a data field that is shown as a barcode.
+inline bool IsShownAsBarcode(const ObjectRecord& object) {
+  return object.ObjType == kDataField && object.FillColor >= kFirstBarcodeFormat;
+}
+
+// Millimetres of such a field whose size is 0.
+constexpr double kDefaultBarcodeWidth = 20;
+constexpr double kDefaultBarcodeHeight = 12;
 
 // --- state --------------------------------------------------------------------------------------
 
@@ -151,6 +163,9 @@ ObjectRecord& ObjectAt(int index);
 
 // The object that place `place` of SelectedList names. Faults 9 outside the list.
 std::int16_t& SelectedMember(int place);
+
+// FieldValues(column). Faults 9 outside its slots.
+std::string& FieldValueAt(int column);
 
 // Raises ObjectUB by 1 and grows Objects, keeping its contents. Faults 6 past 32,767.
 void GrowObjects();

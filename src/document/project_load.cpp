@@ -166,7 +166,7 @@ void PlaceHold(int index) {
   Label& hold = HoldAt(index);
   hold.SetVisible(true);
   hold.Move(object.Left + BoardOriginX, object.Top + BoardOriginY);
-  if (object.ObjType == kText || object.ObjType == kDataField) {
+  if (IsMeasured(object.ObjType)) {
     FitToText(hold, object);
     return;
   }

@@ -3,9 +3,11 @@
 #include <cmath>
 #include <string>
 
+#include "common/arithmetic.h"
 #include "common/diagnostics.h"
 #include "common/prog_settings.h"
 #include "common/public_functions.h"
+#include "document/board_space.h"
 #include "document/objects.h"
 #include "document/selection_state.h"
 #include "document/shown_size.h"
@@ -103,11 +105,7 @@ void FixScreenOrigin(RedrawPass& pass) {
   PendingScrollY = -1;
 }
 
-double PreviewZoom() {
-  const double page = Printer().Width();
-  if (page == 0) RaiseFault(kDivisionByZero);
-  return PreviewPaperWidth / page;
-}
+double PreviewZoom() { return Quotient(PreviewPaperWidth, Printer().Width()); }
 
 void FixPageOrigin(RedrawPass& pass) {
   pass.label_x = std::nearbyint(pass.offset_x);
@@ -339,27 +337,18 @@ void AnchorHairs() {
   }
 }
 
-void SpanDown(LineControl& line, double x) {
-  line.SetX1(x);
-  line.SetX2(x);
-  line.SetY1(0);
-  line.SetY2(frmMain.picBoard.ScaleHeight());
-}
-
-void SpanAcross(LineControl& line, double y) {
-  line.SetX1(0);
-  line.SetX2(frmMain.picBoard.ScaleWidth());
-  line.SetY1(y);
-  line.SetY2(y);
-}
-
 // A rule belongs to a place of the label, wherever scrolling, zoom and a new size of the board have
 // taken that. One that the mouse holds has no place yet, but it spans the board all the same.
 void AnchorRules() {
+  const PictureBox& board = frmMain.picBoard;
   LineControl& x = frmMain.lnMX;
   LineControl& y = frmMain.lnMY;
-  if (x.Visible()) SpanDown(x, DraggingRuleX ? x.X1() : MagRuleX + BoardOriginX);
-  if (y.Visible()) SpanAcross(y, DraggingRuleY ? y.Y1() : MagRuleY + BoardOriginY);
+  if (x.Visible()) {
+    SpanDown(x, DraggingRuleX ? x.X1() : MagRuleX + BoardOriginX, board.ScaleHeight());
+  }
+  if (y.Visible()) {
+    SpanAcross(y, DraggingRuleY ? y.Y1() : MagRuleY + BoardOriginY, board.ScaleWidth());
+  }
 }
 
 // What is drawn up over the board looks like the object that comes of it.
@@ -407,6 +396,8 @@ MissingPictures::~MissingPictures() {
 bool MissingPictures::IsToTell(const std::string& path) {
   return telling_ == kOnce && told_.insert(path).second;
 }
+
+void DrawOnBoard() { DrawTarget = &frmMain.picBoard.Canvas(); }
 
 void RedrawBoard(const double& OffsetX, const double& OffsetY, const bool& Output) {
   if (BoardReady == 0 || SuspendRedraw != 0 || !DrawTarget) return;

@@ -40,6 +40,9 @@ class MissingPictures {
   std::set<std::string> told_;
 };
 
+// Makes the board the DrawTarget.
+void DrawOnBoard();
+
 // The screen's redraw: offsets are ignored there.
 inline void RedrawBoard() { RedrawBoard(0, 0, false); }
 

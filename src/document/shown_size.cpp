@@ -17,8 +17,6 @@ const ShownSize kNoSize = {"0.00", "0.00", "0.00", "0.00"};
 ShownSize shown = kNoSize;
 std::int16_t shown_object = -1;
 
-std::string InUsersUnit(double millimetres) { return FormatFixed(millimetres / UnitScale, 2); }
-
 ShownSize SizeOfSelection() {
   ShownSize size = kNoSize;
   if (OneIsSelected()) CarryOn([&] { size = ShownSizeOf(ObjectAt(SelectedObject)); });
@@ -44,6 +42,8 @@ void ShowUnlessTyped(int index, const std::string& text, bool same_object) {
 bool OneIsSelected() {
   return SelectedObject > -1 && SelectedObject <= ObjectUB && SelectedUpper < 0;
 }
+
+std::string InUsersUnit(double millimetres) { return FormatFixed(millimetres / UnitScale, 2); }
 
 ShownSize ShownSizeOf(const ObjectRecord& record) {
   return {InUsersUnit(record.Left), InUsersUnit(record.Top), InUsersUnit(record.Width),

@@ -13,6 +13,9 @@ namespace tagwright {
 // is nothing to show.
 bool OneIsSelected();
 
+// A length as the fields show it.
+std::string InUsersUnit(double millimetres);
+
 // What the four fields say of a record.
 using ShownSize = std::array<std::string, 4>;
 ShownSize ShownSizeOf(const ObjectRecord& record);

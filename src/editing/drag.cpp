@@ -4,9 +4,11 @@
 #include <cmath>
 #include <string>
 
+#include "common/arithmetic.h"
 #include "common/diagnostics.h"
 #include "common/prog_settings.h"
 #include "common/public_functions.h"
+#include "document/board_space.h"
 #include "document/objects.h"
 #include "document/redraw.h"
 #include "document/selection_state.h"
@@ -39,8 +41,6 @@ bool group_drag = false;  // what the press has taken hold of
 
 // --- units --------------------------------------------------------------------------------------
 
-double UnitsX(double twips) { return frmMain.picBoard.ScaleX(twips, kTwips, kUserScale); }
-double UnitsY(double twips) { return frmMain.picBoard.ScaleY(twips, kTwips, kUserScale); }
 double TwipsX(double units) { return frmMain.picBoard.ScaleX(units, kUserScale, kTwips); }
 double TwipsY(double units) { return frmMain.picBoard.ScaleY(units, kUserScale, kTwips); }
 
@@ -52,8 +52,6 @@ double ScreenX(double millimetres) {
 double ScreenY(double millimetres) {
   return frmMain.picBoard.ScaleY(millimetres, kMillimetres, kUserScale);
 }
-
-std::string Shown(double units) { return FormatFixed(units / UnitScale, 2); }
 
 BoardFrame FrameOf(const Control& control) {
   return {control.Left(), control.Top(), control.Width(), control.Height()};
@@ -122,8 +120,8 @@ BoardFrame KeptThin(const BoardFrame& box) {
 }
 
 void ShowFrameBox() {
-  const std::string width = Shown(frmMain.shpBox.Width());
-  const std::string height = Shown(frmMain.shpBox.Height());
+  const std::string width = InUsersUnit(frmMain.shpBox.Width());
+  const std::string height = InUsersUnit(frmMain.shpBox.Height());
   ShowPlaceInFields(frmMain.shpBox.Left(), frmMain.shpBox.Top());
   ShowExtentInFields(frmMain.shpBox.Width(), frmMain.shpBox.Height());
   frmMain.sB1.SetPanelText(2, "Width: " + width + " Height: " + height);
@@ -186,14 +184,6 @@ void DropObject(Label& hold) {
 
 // --- the end of a resize ------------------------------------------------------------------------
 
-bool SizedByFont(const ObjectRecord& object) {
-  return object.ObjType == kText || object.ObjType == kDataField;
-}
-
-bool IsShownAsBarcode(const ObjectRecord& object) {
-  return object.ObjType == kDataField && object.FillColor >= kFirstBarcodeFormat;
-}
-
 void ScaleFont(ObjectRecord& object) {
   const double ratio = WidthRatio(frmMain.shpBox.Width(), StartWidth);
   Traced([&] { object.FontSize = ScaledFontSize(ratio, object.FontSize); });
@@ -241,9 +231,9 @@ void KeepThickness(ObjectRecord& line, double width, double height) {
 void TakeSizeOfFrame(ObjectRecord& object) {
   const double width = object.Width;
   const double height = object.Height;
-  Traced([&] { object.Width = ToFinite(frmMain.shpBox.Width()); });
-  if (SizedByFont(object)) return;
-  Traced([&] { object.Height = ToFinite(frmMain.shpBox.Height()); });
+  Traced([&] { object.Width = Finite(frmMain.shpBox.Width()); });
+  if (IsMeasured(object.ObjType)) return;
+  Traced([&] { object.Height = Finite(frmMain.shpBox.Height()); });
   if (object.ObjType == kLine) KeepThickness(object, width, height);
 }
 
@@ -266,11 +256,11 @@ void ScaleFontByFrame(ObjectRecord& object) {
 void DropHandle() {
   SnapFrame();
   ObjectRecord& object = ObjectAt(SelectedObject);
-  if (SizedByFont(object)) ScaleFontByFrame(object);
+  if (IsMeasured(object.ObjType)) ScaleFontByFrame(object);
   TakePlaceOfFrame(object);
   TakeSizeOfFrame(object);
   frmMain.shpBox.SetBorderStyle(kDots);
-  if (SizedByFont(object)) {
+  if (IsMeasured(object.ObjType)) {
     FitToFont(object);
   } else {
     RedrawBoard();
@@ -292,8 +282,8 @@ void BeginResize(double X, double Y) {
   AnchorY = frame.Top();
   AnchorRight = frame.Left() + frame.Width();
   AnchorBottom = frame.Top() + frame.Height();
-  HandleDownX = UnitsX(X);
-  HandleDownY = UnitsY(Y);
+  HandleDownX = BoardUnitsX(X);
+  HandleDownY = BoardUnitsY(Y);
   Traced([&] { StartWidth = ToInt32(hold.Width()); });
   StartHeight = hold.Height();
 }
@@ -349,8 +339,8 @@ int FrameShapeOf(std::int16_t kind) {
 
 void BeginObjectDrag(int Index, double X, double Y) {
   const Label& hold = HoldAt(Index);
-  AnchorX = UnitsX(X);
-  AnchorY = UnitsY(Y);
+  AnchorX = BoardUnitsX(X);
+  AnchorY = BoardUnitsY(Y);
   HoldStartLeft = hold.Left();
   HoldStartTop = hold.Top();
   ShowFrame(FrameShapeOf(ObjectAt(Index).ObjType));
@@ -377,8 +367,8 @@ void BeginGroupDrag(int Index, double X, double Y) {
 // the pointer has moved since. The stored picture of the board stays as it is.
 void DragHold(int Index, double X, double Y) {
   Label& hold = HoldAt(Index);
-  const double dx = UnitsX(X) - AnchorX;
-  const double dy = UnitsY(Y) - AnchorY;
+  const double dx = BoardUnitsX(X) - AnchorX;
+  const double dy = BoardUnitsY(Y) - AnchorY;
   frmMain.picBoard.Canvas().AutoRedraw = false;
   hold.Move(hold.Left() + dx, hold.Top() + dy);
   if (group_drag) {
@@ -423,7 +413,7 @@ void lblHandle_MouseMove(int Index, int /*Button*/, int /*Shift*/, double X, dou
   if (!Dragging) return;
   HideHandlesOnce();
   frmMain.shpBox.SetBorderStyle(kSolid);
-  Traced([&] { MoveHandle(handle, UnitsX(X), UnitsY(Y)); });
+  Traced([&] { MoveHandle(handle, BoardUnitsX(X), BoardUnitsY(Y)); });
   const BoardPoint corner =
       CornerOfHandle(Index, FrameOf(handle), ScreenX(kHandleGap), ScreenY(kHandleGap));
   Traced([&] { TrackRubberBox(corner.x, corner.y, AnchorOfHandle(Index)); });

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "platform/faults/fault.h"
+#include "common/arithmetic.h"
 
 namespace tagwright {
 
@@ -53,13 +53,11 @@ AnchorCorner AnchorOfHandle(int index) {
 }
 
 double WidthRatio(double width, double start_width) {
-  if (start_width == 0) RaiseFault(kDivisionByZero);
-  return (width - start_width) / start_width + 1;
+  return Quotient(width - start_width, start_width) + 1;
 }
 
 double ScaledFontSize(double ratio, double points) {
-  const double size = std::trunc(ratio * points);
-  if (!std::isfinite(size)) RaiseFault(kOverflow);
+  const double size = Finite(std::trunc(ratio * points));
   return size == 0 ? 1 : size;
 }
 

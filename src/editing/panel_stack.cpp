@@ -1,5 +1,6 @@
 #include "editing/panel_stack.h"
 
+#include "common/public_functions.h"
 #include "forms/frmMain.h"
 
 namespace tagwright {
@@ -26,6 +27,8 @@ void HideFontBoxes() {
   frmMain.cboFont.SetVisible(false);
   SizeBoxFollowsFontBox();
 }
+
+double PanelFontSize() { return ToNumber(frmMain.cboSize.Text()); }
 
 void SizeBoxFollowsFontBox() {
   const ComboBox& font = frmMain.cboFont;

@@ -15,6 +15,9 @@ void ShowFontBoxes(double left, double top);
 // Hides both.
 void HideFontBoxes();
 
+// The size that cboSize shows, points; 0 for a text that is no number.
+double PanelFontSize();
+
 // cboSize under cboFont: same left, 360 twips below its top, same visibility, and if visible in
 // front.
 void SizeBoxFollowsFontBox();

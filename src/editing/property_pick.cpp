@@ -5,6 +5,7 @@
 #include "document/redraw.h"
 #include "document/selection_state.h"
 #include "editing/object_panels.h"
+#include "editing/pointer.h"
 #include "editing/selection.h"
 #include "forms/frmMain.h"
 
@@ -12,11 +13,6 @@ namespace tagwright {
 namespace {
 
 constexpr std::int16_t kPickPointer = 14;  // arrow and question mark
-
-void SetPointer(std::int16_t shape) {
-  CursorShape = shape;
-  frmMain.SetMousePointer(shape);
-}
 
 void CopyProperties(const ObjectRecord& source, int index) {
   ObjectRecord& target = ObjectAt(index);
@@ -52,7 +48,7 @@ void CopyToGroup(const ObjectRecord& source) {
 }  // namespace
 
 void mnuTextCopy_Click() {
-  SetPointer(kPickPointer);
+  SetBoardPointer(kPickPointer);
   CopyPropsPending = true;
 }
 
@@ -64,7 +60,7 @@ void PickProperties(int index) {
 }
 
 void EndPropertyPick() {
-  SetPointer(0);
+  SetBoardPointer(0);
   CopyPropsPending = false;
 }
 

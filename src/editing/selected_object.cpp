@@ -1,8 +1,5 @@
 #include "editing/selected_object.h"
 
-#include <cmath>
-#include <limits>
-
 #include "forms/frmMain.h"
 #include "platform/faults/fault.h"
 
@@ -22,17 +19,12 @@ bool ShapeIsSelected() { return IsShape(SelectedKind()); }
 
 bool TextIsSelected() { return SelectedKind() == kText; }
 
-bool IsMeasured(std::int16_t kind) { return kind == kText || kind == kDataField; }
+bool BarcodeIsSelected() { return SelectedKind() == kBarcode; }
 
-float ToSingle(double value) {
-  const bool fits = std::abs(value) <= std::numeric_limits<float>::max();
-  if (!fits) RaiseFault(kOverflow);
-  return static_cast<float>(value);
-}
-
-double ToFinite(double value) {
-  if (!std::isfinite(value)) RaiseFault(kOverflow);
-  return value;
+bool IsText(int index) {
+  bool is_text = false;
+  CarryOn([&] { is_text = ObjectAt(index).ObjType == kText; });
+  return is_text;
 }
 
 }  // namespace tagwright

@@ -15,14 +15,9 @@ std::int16_t SelectedKind();
 // Whether one object is selected and it is of that kind.
 bool ShapeIsSelected();
 bool TextIsSelected();
+bool BarcodeIsSelected();
 
-// Whether `kind` takes its extent from a text that its hit area measures: texts and data fields.
-bool IsMeasured(std::int16_t kind);
-
-// A number of a control as a record's Left or Top holds it. Faults 6 beyond that type.
-float ToSingle(double value);
-
-// One as its Width or Height does: faults 6 where an overflow has left none.
-double ToFinite(double value);
+// Whether record `index` is a text; one that is not there is none.
+bool IsText(int index);
 
 }  // namespace tagwright

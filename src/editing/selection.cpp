@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "common/arithmetic.h"
 #include "document/objects.h"
 #include "document/redraw.h"
 #include "document/selection_state.h"
@@ -22,12 +23,6 @@ auto Group() { return SelectedList.begin() + SelectedUpper + 1; }
 
 void CountSelected() {
   frmMain.sB1.SetPanelText(3, "Objects Selected: " + std::to_string(SelectedUpper + 1));
-}
-
-bool IsText(int index) {
-  bool is_text = false;
-  CarryOn([&] { is_text = ObjectAt(index).ObjType == kText; });
-  return is_text;
 }
 
 bool IsEmptyText(int index) { return IsText(index) && ObjectAt(index).Text.Trimmed().empty(); }
@@ -194,8 +189,7 @@ void RemoveObject() {
 void FitHoldToText(int index) {
   ObjectRecord& object = ObjectAt(index);
   const bool is_text = object.ObjType == kText;
-  const bool is_field = object.ObjType == kDataField && object.FillColor < kFirstBarcodeFormat;
-  if (!is_text && !is_field) return;
+  if (!IsMeasured(object.ObjType) || IsShownAsBarcode(object)) return;
   object.Text = object.Text.Trimmed();
   object.FontName = object.FontName.Trimmed();
   Label& hold = HoldAt(index);

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <string>
 
+#include "common/arithmetic.h"
 #include "common/public_functions.h"
 #include "document/redraw.h"
 #include "document/selection_state.h"
@@ -58,14 +59,14 @@ void MoveHoldToPlace() {
   ShowHandles(hold);
 }
 
-bool KeepsItsSize(const ObjectRecord& record) {
+bool IsMarkedAsPostal(const ObjectRecord& record) {
   return record.ObjType == kBarcode && record.FillColor == kPostNetMark;
 }
 
 void TakeSize(const Entries& entries, ObjectRecord& record) {
-  if (KeepsItsSize(record)) return;
-  entries.Give(kWidth, [&](double millimetres) { record.Width = ToFinite(millimetres); });
-  entries.Give(kHeight, [&](double millimetres) { record.Height = ToFinite(millimetres); });
+  if (IsMarkedAsPostal(record)) return;
+  entries.Give(kWidth, [&](double millimetres) { record.Width = Finite(millimetres); });
+  entries.Give(kHeight, [&](double millimetres) { record.Height = Finite(millimetres); });
 }
 
 // What shows a text keeps its size through redraws, and gives it to the record in the end.

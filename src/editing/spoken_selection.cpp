@@ -1,9 +1,9 @@
 #include "editing/spoken_selection.h"
 
 #include "document/objects.h"
+#include "document/shown_size.h"
 #include "editing/track_status.h"
 #include "platform/files/files.h"
-#include "platform/text/locale.h"
 
 namespace tagwright {
 namespace {
@@ -38,11 +38,9 @@ std::string Content(const ObjectRecord& object) {
   return text.empty() ? "" : " \"" + text + "\"";
 }
 
-std::string InUnit(double millimetres) { return FormatFixed(millimetres / UnitScale, 2); }
-
 std::string PlaceInWords(const ObjectRecord& object) {
-  return " at " + InUnit(object.Left) + ", " + InUnit(object.Top) + ", " + InUnit(object.Width) +
-         " by " + InUnit(object.Height) + " " + UnitName();
+  return " at " + InUsersUnit(object.Left) + ", " + InUsersUnit(object.Top) + ", " +
+         InUsersUnit(object.Width) + " by " + InUsersUnit(object.Height) + " " + UnitName();
 }
 
 }  // namespace

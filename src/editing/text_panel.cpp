@@ -1,18 +1,18 @@
 // Fonts, alignment and typing.
 #include <string>
 
+#include "common/arithmetic.h"
 #include "common/public_functions.h"
 #include "document/redraw.h"
 #include "document/shown_size.h"
 #include "editing/object_panels.h"
+#include "editing/panel_stack.h"
 #include "editing/selected_object.h"
 #include "forms/frmMain.h"
 #include "platform/faults/fault.h"
 
 namespace tagwright {
 namespace {
-
-double PanelFontSize() { return ToNumber(frmMain.cboSize.Text()); }
 
 Flag AsFlag(bool value) { return value ? kTrue : kFalse; }
 

@@ -16,9 +16,6 @@ void TrackStatus(const Control& control, double X, double Y);
 // HairPositionY. Whether they show stays as it is.
 void MoveCrossHairs(double x, double y, double width, double height);
 
-// Gives the window the pointer of CursorShape, unless it shows a custom one (99).
-void RestorePointer();
-
 // "mm" or "in", as lengths are shown.
 const char* UnitName();
 

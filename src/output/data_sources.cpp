@@ -5,6 +5,7 @@
 #include "common/diagnostics.h"
 #include "document/objects.h"
 #include "document/project_file.h"
+#include "editing/pointer.h"
 #include "forms/frmMain.h"
 #include "output/database_source.h"
 #include "output/text_source.h"
@@ -15,8 +16,6 @@
 
 namespace tagwright {
 namespace {
-
-constexpr std::int16_t kFieldPointer = 99;
 
 // What the file dialog offers, by kind.
 constexpr const char* kFilters[] = {
@@ -88,11 +87,6 @@ std::string WhyNoRows(const std::string& file) {
 
 }  // namespace
 
-std::string& FieldValueAt(std::size_t slot) {
-  if (slot >= FieldValues.size()) RaiseFault(kOutOfBounds);
-  return FieldValues[slot];
-}
-
 void cmdBrowse_Click() {
   if (!AskForDataFile()) return;
   DirtyFlag = kTrue;
@@ -106,7 +100,7 @@ void cmdBrowse_Click() {
 void FillFieldList() {
   frmMain.lstFields.Clear();
   for (int i = 0; i <= FieldUB; ++i) {
-    Traced([&] { frmMain.lstFields.AddItem(FieldValueAt(static_cast<std::size_t>(i))); });
+    Traced([&] { frmMain.lstFields.AddItem(FieldValueAt(i)); });
   }
 }
 
@@ -124,9 +118,7 @@ void chkQuote_Click() { DirtyFlag = kTrue; }
 
 void lstFields_DblClick() {
   CurrentTool = kDataField;
-  CursorShape = kFieldPointer;
-  frmMain.SetMouseIcon(frmMain.Image2.Icon());
-  frmMain.SetMousePointer(kFieldPointer);
+  SetToolPointer(frmMain.Image2);
 }
 
 void OpenMergeSource() {

@@ -10,7 +10,6 @@
 // value, and the next step runs. Where it says so below it ends there instead.
 #pragma once
 
-#include <cstddef>
 #include <memory>
 #include <string>
 
@@ -42,9 +41,6 @@ void OpenTextSource(bool Comma);
 // cboRSet. A file that does not open, or an empty answer, ends the routine with words that it
 // cannot be read as a database. Faults 3031 for a wrong password, after saying so.
 void OpenDatabaseSource();
-
-// FieldValues(slot). Faults 9 past the last slot.
-std::string& FieldValueAt(std::size_t slot);
 
 // lstFields shows FieldValues(0) to FieldValues(FieldUB).
 void FillFieldList();

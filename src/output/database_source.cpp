@@ -113,7 +113,7 @@ void LeaveTable() {
 void StoreColumnNames() {
   FieldUB = static_cast<std::int16_t>(SourceTable.Fields.size() - 1);
   for (std::size_t i = 0; i < SourceTable.Fields.size(); ++i) {
-    Traced([&] { FieldValueAt(i) = SourceTable.Fields[i]; });
+    Traced([&] { FieldValueAt(static_cast<int>(i)) = SourceTable.Fields[i]; });
   }
 }
 
@@ -165,9 +165,7 @@ void NextDatabaseRow(bool& More) {
   Traced([&] { at_end = SourceRecordset->Eof(); });
   if (at_end) return;
   for (int i = 0; i < SourceRecordset->FieldCount(); ++i) {
-    Traced([&] {
-      FieldValueAt(static_cast<std::size_t>(i)) = SourceRecordset->Value(i).value_or("");
-    });
+    Traced([&] { FieldValueAt(i) = SourceRecordset->Value(i).value_or(""); });
   }
   More = true;
 }

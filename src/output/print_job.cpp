@@ -191,8 +191,6 @@ void MeasureDeadMargins(Job& job) {
   job.margin_y = (height - page.ScaleHeight()) / 2;
 }
 
-void DrawOnBoard() { DrawTarget = &frmMain.picBoard.Canvas(); }
-
 // A cell whose picture could not be read has left the factor of its page.
 void RestoreScreen(double zoom) {
   DrawOnBoard();

@@ -4,6 +4,7 @@
 #include <limits>
 #include <string>
 
+#include "common/arithmetic.h"
 #include "common/diagnostics.h"
 #include "common/public_functions.h"
 #include "document/objects.h"
@@ -20,7 +21,7 @@ namespace {
 
 bool HasDataFile() { return !frmMain.lblFileName.Caption().empty(); }
 
-std::int16_t CellsOfSheet() {
+std::int16_t CellsByCounter() {
   return ToInt16(ToNumber(frmMain.txtLabLayout(0).Text()) *
                  ToNumber(frmMain.txtLabLayout(1).Text()));
 }
@@ -28,8 +29,7 @@ std::int16_t CellsOfSheet() {
 // Ten times the quotient as text, without its last character: whole pages where the quotient has
 // one decimal at most. A longer one only loses its last digit and keeps the factor of ten.
 std::int16_t PagesByText(std::int16_t cells) {
-  if (cells == 0) RaiseFault(kDivisionByZero);
-  const std::string text = FormatNumber(static_cast<double>(RecordCount) / cells * 10);
+  const std::string text = FormatNumber(Quotient(RecordCount, cells) * 10);
   const auto number = ParseNumber(Left(text, Length(text) - 1));
   if (!number) RaiseFault(kTypeMismatch);
   return ToInt16(*number);
@@ -42,7 +42,7 @@ void AddPageForRest(std::int16_t& pages, std::int16_t cells) {
 
 void ProposeLastPage() {
   std::int16_t cells = 0, pages = 0;
-  Traced([&] { cells = CellsOfSheet(); });
+  Traced([&] { cells = CellsByCounter(); });
   Traced([&] { pages = PagesByText(cells); });
   Traced([&] { AddPageForRest(pages, cells); });
   frmMain.txtPrintTo.SetText(std::to_string(pages));

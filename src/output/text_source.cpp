@@ -43,7 +43,7 @@ std::string FirstLine(const std::string& path) {
 
 // The slots have an end, and FieldUB never passes it.
 void StoreField(std::string_view value) {
-  FieldValueAt(static_cast<std::size_t>(FieldUB + 1)) = value;
+  FieldValueAt(FieldUB + 1) = value;
   ++FieldUB;
 }
 

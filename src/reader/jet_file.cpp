@@ -13,6 +13,7 @@
 
 #include "platform/database/jet_header.h"
 #include "platform/faults/fault.h"
+#include "platform/files/bytes.h"
 #include "platform/files/files.h"
 
 namespace tagwright {
@@ -29,14 +30,6 @@ constexpr int kRowStart = 0x1FFF;
 
 using TableHandle = std::unique_ptr<MdbTableDef, decltype(&mdb_free_tabledef)>;
 using FileHandle = std::unique_ptr<MdbHandle, decltype(&mdb_close)>;
-
-std::uint32_t Number(std::string_view bytes, std::size_t start, std::size_t count = 4) {
-  std::uint32_t value = 0;
-  for (std::size_t i = count; i-- > 0;) {
-    value = value << 8 | static_cast<unsigned char>(bytes[start + i]);
-  }
-  return value;
-}
 
 // --- values -------------------------------------------------------------------------------------
 
@@ -71,7 +64,7 @@ std::string MemoChain(MdbHandle* file, std::uint32_t page_and_row, std::size_t l
   while (page_and_row != 0 && out.size() < length) {
     const std::string_view piece = MemoPiece(file, page_and_row);
     if (piece.size() <= kPlaceBytes) break;
-    page_and_row = Number(piece, 0);
+    page_and_row = NumberAt<std::uint32_t>(piece);
     out += piece.substr(kPlaceBytes, length - out.size());
   }
   return out;
@@ -84,10 +77,10 @@ std::string Memo(MdbHandle* file, std::string_view stored) {
   constexpr std::size_t kPlace = 4;
   constexpr std::size_t kText = 12;
   if (stored.size() < kText) return {};
-  const std::uint32_t marked = Number(stored, 0);
+  const std::uint32_t marked = NumberAt<std::uint32_t>(stored);
   const std::size_t length = marked & ~(kInField | kInOnePiece);
   if ((marked & kInField) != 0) return Decoded(file, stored.substr(kText, length));
-  const std::uint32_t place = Number(stored, kPlace);
+  const std::uint32_t place = NumberAt<std::uint32_t>(stored, kPlace);
   if ((marked & kInOnePiece) == 0) return Decoded(file, MemoChain(file, place, length));
   return Decoded(file, MemoPiece(file, place).substr(0, length));
 }
@@ -112,11 +105,12 @@ std::string Guid(std::string_view stored) {
   constexpr std::size_t kBytes = 16;
   if (stored.size() < kBytes) return {};
   char out[40];
-  int length = std::snprintf(out, sizeof out, "{%08X-%04X-%04X-", Number(stored, 0),
-                             Number(stored, 4, 2), Number(stored, 6, 2));
+  int length = std::snprintf(
+      out, sizeof out, "{%08X-%04X-%04X-", unsigned{NumberAt<std::uint32_t>(stored)},
+      unsigned{NumberAt<std::uint16_t>(stored, 4)}, unsigned{NumberAt<std::uint16_t>(stored, 6)});
   for (std::size_t i = 8; i < kBytes; ++i) {
     length += std::snprintf(out + length, sizeof out - static_cast<std::size_t>(length),
-                            i == 9 ? "%02X-" : "%02X", Number(stored, i, 1));
+                            i == 9 ? "%02X-" : "%02X", unsigned{NumberAt<std::uint8_t>(stored, i)});
   }
   return std::string(out) + "}";
 }
@@ -151,10 +145,12 @@ StoredValue ValueAt(MdbHandle* file, const MdbColumn& column, int start, std::si
     case MDB_BYTE:
       return DecimalValue{std::to_string(mdb_pg_get_byte(file, start))};
     case MDB_INT:
-      return DecimalValue{std::to_string(static_cast<std::int16_t>(Number(stored, 0, 2)))};
+      return DecimalValue{
+          std::to_string(static_cast<std::int16_t>(NumberAt<std::uint16_t>(stored)))};
     case MDB_LONGINT:
     case MDB_COMPLEX:
-      return DecimalValue{std::to_string(static_cast<std::int32_t>(Number(stored, 0)))};
+      return DecimalValue{
+          std::to_string(static_cast<std::int32_t>(NumberAt<std::uint32_t>(stored)))};
     case MDB_MONEY:
       return WithoutPadding(TakeText(mdb_money_to_string(file, start)));
     case MDB_NUMERIC:

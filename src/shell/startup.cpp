@@ -167,8 +167,6 @@ void SetFullZoom() { ZoomFactor = 1.0; }
 
 void FillBarcodeList() { FillBarcodeFormats(frmMain.cboBCode); }
 
-void DrawOnBoard() { DrawTarget = &frmMain.picBoard.Canvas(); }
-
 void MakeHitAreasTransparent() {
   frmMain.lblHold(0).SetBackStyle(0);
   frmMain.lblHold(1).SetBackStyle(0);

@@ -3,6 +3,7 @@
 #include "common/public_functions.h"
 #include "document/objects.h"
 #include "document/redraw.h"
+#include "editing/pointer.h"
 #include "forms/frmAbout.h"
 #include "forms/frmMain.h"
 #include "platform/controls/windows.h"
@@ -141,8 +142,7 @@ void tmrButtons_Timer() {
   ++HoldTicks;
   if (HoldTicks <= kTicksOfAClick) return;
   CurrentTool = 0;
-  CursorShape = 0;
-  frmMain.SetMousePointer(0);
+  SetBoardPointer(0);
   if (HoldKind == kZoomHeld) OpenFlyout();
   HoldTicks = kHoldDone;
   frmMain.tmrButtons.SetEnabled(false);
@@ -154,7 +154,7 @@ void FlyoutKeyDown(int& KeyCode) {
   if (opens || closes) KeyCode = 0;
 }
 
-void ShowDefaultPointer() { frmMain.SetMousePointer(0); }
+void ShowPointerOffBoard() { frmMain.SetMousePointer(0); }
 
 void mnuHelpHelp_Click() {
   if (DesktopShowHelp()) DesktopShowHelp()(HelpFile);

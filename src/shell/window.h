@@ -28,8 +28,8 @@ void tmrButtons_Timer();
 // Escape closes it and gives the keyboard back. The key goes no further then.
 void FlyoutKeyDown(int& KeyCode);
 
-// Outside the board the pointer is the default one.
-void ShowDefaultPointer();
+// Outside the board the pointer is the default one; the board's own waits in CursorShape.
+void ShowPointerOffBoard();
 
 void mnuHelpHelp_Click();     // shows the help file
 void mnuHelpWebsite_Click();  // opens the product's web page

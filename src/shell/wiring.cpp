@@ -216,7 +216,7 @@ void WirePrinting(FrmMain& f) {
 // Off the board the pointer is an arrow again. picPicture, picPrint and picMag have no such
 // handler: the pointer stays as it came.
 void WireHover(FrmMain& f) {
-  const auto hover = [](int, int, double, double) { ShowDefaultPointer(); };
+  const auto hover = [](int, int, double, double) { ShowPointerOffBoard(); };
   f.Events().MouseMove = hover;
   f.picFunctions.Events().MouseMove = hover;
   f.picProperties.Events().MouseMove = hover;

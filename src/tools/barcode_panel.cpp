@@ -6,6 +6,8 @@
 #include "document/redraw.h"
 #include "document/selection_state.h"
 #include "document/shown_size.h"
+#include "editing/pointer.h"
+#include "editing/selected_object.h"
 #include "editing/selection.h"
 #include "forms/frmMain.h"
 #include "platform/faults/fault.h"
@@ -17,8 +19,6 @@ namespace tagwright {
 namespace {
 
 enum Format : std::int16_t { kPostNet = 12, kRoyalMail = 13 };
-
-constexpr std::int16_t kBarcodePointer = 99;
 
 constexpr double kRoyalMailHeight = 5;
 
@@ -54,13 +54,6 @@ bool Accepted(const std::string& tested, const std::string& text) {
   }
   frmMain.cmdBCode.SetEnabled(true);
   return true;
-}
-
-bool BarcodeIsSelected() {
-  bool is_barcode = false;
-  CarryOn(
-      [&] { is_barcode = SelectedObject > -1 && ObjectAt(SelectedObject).ObjType == kBarcode; });
-  return is_barcode;
 }
 
 // While the panel is being filled from a record there is nothing to take from it.
@@ -157,9 +150,7 @@ void cmdBCode_Click() {
     RedrawBoard();
   }
   CurrentTool = kBarcode;
-  CursorShape = kBarcodePointer;
-  frmMain.SetMouseIcon(frmMain.Image5.Icon());
-  frmMain.SetMousePointer(kBarcodePointer);
+  SetToolPointer(frmMain.Image5);
 }
 
 void ResetBarcodePanel() { BarcodeEdited = kFalse; }

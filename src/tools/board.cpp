@@ -4,33 +4,26 @@
 
 #include "common/diagnostics.h"
 #include "common/public_functions.h"
+#include "document/board_space.h"
 #include "document/objects.h"
 #include "document/redraw.h"
 #include "document/shown_size.h"
 #include "editing/drag.h"
+#include "editing/pointer.h"
 #include "editing/selection.h"
 #include "editing/track_status.h"
 #include "forms/frmMain.h"
-#include "platform/text/locale.h"
 #include "tools/placement.h"
 #include "tools/rule_drag.h"
 
 namespace tagwright {
 namespace {
 
-constexpr int kCustomPointer = 99;
 constexpr double kHairLengths = 5;  // the hairs still span the board after it has grown
 
-void ShowInFront(LineControl& line) {
-  line.ZOrder();
-  line.SetVisible(true);
-}
-
-std::string ShownPlace(double board_units) { return FormatFixed(board_units / UnitScale, 2); }
-
 void ShowPlace(double X, double Y) {
-  frmMain.sB1.SetPanelText(1, "X: " + ShownPlace(X - BoardOriginX) +
-                                  " - Y:" + ShownPlace(Y - BoardOriginY) + UnitName());
+  frmMain.sB1.SetPanelText(1, "X: " + InUsersUnit(X - BoardOriginX) +
+                                  " - Y:" + InUsersUnit(Y - BoardOriginY) + UnitName());
 }
 
 void ShowCrossHairs(double X, double Y) {
@@ -51,11 +44,6 @@ void EndEntry() {
   frmMain.picMag.SetVisible(false);
 }
 
-void ShowDefaultPointer() {
-  CursorShape = 0;
-  frmMain.SetMousePointer(0);
-}
-
 }  // namespace
 
 void picBoard_MouseDown(int Button, int /*Shift*/, double X, double Y) {
@@ -71,9 +59,7 @@ void picBoard_MouseDown(int Button, int /*Shift*/, double X, double Y) {
 }
 
 void picBoard_MouseMove(int /*Button*/, int /*Shift*/, double X, double Y) {
-  if (frmMain.MousePointer() != kCustomPointer) {
-    Traced([] { frmMain.SetMousePointer(CursorShape); });
-  }
+  Traced(RestorePointer);
   if (frmMain.mnuOptXHair.Checked()) Traced([&] { ShowCrossHairs(X, Y); });
   Traced([&] { ShowPlace(X, Y); });
   if (RubberBox) Traced([&] { TrackRubberBox(X, Y, 0); });
@@ -86,7 +72,7 @@ void picBoard_MouseUp(int /*Button*/, int /*Shift*/, double X, double Y) {
   if (RubberBox) Traced(PlaceObject);
   if (RubberLine) Traced(PlaceObject);
   if (CurrentTool == kDataField) Traced([&] { PlaceFieldAt(X, Y); });
-  if (CurrentTool == kText) ShowDefaultPointer();
+  if (CurrentTool == kText) SetBoardPointer(0);
 }
 
 }  // namespace tagwright

@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 
+#include "common/arithmetic.h"
 #include "common/public_functions.h"
 #include "document/redraw.h"
 #include "document/shown_size.h"
@@ -52,18 +53,13 @@ void CopyWidthToHeight() {
 double PictureX() { return ToNumber(frmMain.lblGraphicX.Caption()); }
 double PictureY() { return ToNumber(frmMain.lblGraphicY.Caption()); }
 
-double Quotient(double value, double divisor) {
-  if (divisor == 0) RaiseFault(kDivisionByZero);
-  return value / divisor;
-}
-
 void AdjustHeight() {
-  const double height = ToFinite(Quotient(SelectedRecord().Width, PictureX()) * PictureY());
+  const double height = Finite(Quotient(SelectedRecord().Width, PictureX()) * PictureY());
   ChangedRecord().Height = height;
 }
 
 void AdjustWidth() {
-  const double width = ToFinite(Quotient(SelectedRecord().Height, PictureY()) * PictureX());
+  const double width = Finite(Quotient(SelectedRecord().Height, PictureY()) * PictureX());
   ChangedRecord().Width = width;
 }
 
@@ -113,13 +109,13 @@ void mnuGraphicWidth_Click() {
 
 void mnuBCSetWid_Click() {
   const std::optional<double> width = AskForLength("width");
-  if (width) CarryOn([&] { SelectedRecord().Width = ToFinite(*width); });
+  if (width) CarryOn([&] { SelectedRecord().Width = Finite(*width); });
   ShowSizeFields();
 }
 
 void mnuBCSetHgt_Click() {
   const std::optional<double> height = AskForLength("height");
-  if (height) CarryOn([&] { SelectedRecord().Height = ToFinite(*height); });
+  if (height) CarryOn([&] { SelectedRecord().Height = Finite(*height); });
   ShowSizeFields();
 }
 

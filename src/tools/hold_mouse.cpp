@@ -3,6 +3,7 @@
 #include <string>
 
 #include "common/diagnostics.h"
+#include "document/board_space.h"
 #include "document/objects.h"
 #include "document/redraw.h"
 #include "document/selection_state.h"
@@ -11,6 +12,7 @@
 #include "editing/geometry.h"
 #include "editing/object_panels.h"
 #include "editing/panel_stack.h"
+#include "editing/pointer.h"
 #include "editing/property_pick.h"
 #include "editing/selection.h"
 #include "editing/track_status.h"
@@ -22,11 +24,9 @@
 namespace tagwright {
 namespace {
 
-constexpr double kGroupFontLeft = 7000;      // twips, of the font boxes over the group's panel
-constexpr double kDefaultBarcodeWidth = 20;  // millimetres, of a field whose size is 0
-constexpr double kDefaultBarcodeHeight = 12;
+constexpr double kGroupFontLeft = 7000;  // twips, of the font boxes over the group's panel
 
-bool IsText(int index) {
+bool OffersItsProperties(int index) {
   bool is_text = false;
   Traced([&] { is_text = ObjectAt(index).ObjType == kText; });
   return is_text;
@@ -81,7 +81,7 @@ void CheckFormat(std::int32_t format) {
 }
 
 std::string ShownSize(double millimetres, double default_size) {
-  return FormatFixed((millimetres == 0 ? default_size : millimetres) / UnitScale, 2);
+  return InUsersUnit(millimetres == 0 ? default_size : millimetres);
 }
 
 void SetFieldMenu(const ObjectRecord& field) {
@@ -112,7 +112,7 @@ void OpenMenuOf(int index) {
 // --- one object ---------------------------------------------------------------------------------
 
 bool HasFont(const ObjectRecord& object) {
-  return object.ObjType == kBarcode || object.ObjType == kText || object.ObjType == kDataField;
+  return object.ObjType == kBarcode || IsMeasured(object.ObjType);
 }
 
 // As text, so that a size without a row of its own is not lost to the nearest one.
@@ -140,13 +140,9 @@ void TakeHold(int index, double x, double y) {
   BeginObjectDrag(index, x, y);
 }
 
-double BoardX(int index, double x) {
-  return HoldAt(index).Left() + frmMain.picBoard.ScaleX(x, kTwips, kUserScale);
-}
+double BoardX(int index, double x) { return HoldAt(index).Left() + BoardUnitsX(x); }
 
-double BoardY(int index, double y) {
-  return HoldAt(index).Top() + frmMain.picBoard.ScaleY(y, kTwips, kUserScale);
-}
+double BoardY(int index, double y) { return HoldAt(index).Top() + BoardUnitsY(y); }
 
 void SelectAlone(int index) {
   EndGroup();
@@ -192,7 +188,7 @@ void SelectOne(int index, int button, double x, double y) {
 }  // namespace
 
 void lblHold_MouseDown(int Index, int Button, int /*Shift*/, double X, double Y) {
-  if (CopyPropsPending && IsText(Index)) return PickProperties(Index);
+  if (CopyPropsPending && OffersItsProperties(Index)) return PickProperties(Index);
   EndPropertyPick();
   if (Index > ObjectUB) return HideStaleHold(Index);
   TextEntryActive = false;

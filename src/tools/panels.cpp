@@ -6,6 +6,7 @@
 #include "document/objects.h"
 #include "document/selection_state.h"
 #include "editing/object_panels.h"
+#include "editing/pointer.h"
 #include "forms/frmMain.h"
 #include "platform/faults/fault.h"
 #include "platform/text/locale.h"
@@ -43,8 +44,7 @@ void SelectStyleOfLastField() {
 void mnuFileImport_Click() {
   if (TextEditOpen) KeyboardToBoard();
   CurrentTool = 0;
-  CursorShape = 0;
-  frmMain.SetMousePointer(0);
+  SetBoardPointer(0);
   ShowPanel(frmMain.picFields);
   SelectStyleOfLastField();
   ShowFontBoxes(9840, 600);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "common/arithmetic.h"
 #include "common/diagnostics.h"
 #include "common/public_functions.h"
 #include "document/redraw.h"
@@ -11,6 +12,7 @@
 #include "editing/drag.h"
 #include "editing/object_panels.h"
 #include "editing/panel_stack.h"
+#include "editing/pointer.h"
 #include "editing/selected_object.h"
 #include "editing/selection.h"
 #include "forms/frmMain.h"
@@ -36,8 +38,6 @@ constexpr int kPostNet = 12;
 constexpr int kRoyalMail = 13;
 
 const char kPictureFilter[] = "All Picture Formats |*.jpg;*.jpeg;*.wmf;*.gif";
-
-double PanelFontSize() { return ToNumber(frmMain.cboSize.Text()); }
 
 ObjectRecord& NewRecord() { return ObjectAt(ObjectUB); }
 Label& NewHold() { return HoldAt(ObjectUB); }
@@ -159,13 +159,8 @@ void UsePanelFont() {
   frmMain.picBoard.Canvas().Font.Size = PanelFontSize();
 }
 
-void ShowDefaultPointer() {
-  CursorShape = 0;
-  frmMain.SetMousePointer(0);
-}
-
 void EndGesture() {
-  ShowDefaultPointer();
+  SetBoardPointer(0);
   DirtyFlag = kTrue;
   RubberBox = kFalse;
   RubberLine = kFalse;
@@ -254,7 +249,7 @@ bool FillText() {
   NewHold().SetFontName(frmMain.cboFont.Text());
   NewHold().SetFontSize(PanelFontSize());
   frmMain.txtTool.SetText("");
-  ShowDefaultPointer();
+  SetBoardPointer(0);
   return true;
 }
 
@@ -503,7 +498,7 @@ void InsertPicture() {
 
 void Disarm() {
   CurrentTool = kNoTool;
-  ShowDefaultPointer();
+  SetBoardPointer(0);
   if (!RubberBox && !RubberLine) return;
   RubberBox = kFalse;
   RubberLine = kFalse;

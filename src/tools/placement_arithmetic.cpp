@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "common/arithmetic.h"
 #include "common/public_functions.h"
-#include "platform/faults/fault.h"
 #include "platform/painting/scale.h"
 #include "platform/text/locale.h"
 
@@ -25,11 +25,6 @@ constexpr double kRoyalMailBar = 0.76;
 constexpr double kIn = 1.5;
 constexpr double kOut = 0.75;
 constexpr double kLargestZoom = 50;
-
-double Quotient(double value, double divisor) {
-  if (divisor == 0) RaiseFault(kDivisionByZero);
-  return value / divisor;
-}
 
 double Inches(float inches) { return inches * kMillimetresPerInch; }
 

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "common/prog_settings.h"
+#include "document/board_space.h"
 #include "document/objects.h"
 #include "editing/magnetic_rule.h"
 #include "forms/frmMain.h"
@@ -16,9 +17,6 @@ constexpr double kWayBack = 200;   // twips from the edge: a release removes it
 constexpr double kNear = 0.5;      // board units to either side of a rule that stands
 constexpr double kRemoved = -1.0;  // a rule's place
 
-double AcrossUnits(double twips) { return frmMain.picBoard.ScaleX(twips, kTwips, kUserScale); }
-double DownUnits(double twips) { return frmMain.picBoard.ScaleY(twips, kTwips, kUserScale); }
-
 bool StandsAt(const LineControl& line, double rule, double place) {
   return CurrentTool == 0 && line.Visible() && rule - kNear < place && place < rule + kNear;
 }
@@ -30,27 +28,14 @@ std::string ZoneText() {
   return metric ? FormatFixed(zone, 1) + " mm" : FormatFixed(zone * 25.4, 3) + "in";
 }
 
-void ShowInFront(LineControl& line) {
-  line.ZOrder();
-  line.SetVisible(true);
-}
-
 void DragRuleX(double X) {
-  LineControl& rule = frmMain.lnMX;
-  rule.SetX1(X);
-  rule.SetX2(X);
-  rule.SetY1(0);
-  rule.SetY2(frmMain.picBoard.ScaleHeight());
-  ShowInFront(rule);
+  SpanDown(frmMain.lnMX, X, frmMain.picBoard.ScaleHeight());
+  ShowInFront(frmMain.lnMX);
 }
 
 void DragRuleY(double Y) {
-  LineControl& rule = frmMain.lnMY;
-  rule.SetX1(0);
-  rule.SetX2(frmMain.picBoard.ScaleWidth());
-  rule.SetY1(Y);
-  rule.SetY2(Y);
-  ShowInFront(rule);
+  SpanAcross(frmMain.lnMY, Y, frmMain.picBoard.ScaleWidth());
+  ShowInFront(frmMain.lnMY);
 }
 
 void PutRule(LineControl& line, double& place, double at, bool removed) {
@@ -62,8 +47,8 @@ void PutRule(LineControl& line, double& place, double at, bool removed) {
 }  // namespace
 
 bool GrabRules(double X, double Y) {
-  DraggingRuleX = X < AcrossUnits(kStrip) || StandsAt(frmMain.lnMX, MagRuleX + BoardOriginX, X);
-  DraggingRuleY = Y < DownUnits(kStrip) || StandsAt(frmMain.lnMY, MagRuleY + BoardOriginY, Y);
+  DraggingRuleX = X < BoardUnitsX(kStrip) || StandsAt(frmMain.lnMX, MagRuleX + BoardOriginX, X);
+  DraggingRuleY = Y < BoardUnitsY(kStrip) || StandsAt(frmMain.lnMY, MagRuleY + BoardOriginY, Y);
   if (!DraggingRuleX && !DraggingRuleY) return false;
   frmMain.sB1.SetPanelText(3, "Magnetic Rule - Zone: " + ZoneText());
   return true;
@@ -75,8 +60,8 @@ void DragRules(double X, double Y) {
 }
 
 void ReleaseRules(double X, double Y) {
-  if (DraggingRuleX) PutRule(frmMain.lnMX, MagRuleX, X - BoardOriginX, X < AcrossUnits(kWayBack));
-  if (DraggingRuleY) PutRule(frmMain.lnMY, MagRuleY, Y - BoardOriginY, Y < DownUnits(kWayBack));
+  if (DraggingRuleX) PutRule(frmMain.lnMX, MagRuleX, X - BoardOriginX, X < BoardUnitsX(kWayBack));
+  if (DraggingRuleY) PutRule(frmMain.lnMY, MagRuleY, Y - BoardOriginY, Y < BoardUnitsY(kWayBack));
   ResetRuleDrag();
 }
 

@@ -5,6 +5,7 @@
 #include "common/prog_settings.h"
 #include "document/objects.h"
 #include "editing/panel_stack.h"
+#include "editing/pointer.h"
 #include "editing/selection.h"
 #include "forms/frmMain.h"
 #include "platform/faults/fault.h"
@@ -21,7 +22,6 @@ constexpr double kFontLeftOfBarcodes = 7250;
 constexpr double kFontLeftOfTexts = 8950;
 constexpr std::int16_t kCross = 2;  // pointers
 constexpr std::int16_t kIBeam = 3;
-constexpr std::int16_t kCustomPointer = 99;
 
 void Arm(std::int16_t tool, std::int16_t pointer) {
   CurrentTool = tool;
@@ -92,9 +92,8 @@ void DrawingTools() {
 }
 
 void ZoomTool(std::int16_t tool, const Image& pointer) {
-  Arm(tool, kCustomPointer);
-  frmMain.SetMouseIcon(pointer.Icon());
-  frmMain.SetMousePointer(kCustomPointer);
+  CurrentTool = tool;
+  SetToolPointer(pointer);
 }
 
 void ZoomInTool() {

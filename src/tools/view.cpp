@@ -2,12 +2,14 @@
 
 #include <string>
 
+#include "common/arithmetic.h"
 #include "common/prog_settings.h"
 #include "common/public_functions.h"
 #include "document/redraw.h"
 #include "document/selection_state.h"
 #include "document/shown_size.h"
 #include "editing/object_panels.h"
+#include "editing/pointer.h"
 #include "editing/selected_object.h"
 #include "editing/selection.h"
 #include "forms/frmMain.h"
@@ -25,17 +27,7 @@ constexpr double kFits = 0.9;            // from this share of the board on a la
 constexpr double kAir = 0.95;            // of the board is used
 constexpr double kAirUnderRuler = 0.85;  // where the ruler takes its part of the height
 
-double Quotient(double value, double divisor) {
-  if (divisor == 0) RaiseFault(kDivisionByZero);
-  return value / divisor;
-}
-
 int Middle(const ScrollBar& bar) { return ToInt16(bar.Max() / 2.0); }
-
-void SetPointer(std::int16_t shape) {
-  CursorShape = shape;
-  frmMain.SetMousePointer(shape);
-}
 
 // --- zoom ---
 
@@ -164,9 +156,9 @@ void ScaleBoardToZoom() {
 void cboZoom_Click() {
   CarryOn([] { ZoomFactor = ZoomOfCombo(); });
   ScaleBoardToZoom();
-  DrawTarget = &frmMain.picBoard.Canvas();
+  DrawOnBoard();
   TextIsSelected() ? RedrawWithSelectedText() : RedrawWithSelection();
-  SetPointer(0);
+  SetBoardPointer(0);
 }
 
 void cmdMagnify_Click(int Index) {

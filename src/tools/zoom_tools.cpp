@@ -5,6 +5,7 @@
 #include "common/public_functions.h"
 #include "document/redraw.h"
 #include "editing/drag.h"
+#include "editing/pointer.h"
 #include "forms/frmMain.h"
 #include "tools/placement.h"
 #include "tools/placement_arithmetic.h"
@@ -50,9 +51,7 @@ void ShowZoomed() {
   frmMain.shpBox.SetVisible(SelectedObject > -1);
   RedrawBoard();
   CarryOn(ShowGroupBox);
-  if (CurrentTool == kNoTool) return;
-  CursorShape = kCustomPointer;
-  frmMain.SetMousePointer(kCustomPointer);
+  if (CurrentTool != kNoTool) SetBoardPointer(kCustomPointer);
 }
 
 // --- a box --------------------------------------------------------------------------------------

@@ -1,6 +1,7 @@
 #include "editing/track_status.h"
 
 #include "document/objects.h"
+#include "editing/pointer.h"
 #include "forms/frmMain.h"
 #include "support/test_support.h"
 

@@ -14,8 +14,6 @@ DatabaseEngine engine_in_force;
 
 // --- names in a source ---
 
-bool IsDigit(char32_t c) { return c >= U'0' && c <= U'9'; }
-
 // Whether it stands beyond the first 128 characters for a letter of some alphabet: neither a sign
 // of the second 128 nor one of the blocks of punctuation, symbols, drawings and pictures.
 bool IsForeignLetter(char32_t c) {

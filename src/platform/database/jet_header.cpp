@@ -1,12 +1,12 @@
 #include "platform/database/jet_header.h"
 
 #include <array>
-#include <bit>
 #include <cmath>
 #include <cstdint>
 #include <numeric>
 #include <utility>
 
+#include "platform/files/bytes.h"
 #include "platform/text/text.h"
 
 namespace tagwright {
@@ -42,12 +42,6 @@ void Unmask(std::string& bytes, std::size_t start, std::size_t count) {
   }
 }
 
-double DoubleAt(std::string_view bytes, std::size_t start) {
-  std::uint64_t bits = 0;
-  for (std::size_t i = 8; i-- > 0;) bits = bits << 8 | static_cast<unsigned char>(bytes[start + i]);
-  return std::bit_cast<double>(bits);
-}
-
 // The whole days as 32 bits. A damaged date has none.
 std::uint32_t WholeDays(double days) {
   constexpr double kBeyond = 2147483648.0;
@@ -71,10 +65,7 @@ std::string WithoutZerosAtEnd(std::string text) {
 
 std::string Utf16(std::string_view text) {
   std::string out;
-  const auto put = [&](char32_t unit) {
-    out.push_back(static_cast<char>(unit & 0xFF));
-    out.push_back(static_cast<char>(unit >> 8));
-  };
+  const auto put = [&](char32_t unit) { AppendNumber(out, static_cast<std::uint16_t>(unit)); };
   for (const char32_t c : Characters(text)) {
     if (c >= 0x10000) put(0xD800 + ((c - 0x10000) >> 10));
     put(c >= 0x10000 ? 0xDC00 + (c & 0x3FF) : c);

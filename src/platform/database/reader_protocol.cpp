@@ -1,10 +1,9 @@
 #include "platform/database/reader_protocol.h"
 
-#include <bit>
 #include <cstdint>
-#include <type_traits>
 
 #include "platform/faults/fault.h"
+#include "platform/files/bytes.h"
 
 namespace tagwright {
 namespace {
@@ -13,14 +12,9 @@ constexpr std::size_t kLengthBytes = 4;
 
 // --- writing ---
 
-template <class Number>
-void PutNumber(std::string& out, Number value) {
-  for (std::size_t i = 0; i < sizeof value; ++i) out.push_back(static_cast<char>(value >> 8 * i));
-}
-
 void PutText(std::string& out, char kind, std::string_view text) {
   out.push_back(kind);
-  PutNumber(out, static_cast<std::uint32_t>(text.size()));
+  AppendNumber(out, static_cast<std::uint32_t>(text.size()));
   out += text;
 }
 
@@ -32,15 +26,15 @@ struct ValueWriter {
   void operator()(const DecimalValue& value) const { PutText(out, 'n', value.digits); }
   void operator()(float value) const {
     out.push_back('s');
-    PutNumber(out, std::bit_cast<std::uint32_t>(value));
+    AppendSingle(out, value);
   }
   void operator()(double value) const {
     out.push_back('d');
-    PutNumber(out, std::bit_cast<std::uint64_t>(value));
+    AppendDouble(out, value);
   }
   void operator()(const DateValue& value) const {
     out.push_back('D');
-    PutNumber(out, std::bit_cast<std::uint64_t>(value.days));
+    AppendDouble(out, value.days);
   }
   void operator()(const std::string& value) const { PutText(out, '"', value); }
 };
@@ -54,24 +48,18 @@ std::string_view Take(std::string_view& from, std::size_t count) {
   return taken;
 }
 
-template <class Number>
-Number TakeNumber(std::string_view& from) {
-  Number value = 0;
-  const std::string_view bytes = Take(from, sizeof value);
-  for (std::size_t i = bytes.size(); i-- > 0;) {
-    value = static_cast<Number>(value << 8 | static_cast<unsigned char>(bytes[i]));
-  }
-  return value;
+std::size_t TakeLength(std::string_view& from) {
+  return NumberAt<std::uint32_t>(Take(from, kLengthBytes));
 }
 
 std::string TakeText(std::string_view& from) {
-  const auto length = TakeNumber<std::uint32_t>(from);
+  const std::size_t length = TakeLength(from);
   return std::string(Take(from, length));
 }
 
-double TakeDouble(std::string_view& from) {
-  return std::bit_cast<double>(TakeNumber<std::uint64_t>(from));
-}
+float TakeSingle(std::string_view& from) { return SingleAt(Take(from, sizeof(float))); }
+
+double TakeDouble(std::string_view& from) { return DoubleAt(Take(from, sizeof(double))); }
 
 StoredValue TakeValue(std::string_view& from) {
   switch (Take(from, 1).front()) {
@@ -84,7 +72,7 @@ StoredValue TakeValue(std::string_view& from) {
     case 'n':
       return DecimalValue{TakeText(from)};
     case 's':
-      return std::bit_cast<float>(TakeNumber<std::uint32_t>(from));
+      return TakeSingle(from);
     case 'd':
       return TakeDouble(from);
     case 'D':
@@ -114,7 +102,7 @@ std::string FrameBytes(FrameKind kind, std::string_view content) {
   if (content.size() >= kLongestFrame) RaiseFault(kDatabaseFault);
   std::string out;
   out.reserve(kLengthBytes + 1 + content.size());
-  PutNumber(out, static_cast<std::uint32_t>(content.size() + 1));
+  AppendNumber(out, static_cast<std::uint32_t>(content.size() + 1));
   out.push_back(static_cast<char>(kind));
   out += content;
   return out;
@@ -143,7 +131,7 @@ void FrameReader::Feed(std::string_view bytes) {
 std::optional<Frame> FrameReader::Next() {
   std::string_view rest = std::string_view(bytes_).substr(at_);
   if (rest.size() < kLengthBytes) return std::nullopt;
-  const std::size_t length = TakeNumber<std::uint32_t>(rest);
+  const std::size_t length = TakeLength(rest);
   if (length == 0 || length > kLongestFrame) RaiseFault(kDatabaseFault);
   if (rest.size() < length) return std::nullopt;
   at_ += kLengthBytes + length;

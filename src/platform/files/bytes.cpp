@@ -11,17 +11,33 @@ namespace tagwright {
 static_assert(std::numeric_limits<float>::is_iec559 && sizeof(float) == 4);
 static_assert(std::numeric_limits<double>::is_iec559 && sizeof(double) == 8);
 
-// --- writing ---
+// --- single numbers ---
 
-void ByteWriter::Little(std::uint64_t bits, std::size_t size) {
-  for (std::size_t i = 0; i < size; ++i) bytes_.push_back(static_cast<char>(bits >> (8 * i)));
+float SingleAt(std::string_view bytes, std::size_t at) {
+  return std::bit_cast<float>(NumberAt<std::uint32_t>(bytes, at));
 }
 
-void ByteWriter::U16(std::uint16_t value) { Little(value, 2); }
-void ByteWriter::I16(std::int16_t value) { Little(static_cast<std::uint16_t>(value), 2); }
-void ByteWriter::I32(std::int32_t value) { Little(static_cast<std::uint32_t>(value), 4); }
-void ByteWriter::F32(float value) { Little(std::bit_cast<std::uint32_t>(value), 4); }
-void ByteWriter::F64(double value) { Little(std::bit_cast<std::uint64_t>(value), 8); }
+double DoubleAt(std::string_view bytes, std::size_t at) {
+  return std::bit_cast<double>(NumberAt<std::uint64_t>(bytes, at));
+}
+
+void AppendSingle(std::string& out, float value) {
+  AppendNumber(out, std::bit_cast<std::uint32_t>(value));
+}
+
+void AppendDouble(std::string& out, double value) {
+  AppendNumber(out, std::bit_cast<std::uint64_t>(value));
+}
+
+// --- writing ---
+
+void ByteWriter::U16(std::uint16_t value) { AppendNumber(bytes_, value); }
+void ByteWriter::I16(std::int16_t value) { U16(static_cast<std::uint16_t>(value)); }
+void ByteWriter::I32(std::int32_t value) {
+  AppendNumber(bytes_, static_cast<std::uint32_t>(value));
+}
+void ByteWriter::F32(float value) { AppendSingle(bytes_, value); }
+void ByteWriter::F64(double value) { AppendDouble(bytes_, value); }
 
 void ByteWriter::Text(std::string_view text, std::size_t size) {
   std::string field = ToCodePage(Left(text, size));
@@ -42,21 +58,13 @@ std::string_view ByteReader::Next(std::size_t size) {
   return field;
 }
 
-std::uint64_t ByteReader::Little(std::size_t size) {
-  std::uint64_t bits = 0;
-  int shift = 0;
-  for (const char byte : Next(size)) {
-    bits |= static_cast<std::uint64_t>(static_cast<unsigned char>(byte)) << shift;
-    shift += 8;
-  }
-  return bits;
+std::uint16_t ByteReader::U16() { return NumberAt<std::uint16_t>(Next(2)); }
+std::int16_t ByteReader::I16() { return static_cast<std::int16_t>(U16()); }
+std::int32_t ByteReader::I32() {
+  return static_cast<std::int32_t>(NumberAt<std::uint32_t>(Next(4)));
 }
-
-std::uint16_t ByteReader::U16() { return static_cast<std::uint16_t>(Little(2)); }
-std::int16_t ByteReader::I16() { return static_cast<std::int16_t>(Little(2)); }
-std::int32_t ByteReader::I32() { return static_cast<std::int32_t>(Little(4)); }
-float ByteReader::F32() { return std::bit_cast<float>(static_cast<std::uint32_t>(Little(4))); }
-double ByteReader::F64() { return std::bit_cast<double>(Little(8)); }
+float ByteReader::F32() { return SingleAt(Next(4)); }
+double ByteReader::F64() { return DoubleAt(Next(8)); }
 
 std::string ByteReader::Text(std::size_t size) {
   std::string field(Next(size));

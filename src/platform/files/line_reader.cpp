@@ -13,11 +13,6 @@ namespace {
 constexpr std::size_t kBlockSize = 1 << 16;
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
-bool IsAscii(std::string_view bytes) {
-  return std::all_of(bytes.begin(), bytes.end(),
-                     [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
-}
-
 bool IsUtf8(std::string_view bytes) { return FromCharacters(Characters(bytes)) == bytes; }
 
 std::string TextOf(std::string line) {

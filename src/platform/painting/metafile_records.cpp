@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <cstdlib>
 
+#include "platform/files/bytes.h"
 #include "platform/painting/fonts.h"
 #include "platform/text/text.h"
 
@@ -30,12 +31,11 @@ struct Frame {
 };
 
 std::uint16_t Word(std::string_view bytes, std::size_t at) {
-  const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(bytes[i]); };
-  return static_cast<std::uint16_t>(byte(at) | byte(at + 1) << 8);
+  return NumberAt<std::uint16_t>(bytes, at);
 }
 
 std::uint32_t Long(std::string_view bytes, std::size_t at) {
-  return Word(bytes, at) | static_cast<std::uint32_t>(Word(bytes, at + 2)) << 16;
+  return NumberAt<std::uint32_t>(bytes, at);
 }
 
 int Signed(std::string_view bytes, std::size_t at) {
@@ -106,8 +106,7 @@ bool Fits(const Frame& frame) {
 }
 
 void AppendWord(std::string& bytes, int value) {
-  bytes += static_cast<char>(value & 0xFF);
-  bytes += static_cast<char>(value >> 8 & 0xFF);
+  AppendNumber(bytes, static_cast<std::uint16_t>(value));
 }
 
 std::string RectangleRecord(const Frame& frame) {
@@ -145,8 +144,7 @@ void LimitLongestRecord(Metafile& metafile, std::size_t header) {
   const std::size_t told = Long(plain, kLongestRecord);
   if (told <= longest && told >= kRectangleWords) return;
   std::string words;
-  AppendWord(words, static_cast<int>(longest & 0xFFFF));
-  AppendWord(words, static_cast<int>(longest >> 16));
+  AppendNumber(words, static_cast<std::uint32_t>(longest));
   metafile.bytes.replace(header + kLongestRecord, words.size(), words);
 }
 
@@ -180,8 +178,9 @@ double AverageWidth(const FontSpec& font) {
 
 void PutWord(std::string& bytes, std::size_t at, double value) {
   const int word = static_cast<int>(std::lround(std::clamp(value, -32767.0, 32767.0)));
-  bytes[at] = static_cast<char>(word & 0xFF);
-  bytes[at + 1] = static_cast<char>(word >> 8 & 0xFF);
+  std::string pair;
+  AppendWord(pair, word);
+  bytes.replace(at, pair.size(), pair);
 }
 
 // A height above 0 is that of a line, below 0 of the letters' square; a width is that of an average

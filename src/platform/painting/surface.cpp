@@ -11,7 +11,7 @@ constexpr double kPointsPerInch = 72;
 
 // Records come from files, and a file can hold anything: what lies nowhere is not painted.
 template <class... Doubles>
-bool Finite(Doubles... values) {
+bool AreFinite(Doubles... values) {
   return (std::isfinite(values) && ...);
 }
 
@@ -57,7 +57,7 @@ void Surface::Print(std::string_view text) {
 
 void Surface::PrintLine(std::string_view line) {
   const double height = LineHeight(Font) * kTwipsPerPoint / scale_->UnitY();
-  if (!line.empty() && height > 0 && Finite(CurrentX, CurrentY)) {
+  if (!line.empty() && height > 0 && AreFinite(CurrentX, CurrentY)) {
     if (!FontTransparent) {
       Line(CurrentX, CurrentY, CurrentX + TextWidth(line), CurrentY + height, BackColor);
     }
@@ -74,14 +74,14 @@ void Surface::PrintLine(std::string_view line) {
 // --- boxes, pictures ----------------------------------------------------------------------------
 
 void Surface::Line(double x1, double y1, double x2, double y2, Color color) {
-  if (!Finite(x1, y1, x2, y2)) return DeviceOpen();
+  if (!AreFinite(x1, y1, x2, y2)) return DeviceOpen();
   DeviceBox(PixelX(std::min(x1, x2)), PixelY(std::min(y1, y2)), PixelX(std::max(x1, x2)),
             PixelY(std::max(y1, y2)), color);
 }
 
 void Surface::PaintPicture(const PicturePtr& picture, double x, double y, double width,
                            double height) {
-  if (!picture || !Finite(x, y, width, height)) return DeviceOpen();
+  if (!picture || !AreFinite(x, y, width, height)) return DeviceOpen();
   DevicePicture(*picture, PixelX(x), PixelY(y), PixelX(width), PixelY(height));
 }
 
@@ -99,7 +99,7 @@ void Surface::MoveToEx(double x, double y) {
 }
 
 void Surface::LineTo(double x, double y) {
-  if (Finite(pen_x_, pen_y_, x, y)) {
+  if (AreFinite(pen_x_, pen_y_, x, y)) {
     DeviceLine(pen_x_, pen_y_, x, y, pen_);
   } else {
     DeviceOpen();
@@ -121,7 +121,7 @@ void Surface::Ellipse(double x1, double y1, double x2, double y2) {
 
 void Surface::Shape(ShapeKind kind, double x1, double y1, double x2, double y2, double corner_width,
                     double corner_height) {
-  if (!Finite(x1, y1, x2, y2, corner_width, corner_height)) return DeviceOpen();
+  if (!AreFinite(x1, y1, x2, y2, corner_width, corner_height)) return DeviceOpen();
   DeviceShape(kind, x1, y1, x2, y2, corner_width, corner_height, pen_, brush_);
 }
 

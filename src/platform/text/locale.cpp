@@ -21,7 +21,6 @@ UserLocale locale_in_force;
 
 // Blanks that locales use to group digits; people type whichever is at hand.
 bool IsBlank(char32_t c) { return c == U' ' || c == U'\t' || c == 0xA0 || c == 0x202F; }
-bool IsDigit(char32_t c) { return c >= U'0' && c <= U'9'; }
 
 // Reads a number's text from left to right. Each `Take...` steps over what it names, if it is next.
 class NumberReader {

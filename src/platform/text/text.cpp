@@ -14,10 +14,6 @@ namespace {
 
 constexpr char32_t kReplacement = 0xFFFD;
 
-bool IsAscii(std::string_view text) {
-  return std::all_of(text.begin(), text.end(), [](char c) { return (c & 0x80) == 0; });
-}
-
 bool IsScalar(char32_t c) { return c < 0xD800 || (c > 0xDFFF && c <= 0x10FFFF); }
 
 // The form of a UTF-8 sequence by its first byte: how many bytes, the bits the first one carries,
@@ -170,6 +166,10 @@ bool Contains(std::string_view text, std::string_view part) {
 }
 
 }  // namespace
+
+bool IsAscii(std::string_view text) {
+  return std::all_of(text.begin(), text.end(), [](char c) { return (c & 0x80) == 0; });
+}
 
 // Most text is ASCII, and redraws convert a great deal of it: the short way is worth having.
 std::u32string Characters(std::string_view text) {

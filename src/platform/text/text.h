@@ -11,6 +11,15 @@ namespace tagwright {
 
 // --- characters ---------------------------------------------------------------------------------
 
+// Whether it is one of the ten digits 0 to 9, and no other script's.
+template <class Character>
+constexpr bool IsDigit(Character c) {
+  return c >= '0' && c <= '9';
+}
+
+// Whether all of it is ASCII: one byte a character.
+bool IsAscii(std::string_view text);
+
 // The code points of UTF-8 `text`; a malformed byte counts as one U+FFFD.
 std::u32string Characters(std::string_view text);
 
