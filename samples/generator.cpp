@@ -183,7 +183,7 @@ void ShelfLabel(const std::string& folder) {
 // Under its format's name, with its characters below the bars.
 void AddBarcode(std::int16_t format, const std::string& data, double left, double top, double width,
                 double height) {
-  AddText(kBarcodeFormatNames[static_cast<std::size_t>(format)], left, top, 52, 8, kTrue, kNavy);
+  AddText(kBarcodeFormats[static_cast<std::size_t>(format)].name, left, top, 52, 8, kTrue, kNavy);
   ObjectRecord& barcode = Add(kBarcode, left, top + 4.5, width, height);
   barcode.Text = data;
   barcode.Param = format;

@@ -4,14 +4,8 @@
 #include <array>
 #include <cfloat>
 
-#include "barcode/codabar.h"
-#include "barcode/code_128.h"
-#include "barcode/code_39.h"
-#include "barcode/data_rules.h"
 #include "barcode/engine.h"
-#include "barcode/postal.h"
-#include "barcode/two_of_five.h"
-#include "barcode/upc_ean.h"
+#include "barcode/formats.h"
 #include "barcode/validation.h"
 
 namespace tagwright {
@@ -19,12 +13,10 @@ namespace {
 
 constexpr int kNoOutline = 5;
 
-// The text line takes more room under the symbols that print all of it at once.
-double LineShare(std::int16_t format) { return format < 4 ? 0.65 : 0.85; }
-
-double BarRoom(std::int16_t format, double height, bool with_text) {
+double BarRoom(const BarcodeFormatRow* format, double height, bool with_text) {
   if (!with_text) return height;
-  return Finite(height - LineShare(format) * Target().TextHeight("1"));
+  const double line = Target().TextHeight("1");
+  return Finite(format ? height - format->text_share * line : height);
 }
 
 std::int16_t PrepareTarget(double font_size) {
@@ -39,43 +31,10 @@ std::int16_t PrepareTarget(double font_size) {
   return mode;
 }
 
-bool CanCarry(std::int16_t format, std::string_view data) {
-  if (format < 0 || format >= static_cast<int>(kDataRules.size())) return false;
-  const DataRule& rule = kDataRules[static_cast<std::size_t>(format)];
-  const bool known = std::all_of(data.begin(), data.end(), [&](char c) { return rule.set.Has(c); });
-  return known && (rule.limit == -1 || data.size() <= static_cast<std::size_t>(rule.limit));
-}
-
-void DrawSymbol(std::string& data, std::int16_t format, float x, float y, double height,
-                double width, bool text, double size) {
-  switch (format) {
-    case 0:
-    case 1:
-    case 2:
-    case 3:
-      return DrawUpcEan(data, format, x, y, height, width, text, size);
-    case 4:
-      return DrawTwoOfFive(data, format, x, y, height, width, text, size);
-    case 5:
-      return DrawInterleaved(data, format, x, y, height, width, text, size);
-    case 6:
-    case 7:
-    case 8:
-      return DrawCode128(data, static_cast<std::int16_t>(format - 6), x, y, height, width, text,
-                         size);
-    case 9:
-      return DrawCode39(data, format, x, y, height, width, text, size);
-    case 10:
-      return DrawCode39Extended(data, format, x, y, height, width, text, size);
-    case 11:
-      return DrawCodabar(data, format, x, y, height, width, text, size);
-    case 12:
-      return DrawPostNet(data, x, y);
-    case 13:
-      return DrawRoyalMail(data, x, y);
-    default:
-      return;
-  }
+bool CanCarry(const BarcodeFormatRow& format, std::string_view data) {
+  const bool known =
+      std::all_of(data.begin(), data.end(), [&](char c) { return format.set.Has(c); });
+  return known && (format.limit == -1 || data.size() <= static_cast<std::size_t>(format.limit));
 }
 
 // --- the bar painter ---
@@ -182,10 +141,11 @@ void DrawBarcode(std::string& Data, const std::int16_t& Format, float X, float Y
   if (!FontName.empty()) EngineTraced([&] { Target().Font.Name = FontName; });
   const std::int16_t mode = PrepareTarget(FontSize);
   double bars = Height;
-  EngineTraced([&] { bars = BarRoom(Format, Height, PrintCharacters); });
+  const BarcodeFormatRow* format = FormatRow(Format);
+  EngineTraced([&] { bars = BarRoom(format, Height, PrintCharacters); });
   // A refusal leaves the target as it has been prepared: the next thing painted meets it that way.
-  if (!CanCarry(Format, Data)) return;
-  DrawSymbol(Data, Format, X, Y, bars, Width, PrintCharacters, FontSize);
+  if (!format || !CanCarry(*format, Data)) return;
+  format->paint(Data, Format, X, Y, bars, Width, PrintCharacters, FontSize);
   EngineTraced([&] { Target().DrawMode = mode; });
   EngineTraced([&] { Target().DrawStyle = 0; });
 }

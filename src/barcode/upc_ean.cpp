@@ -3,11 +3,10 @@
 #include <array>
 
 #include "barcode/engine.h"
+#include "common/barcode_format.h"
 
 namespace tagwright {
 namespace {
-
-enum Format : std::int16_t { kUpcA = 0, kUpcE = 1, kEan13 = 2 };
 
 constexpr int kNoCentre = 100;          // beyond every position
 constexpr double kGuardLonger = 1.25;   // than the bars of the digits
@@ -64,20 +63,20 @@ bool Holds(std::string_view positions, int position) {
 
 // Half the length and one more, halves going to the even position.
 int CentrePosition(int length, std::int16_t format) {
-  if (format == kUpcE) return kNoCentre;
+  if (format == kFormatUpcE) return kNoCentre;
   const int below = length / 2 + 1;
   return length % 2 == 1 && below % 2 == 1 ? below + 1 : below;
 }
 
 bool IsOdd(std::string_view data, std::int16_t format, int position, int centre) {
-  if (format == kUpcE) return Holds(kUpcEOddPositions, position);
-  if (format != kEan13 || position >= centre) return true;
+  if (format == kFormatUpcE) return Holds(kUpcEOddPositions, position);
+  if (format != kFormatEan13 || position >= centre) return true;
   return Holds(kOddPositions[static_cast<std::size_t>(data[0] - '0')], position - 1);
 }
 
 void CompleteData(std::string& data, std::int16_t format) {
-  const bool upc = format == kUpcA && data.size() == 11;
-  const bool ean = format == kEan13 && data.size() == 12;
+  const bool upc = format == kFormatUpcA && data.size() == 11;
+  const bool ean = format == kFormatEan13 && data.size() == 12;
   if (upc || ean) data += UpcEanCheckDigit(data, format);
 }
 
@@ -85,7 +84,7 @@ void CompleteData(std::string& data, std::int16_t format) {
 // text to numbers of modules, whether or not any text is printed.
 double ModulesOf(std::string_view data, std::int16_t format) {
   const double digits = static_cast<double>(data.size()) * 7;
-  if (format != kEan13) return digits + 12;
+  if (format != kFormatEan13) return digits + 12;
   return 2 * Target().TextWidth(data.substr(0, 1)) + digits + 13 + 1;
 }
 
@@ -139,7 +138,7 @@ std::string_view GuardPattern(int Kind) { return kGuards[static_cast<std::size_t
 void DrawGuard(int Kind) { PaintGuard(GuardPattern(Kind)); }
 
 char UpcEanCheckDigit(std::string_view Data, std::int16_t Format) {
-  int weight = Format == kUpcA ? 3 : 1, sum = 0;
+  int weight = Format == kFormatUpcA ? 3 : 1, sum = 0;
   for (const char digit : Data) {
     sum += (digit - '0') * weight;
     weight = 4 - weight;
@@ -152,7 +151,7 @@ std::vector<UpcEanElement> UpcEanElements(std::string_view Data, std::int16_t Fo
   std::vector<UpcEanElement> elements;
   elements.reserve(Data.size() + 3);
   elements.push_back({true, GuardPattern(0), ' '});
-  for (int i = Format == kEan13 ? 2 : 1; i <= length; ++i) {
+  for (int i = Format == kFormatEan13 ? 2 : 1; i <= length; ++i) {
     if (i == centre) elements.push_back({true, GuardPattern(1), ' '});
     const char digit = Data[static_cast<std::size_t>(i - 1)];
     const bool with_space = i < centre;
@@ -161,7 +160,7 @@ std::vector<UpcEanElement> UpcEanElements(std::string_view Data, std::int16_t Fo
                                                        : DigitPatternEven(digit - '0', with_space),
                         digit});
   }
-  elements.push_back({true, GuardPattern(Format == kUpcE ? 2 : 0), ' '});
+  elements.push_back({true, GuardPattern(Format == kFormatUpcE ? 2 : 0), ' '});
   return elements;
 }
 
@@ -174,9 +173,9 @@ void DrawUpcEan(std::string& Data, std::int16_t Format, float X, float Y, double
   CompleteData(Data, Format);
   EngineTraced([&] { MeasureUpcEan(Data, Format, Width); });
   BarHeight = Height - kTextRoom;
-  if (Format == kEan13 && PrintCharacters) PrintFirstDigit(Data, X, Y);
+  if (Format == kFormatEan13 && PrintCharacters) PrintFirstDigit(Data, X, Y);
   PaintElements(UpcEanElements(Data, Format));
-  if (Format == kEan13 && PrintCharacters) PrintBeside(">", CursorX + 2 * ModuleWidth, Y);
+  if (Format == kFormatEan13 && PrintCharacters) PrintBeside(">", CursorX + 2 * ModuleWidth, Y);
 }
 
 }  // namespace tagwright

@@ -1,20 +1,15 @@
 #include "barcode/validation.h"
 
-#include "barcode/data_rules.h"
+#include "barcode/formats.h"
 #include "platform/text/text.h"
 
 namespace tagwright {
-namespace {
-
-constexpr std::int16_t kFormatsWithRules = 13;  // all but the last
-
-}  // namespace
 
 std::string ValidateBarcodeData(std::int16_t Format, std::string_view Data) {
-  if (Format >= 0 && Format < kFormatsWithRules) {
-    const DataRule& rule = kDataRules[static_cast<std::size_t>(Format)];
-    ValidChars = rule.set.characters;
-    MaxChars = rule.limit;
+  const BarcodeFormatRow* format = FormatRow(Format);
+  if (format && Format != kFormatRoyalMail) {
+    ValidChars = format->set.characters;
+    MaxChars = format->limit;
   }
   std::u32string refused;
   for (const char32_t character : Characters(Data)) {

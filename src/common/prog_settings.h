@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string>
 
+#include "common/barcode_format.h"
 #include "platform/text/text.h"
 
 namespace tagwright {
@@ -19,11 +20,11 @@ inline const std::string ProductTitle = "Tagwright Designer Gold";
 // here are those of a fresh record. Booleans are 0 or -1.
 struct SettingsRecord {
   FixedText<50> DefaultFontName = "Arial";
-  double DefaultFontSize = 11.0;        // points
-  std::int16_t NumericBarcodeType = 9;  // format for data that is all digits
-  std::int16_t AlphaBarcodeType = 7;    // format for other data
-  double BarcodeFontSize = 6.0;         // points, characters under a barcode
-  std::int16_t PrintOffsetX = 0;        // millimetres
+  double DefaultFontSize = 11.0;                    // points
+  std::int16_t NumericBarcodeType = kFormatCode39;  // for data that is all digits
+  std::int16_t AlphaBarcodeType = kFormatCode128B;  // for other data
+  double BarcodeFontSize = 6.0;                     // points, characters under a barcode
+  std::int16_t PrintOffsetX = 0;                    // millimetres
   std::int16_t PrintOffsetY = 0;
   std::int16_t ShowRulers = -1;
   std::int16_t MetricUnits = -1;  // -1 millimetres, 0 inches

@@ -82,7 +82,7 @@ void PaintSerialBarcode(const TextPass& pass) {
 bool ResolveSerial(const TextPass& pass, std::string& line) {
   if (line.find(kSerialToken) == std::string::npos) return true;
   SerialUsed = true;
-  if (SerialBarcodeType == -1) {
+  if (SerialBarcodeType == kNoBarcode) {
     line = Replace(line, kSerialToken, SerialText());
     return true;
   }

@@ -63,7 +63,7 @@ void ResetSerial() {
   SerialPrefix.clear();
   SerialValue = 1001;
   SerialIncrement = 1;
-  SerialBarcodeType = 6;
+  SerialBarcodeType = kFormatCode128A;
   SerialBarcodeWidth = 35.0;
   SerialBarcodeHeight = 15.0;
   SerialPrintText = kTrue;

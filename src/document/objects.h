@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "common/barcode_format.h"
 #include "platform/controls/controls.h"
 #include "platform/text/text.h"
 
@@ -121,10 +122,11 @@ inline std::vector<std::string> FieldValues = std::vector<std::string>(kFieldSlo
 inline std::int16_t FieldUB = -1;  // highest used column, -1 no data source
 
 // Serial numbers.
+constexpr std::int16_t kNoBarcode = -1;  // in the place of a format
 inline std::string SerialPrefix;
 inline std::int32_t SerialValue = 1001;
 inline std::int16_t SerialIncrement = 1;
-inline std::int16_t SerialBarcodeType = 6;  // format, -1 shown as text
+inline std::int16_t SerialBarcodeType = kFormatCode128A;  // kNoBarcode: shown as text
 inline double SerialBarcodeWidth = 35.0;
 inline double SerialBarcodeHeight = 15.0;
 inline Flag SerialPrintText = kTrue;

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "common/arithmetic.h"
+#include "common/barcode_format.h"
 #include "common/diagnostics.h"
 #include "common/prog_settings.h"
 #include "common/public_functions.h"
@@ -32,7 +33,6 @@ constexpr int kCustomPointer = 99;
 constexpr int kMovePointer = 5;
 constexpr int kFallingPointer = 8;  // sizing, top left to bottom right
 constexpr int kRisingPointer = 6;
-constexpr std::int16_t kPostNet = 12;
 constexpr double kMoveThreshold = 0.5;  // millimetres on screen below which a drag is a click
 constexpr double kLineThickness = 0.5;  // likewise, of a line's box
 constexpr double kHandleGap = 1.0;
@@ -270,7 +270,7 @@ void DropHandle() {
 // --- handles ------------------------------------------------------------------------------------
 
 bool KeepsItsSize(const ObjectRecord& object) {
-  return object.ObjType == kBarcode && object.Param == kPostNet;
+  return object.ObjType == kBarcode && object.Param == kFormatPostNet;
 }
 
 void BeginResize(double X, double Y) {

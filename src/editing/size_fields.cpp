@@ -4,6 +4,7 @@
 #include <string>
 
 #include "common/arithmetic.h"
+#include "common/barcode_format.h"
 #include "common/public_functions.h"
 #include "document/redraw.h"
 #include "document/selection_state.h"
@@ -24,7 +25,7 @@ constexpr int kArrow = 1;
 
 // A barcode that is marked as postal keeps its size. No barcode ever is: its format stands in
 // Param, and FillColor is 0. Postal symbols can be typed over.
-constexpr std::int32_t kPostNetMark = 12;
+constexpr std::int32_t kPostNetMark = kFormatPostNet;
 
 // Which of the fields say something else than the record, and than was shown there: a field that
 // shows what is no longer so has not been typed in.

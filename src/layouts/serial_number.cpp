@@ -29,7 +29,6 @@ void mnuFileSerial_Click() { ShowSerialNumbers(); }
 namespace serial_number {
 namespace {
 
-constexpr std::int16_t kNoBarcode = -1;
 constexpr int kLastIncrementation = 10;
 
 // Millimetres in the user's unit and back.

@@ -103,7 +103,7 @@ void SetSerialDefaults() {
   SerialIncrement = 1;
   SerialPrintText = kTrue;
   SerialValue = 1001;
-  SerialBarcodeType = 6;
+  SerialBarcodeType = kFormatCode128A;
   SerialBarcodeWidth = 35.0;
   SerialBarcodeHeight = 15.0;
 }

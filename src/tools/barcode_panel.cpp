@@ -3,6 +3,7 @@
 #include <string>
 
 #include "barcode/validation.h"
+#include "common/barcode_format.h"
 #include "document/redraw.h"
 #include "document/selection_state.h"
 #include "document/shown_size.h"
@@ -18,9 +19,7 @@
 namespace tagwright {
 namespace {
 
-enum Format : std::int16_t { kPostNet = 12, kRoyalMail = 13 };
-
-constexpr double kRoyalMailHeight = 5;
+constexpr double kSizedRoyalMailHeight = 5;  // millimetres
 
 void Refuse(const std::string& message) {
   MessageBox(message, MessageButtons::kOk, MessageIcon::kNone);
@@ -78,14 +77,16 @@ void FitPostNet(double length) {
 }
 
 // Larger than a new symbol of that format.
-void FitRoyalMail(double length) { TakeSize(((length + 1) * 4 + 1.5) * 1.1, kRoyalMailHeight); }
+void FitRoyalMail(double length) {
+  TakeSize(((length + 1) * 4 + 1.5) * 1.1, kSizedRoyalMailHeight);
+}
 
 // The symbol has been redrawn before; that its new outline shows at once is all there is to do.
 void FitPostalSize(const std::string& text) {
   const auto length = static_cast<double>(Length(text));
   const int format = frmMain.cboBCode.ListIndex();
-  if (format == kPostNet) CarryOn([&] { FitPostNet(length); });
-  if (format == kRoyalMail) CarryOn([&] { FitRoyalMail(length); });
+  if (format == kFormatPostNet) CarryOn([&] { FitPostNet(length); });
+  if (format == kFormatRoyalMail) CarryOn([&] { FitRoyalMail(length); });
 }
 
 // The label may have been saved since the keys came.

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "common/arithmetic.h"
+#include "common/barcode_format.h"
 #include "common/diagnostics.h"
 #include "common/public_functions.h"
 #include "document/redraw.h"
@@ -34,8 +35,6 @@ constexpr int kDots = 3;  // border style
 constexpr int kCurrentSample = 6;
 constexpr Color kNoFill = -1;
 constexpr std::int16_t kCross = 2;  // pointer
-constexpr int kPostNet = 12;
-constexpr int kRoyalMail = 13;
 
 const char kPictureFilter[] = "All Picture Formats |*.jpg;*.jpeg;*.wmf;*.gif";
 
@@ -193,8 +192,8 @@ bool FillBarcode() {
   record.FontSize = PanelFontSize();
   record.FontName = frmMain.cboFont.Text();
   record.Bold = frmMain.chkPriCharacter.Value() != 0 ? kTrue : kFalse;
-  if (format == kPostNet) TakePostalSize(record, PostNetExtent(length));
-  if (format == kRoyalMail) TakePostalSize(record, RoyalMailExtent(length));
+  if (format == kFormatPostNet) TakePostalSize(record, PostNetExtent(length));
+  if (format == kFormatRoyalMail) TakePostalSize(record, RoyalMailExtent(length));
   return true;
 }
 
@@ -345,7 +344,7 @@ void TakePlaceOfBox() {
 // A PostNet symbol keeps the size worked out for it, and its hit area the one that it had.
 bool HasItsSize() {
   if (CurrentTool == kPicture) return TinyBox;
-  return CurrentTool == kBarcode && NewRecord().Param == kPostNet;
+  return CurrentTool == kBarcode && NewRecord().Param == kFormatPostNet;
 }
 
 void TakeSizeOfBox() {

@@ -1,6 +1,6 @@
 #include "barcode/validation.h"
 
-#include "barcode/data_rules.h"
+#include "barcode/formats.h"
 #include "barcode_test_support.h"
 
 namespace tagwright {
@@ -26,7 +26,7 @@ TEST_F(ValidationTest, EachFormatStoresItsRules) {
     ValidateBarcodeData(format, "x");
     const auto row = static_cast<std::size_t>(format);
     EXPECT_EQ(MaxChars, limits[row]) << format;
-    EXPECT_EQ(ValidChars, kDataRules[row].set.characters) << format;
+    EXPECT_EQ(ValidChars, kBarcodeFormats[row].set.characters) << format;
   }
 }
 

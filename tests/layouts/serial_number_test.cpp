@@ -52,7 +52,7 @@ TEST_F(SerialNumberTest, TheListsHoldOneToTenAndTheFormats) {
   ASSERT_EQ(f.cboInc.ListCount(), 10);
   EXPECT_EQ(f.cboInc.List(0), "1");
   EXPECT_EQ(f.cboInc.List(9), "10");
-  ASSERT_EQ(f.cboBCode.ListCount(), static_cast<int>(kBarcodeFormatNames.size()));
+  ASSERT_EQ(f.cboBCode.ListCount(), static_cast<int>(kBarcodeFormats.size()));
   EXPECT_EQ(f.cboBCode.List(13), "Royal Mail CBC");
 }
 
