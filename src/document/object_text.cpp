@@ -48,10 +48,10 @@ void PrepareTarget() {
 // Measured before any token is resolved: a line with a token stands as if the token were printed.
 double LineStart(const TextPass& pass, std::string_view line) {
   const ObjectRecord& object = pass.object;
-  if (object.ObjType == kText && object.Param == 1) {
+  if (object.ObjType == kText && object.Param == static_cast<int>(TextAlignment::kRight)) {
     return object.Left + object.Width - DrawTarget->TextWidth(line) + BoardOriginX;
   }
-  if (object.ObjType == kText && object.Param == 2) {
+  if (object.ObjType == kText && object.Param == static_cast<int>(TextAlignment::kCenter)) {
     return (object.Width - DrawTarget->TextWidth(line)) / 2 + object.Left + BoardOriginX;
   }
   return object.Left + BoardOriginX;
@@ -159,11 +159,11 @@ void PaintFieldBarcode(const TextPass& pass) {
 void PrintField(const TextPass& pass) {
   const ObjectRecord& object = pass.object;
   switch (object.FillColor) {
-    case 0:
+    case kPlainField:
       return DrawTarget->Print(FieldValueAt(object.Param));
-    case 1:
+    case kCurrencyField:
       return DrawTarget->Print(CurrencyText(object));
-    case 2:
+    case kNumberField:
       return DrawTarget->Print(NumberText(object));
     default:
       break;
@@ -177,11 +177,11 @@ void PrintField(const TextPass& pass) {
 
 std::string_view Marker(std::int32_t format) {
   switch (format) {
-    case 0:
+    case kPlainField:
       return "S";
-    case 1:
+    case kCurrencyField:
       return "$";
-    case 2:
+    case kNumberField:
       return "#";
     default:
       return format >= kFirstBarcodeFormat && format <= kLastMarkedFormat ? "B" : "";

@@ -7,6 +7,8 @@
 #include "document/redraw.h"
 #include "document/shown_size.h"
 #include "forms/frmMain.h"
+#include "platform/controls/outlines.h"
+#include "platform/controls/pointers.h"
 #include "platform/faults/fault.h"
 #include "platform/painting/surface.h"
 
@@ -55,18 +57,13 @@ void ResetSelection() {
   UndoUpper = -1;
   TextEntryActive = false;
   PanelLoading = false;
-  CurrentTool = 0;
-  CursorShape = 0;
+  CurrentTool = kNoTool;
+  CursorShape = kDefaultPointer;
 }
 
 void ResetSerial() {
   SerialPrefix.clear();
-  SerialValue = 1001;
-  SerialIncrement = 1;
-  SerialBarcodeType = kFormatCode128A;
-  SerialBarcodeWidth = 35.0;
-  SerialBarcodeHeight = 15.0;
-  SerialPrintText = kTrue;
+  SetSerialDefaults();
   SerialUsed = false;
 }
 
@@ -141,7 +138,7 @@ Label& HoldAt(int index) {
   if (frmMain.lblHold.Exists(index)) return frmMain.lblHold(index);
   Label& hold = frmMain.lblHold.Load(index);
   hold.SetVisible(true);
-  hold.SetBackStyle(0);
+  hold.SetBackStyle(kTransparentBack);
   hold.SetCaption("");
   return hold;
 }
@@ -149,6 +146,15 @@ Label& HoldAt(int index) {
 void EndMeasuring(Label& hold) {
   hold.SetAutoSize(false);
   hold.SetCaption("");
+}
+
+void SetSerialDefaults() {
+  SerialValue = 1001;
+  SerialIncrement = 1;
+  SerialBarcodeType = kFormatCode128A;
+  SerialBarcodeWidth = 35.0;
+  SerialBarcodeHeight = 15.0;
+  SerialPrintText = kTrue;
 }
 
 void ResetDocumentState() {

@@ -35,6 +35,15 @@ enum Kind : std::int16_t {
   kDeleteMark = -100,   // for the length of one delete operation
 };
 
+// What CurrentTool holds beside the kinds of objects.
+enum Tool : std::int16_t { kNoTool = 0, kZoomIn = 30, kZoomOut = 31 };
+
+// FillColor of a shape without a fill.
+constexpr std::int32_t kNoFill = -1;
+
+// FillColor of a data field that is shown as text.
+enum FieldFormat : std::int32_t { kPlainField = 0, kCurrencyField = 1, kNumberField = 2 };
+
 // A data field whose FillColor is this much or more is shown as a barcode.
 constexpr std::int32_t kFirstBarcodeFormat = 100;
 
@@ -48,10 +57,10 @@ inline bool IsMeasured(std::int16_t kind) { return kind == kText || kind == kDat
 // and is not to be normalised:
 //   barcode     Text data, Param format, Bold print characters under the bars
 //   picture     Text full path
-//   text        Text lines separated by CR LF, Param alignment (0 left, 1 right, 2 centre)
-//   shapes      Param pen width (0 no pen), ForeColor pen, FillColor fill (-1 transparent)
-//   data field  Text column name, Param column, FillColor format (0 plain, 1 currency, 2 number,
-//               100 + n barcode of format n), Italic print characters of that barcode
+//   text        Text lines separated by CR LF, Param TextAlignment
+//   shapes      Param pen width (0 no pen), ForeColor pen, FillColor fill or kNoFill
+//   data field  Text column name, Param column, FillColor FieldFormat (kFirstBarcodeFormat + n:
+//               barcode of format n), Italic print characters of that barcode
 struct ObjectRecord {
   float Left = 0;
   float Top = 0;
@@ -89,17 +98,17 @@ inline std::int16_t ObjectUB = -1;
 inline double ZoomFactor = 1.0;  // 1.0 is 100 %; replaced during a print or preview redraw
 inline double BoardOriginX = 0;  // the label's corner on the drawing target, its millimetres
 inline double BoardOriginY = 0;
-inline std::int16_t SelectedObject = -1;  // -1 none
-inline std::int16_t RedrawSkip = -1;      // object that the next redraw leaves out, -1 none
-inline std::int16_t CurrentTool = 0;      // the kind a tool will create; 30, 31 zoom; 0 none
-inline std::int16_t CursorShape = 0;      // pointer that board and hit areas keep restoring
-inline std::int16_t SuspendRedraw = 0;    // non-zero: RedrawBoard does nothing
-inline std::int16_t BoardReady = 0;       // zero until the window's first activation
-inline std::int64_t RedrawCount = 0;      // redraws begun
-inline bool PreviewMode = false;          // a redraw for the preview is under way
-inline bool SerialUsed = false;           // a printed text held the serial token
-inline std::string ProjectPath;           // full path, empty when untitled
-inline Flag DirtyFlag = kFalse;           // unsaved changes
+inline std::int16_t SelectedObject = -1;    // -1 none
+inline std::int16_t RedrawSkip = -1;        // object that the next redraw leaves out, -1 none
+inline std::int16_t CurrentTool = kNoTool;  // the kind a tool will create, or a Tool
+inline std::int16_t CursorShape = 0;        // pointer that board and hit areas keep restoring
+inline std::int16_t SuspendRedraw = 0;      // non-zero: RedrawBoard does nothing
+inline std::int16_t BoardReady = 0;         // zero until the window's first activation
+inline std::int64_t RedrawCount = 0;        // redraws begun
+inline bool PreviewMode = false;            // a redraw for the preview is under way
+inline bool SerialUsed = false;             // a printed text held the serial token
+inline std::string ProjectPath;             // full path, empty when untitled
+inline Flag DirtyFlag = kFalse;             // unsaved changes
 // Whether the unit is metric, and how far labels are moved on paper, are settings: ProgSettings.
 inline double UnitScale = 1.0;   // millimetres per display unit: 1.0 or 25.4
 inline double RulerScale = 1.0;  // millimetres between ruler ticks: 1.0 or 2.54
@@ -188,6 +197,9 @@ Label& HoldAt(int index);
 // A caption stands on a hit area only while it is measured, and on that of a text being edited: it
 // is emptied, and the size stays.
 void EndMeasuring(Label& hold);
+
+// The serial numbers' state as at program start, but for the prefix.
+void SetSerialDefaults();
 
 // The whole state of this folder (that of project_file.h and redraw.h too) back to program start.
 // Neither the form nor the barcode painter's slot is touched.

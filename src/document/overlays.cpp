@@ -2,13 +2,13 @@
 #include "document/overlay_geometry.h"
 #include "document/redraw.h"
 #include "forms/frmMain.h"
+#include "platform/controls/outlines.h"
 #include "platform/faults/fault.h"
 
 namespace tagwright {
 namespace {
 
 constexpr int kHandleCount = 4;
-constexpr int kDots = 3;  // border style
 
 void PlaceHandles(const BoardBox& box, double gap_x, double gap_y) {
   const Label& handle = frmMain.lblHandle(0);
@@ -38,7 +38,7 @@ void PlaceFrame(double left, double top, double width, double height) {
   Shape& frame = frmMain.shpBox;
   frame.Move(left, top, width, height);
   frame.SetVisible(true);
-  frame.SetBorderStyle(kDots);
+  frame.SetBorderStyle(kDottedBorder);
 }
 
 const ObjectRecord& Member(int place) { return ObjectAt(SelectedMember(place)); }
@@ -64,7 +64,7 @@ void ShowGroupBox() {
   const BoardBox box = GroupBox();
   PlaceHandles(box);
   PlaceFrame(box.left, box.top, box.right - box.left, box.bottom - box.top);
-  frmMain.shpBox.SetShape(0);
+  frmMain.shpBox.SetShape(kRectangleOutline);
   HideFourHandles();
 }
 

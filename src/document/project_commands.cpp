@@ -66,7 +66,7 @@ void mnuFileNew_Click() {
   DirtyFlag = kFalse;
   ProjectPath.clear();
   ForgetSource();
-  frmMain.cmdTools(0).Press();
+  frmMain.cmdTools(kSelectButton).Press();
   DropSelection();  // the tool has not ended it where a modifier is held, as in this very shortcut
   frmMain.mnuFileSaveAs.SetEnabled(false);
   frmMain.SetCaption(ProductTitle + " [untitled]");

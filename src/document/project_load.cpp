@@ -21,8 +21,8 @@ namespace {
 
 // What the status bar says is of the label before.
 void EmptySelectionStatus() {
-  frmMain.sB1.SetPanelText(2, "");
-  frmMain.sB1.SetPanelText(3, "");
+  frmMain.sB1.SetPanelText(kExtentPanel, "");
+  frmMain.sB1.SetPanelText(kSelectionPanel, "");
 }
 
 // Only the file's length tells how many records there are; a remainder counts from half a record.
@@ -71,7 +71,7 @@ bool GoOnWithout(const std::string& data_file) {
 
 void ShowSourceFields(bool database) {
   frmMain.cboRSet.SetVisible(database);
-  frmMain.lblFName(1).SetVisible(database);
+  frmMain.lblFName(kTableCaption).SetVisible(database);
   frmMain.chkFirstRow.SetVisible(!database);
   frmMain.chkQuote.SetVisible(!database);
 }
@@ -117,7 +117,7 @@ bool TakeSourceTrailer() {
   }
   frmMain.lblFileName.SetCaption(path);
   DatabasePassword = trailer.FontName.Trimmed();
-  PrepareSource(trailer.Param == 0, path);
+  PrepareSource(trailer.Param == kDatabaseSource, path);
   CarryOn([&] { frmMain.cboImportType.SetListIndex(trailer.Param); });
   ChooseTable(trailer.FillColor);
   DropLast();

@@ -11,8 +11,6 @@
 namespace tagwright {
 namespace {
 
-constexpr int kNotesPanel = 4;  // of the status bar
-
 // Returns false when the user cancels or names nothing.
 bool AskForName() {
   CommonDialog& dialog = frmMain.cd1;

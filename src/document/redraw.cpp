@@ -21,7 +21,6 @@
 namespace tagwright {
 namespace {
 
-constexpr int kScrollMiddle = 250;    // both bars: the label stands centred
 constexpr double kLabelCorner = 8;    // corner ellipse of the white label, pixels at 100 %
 constexpr double kObjectCorner = 12;  // of a rounded rectangle
 constexpr double kPrintMargin = 2;    // millimetres beyond the label where objects may begin
@@ -177,7 +176,8 @@ PixelBox PixelsOf(const ObjectRecord& object, bool output) {
 void SelectPenAndBrush(const ObjectRecord& shape) {
   DrawTarget->SelectObject(shape.Param > 0 ? CreatePen(kPenSolid, shape.Param, shape.ForeColor)
                                            : CreatePen(kPenNull, 0, 0));
-  DrawTarget->SelectObject(shape.FillColor > -1 ? CreateSolidBrush(shape.FillColor) : NullBrush());
+  DrawTarget->SelectObject(shape.FillColor > kNoFill ? CreateSolidBrush(shape.FillColor)
+                                                     : NullBrush());
 }
 
 // Never slanted: a box that is wider than high holds a horizontal line, any other a vertical one.

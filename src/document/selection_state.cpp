@@ -45,7 +45,8 @@ void HideHitAreas() {
 }
 
 void ForgetCount() {
-  if (frmMain.sB1.PanelText(3).starts_with("Objects Selected: ")) frmMain.sB1.SetPanelText(3, "");
+  if (frmMain.sB1.PanelText(kSelectionPanel).starts_with("Objects Selected: "))
+    frmMain.sB1.SetPanelText(kSelectionPanel, "");
 }
 
 void EndGroup() {

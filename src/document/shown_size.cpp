@@ -9,8 +9,6 @@
 namespace tagwright {
 namespace {
 
-enum Field : int { kLeft = 0, kTop = 1, kWidth = 2, kHeight = 3 };
-
 const ShownSize kNoSize = {"0.00", "0.00", "0.00", "0.00"};
 
 // What was shown last, and of which object: a text that differs from it has been typed.
@@ -55,19 +53,19 @@ void ShowSizeFields() {
   const std::int16_t object = OneIsSelected() ? SelectedObject : std::int16_t{-1};
   const bool same_object = object != -1 && object == shown_object;
   shown_object = object;
-  for (int i = kLeft; i <= kHeight; ++i) {
+  for (int i = kLeftField; i <= kHeightField; ++i) {
     ShowUnlessTyped(i, size[static_cast<std::size_t>(i)], same_object);
   }
 }
 
 void ShowPlaceInFields(double left, double top) {
-  Show(kLeft, InUsersUnit(left - BoardOriginX));
-  Show(kTop, InUsersUnit(top - BoardOriginY));
+  Show(kLeftField, InUsersUnit(left - BoardOriginX));
+  Show(kTopField, InUsersUnit(top - BoardOriginY));
 }
 
 void ShowExtentInFields(double width, double height) {
-  Show(kWidth, InUsersUnit(width));
-  Show(kHeight, InUsersUnit(height));
+  Show(kWidthField, InUsersUnit(width));
+  Show(kHeightField, InUsersUnit(height));
 }
 
 bool IsAsShown(int index) {

@@ -11,6 +11,9 @@
 
 namespace tagwright {
 
+// The kinds of source: the rows of cboImportType.
+enum SourceKind : int { kDatabaseSource = 0, kCommaSource = 1, kTabSource = 2 };
+
 // A table as its database describes it.
 struct TableDef {
   std::string Name;

@@ -54,7 +54,7 @@ void SortSelection() {
 void DeleteSelection() {
   if (SelectedObject == -1 && SelectedUpper == -1) return;
   DirtyFlag = kTrue;
-  frmMain.sB1.SetPanelText(3, "");
+  frmMain.sB1.SetPanelText(kSelectionPanel, "");
   Traced(SortSelection);
   SaveUndoDelete();
   Traced(RemoveSelected);

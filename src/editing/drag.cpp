@@ -20,19 +20,14 @@
 #include "editing/track_status.h"
 #include "editing/undo.h"
 #include "forms/frmMain.h"
+#include "platform/controls/outlines.h"
+#include "platform/controls/pointers.h"
 #include "platform/faults/fault.h"
 #include "platform/text/locale.h"
 
 namespace tagwright {
 namespace {
 
-enum BorderStyle : int { kSolid = 1, kDots = 3 };
-enum FrameShape : int { kRectangleFrame = 0, kOvalFrame = 2, kRoundedFrame = 4 };
-
-constexpr int kCustomPointer = 99;
-constexpr int kMovePointer = 5;
-constexpr int kFallingPointer = 8;  // sizing, top left to bottom right
-constexpr int kRisingPointer = 6;
 constexpr double kMoveThreshold = 0.5;  // millimetres on screen below which a drag is a click
 constexpr double kLineThickness = 0.5;  // likewise, of a line's box
 constexpr double kHandleGap = 1.0;
@@ -86,7 +81,7 @@ void SnapFrame() {
 void ShowFrame(int shape) {
   frmMain.shpBox.SetShape(shape);
   frmMain.shpBox.SetVisible(true);
-  frmMain.shpBox.SetBorderStyle(kDots);
+  frmMain.shpBox.SetBorderStyle(kDottedBorder);
 }
 
 void TakePlaceOfFrame(ObjectRecord& object) {
@@ -124,7 +119,7 @@ void ShowFrameBox() {
   const std::string height = InUsersUnit(frmMain.shpBox.Height());
   ShowPlaceInFields(frmMain.shpBox.Left(), frmMain.shpBox.Top());
   ShowExtentInFields(frmMain.shpBox.Width(), frmMain.shpBox.Height());
-  frmMain.sB1.SetPanelText(2, "Width: " + width + " Height: " + height);
+  frmMain.sB1.SetPanelText(kExtentPanel, "Width: " + width + " Height: " + height);
 }
 
 // --- the end of a move --------------------------------------------------------------------------
@@ -259,7 +254,7 @@ void DropHandle() {
   if (IsMeasured(object.ObjType)) ScaleFontByFrame(object);
   TakePlaceOfFrame(object);
   TakeSizeOfFrame(object);
-  frmMain.shpBox.SetBorderStyle(kDots);
+  frmMain.shpBox.SetBorderStyle(kDottedBorder);
   if (IsMeasured(object.ObjType)) {
     FitToFont(object);
   } else {
@@ -331,8 +326,8 @@ void TrackRubberLine(double x, double y) {
 }
 
 int FrameShapeOf(std::int16_t kind) {
-  if (kind == kRoundedRectangle) return kRoundedFrame;
-  return kind == kEllipse ? kOvalFrame : kRectangleFrame;
+  if (kind == kRoundedRectangle) return kRoundedOutline;
+  return kind == kEllipse ? kOvalOutline : kRectangleOutline;
 }
 
 // --- hit areas ----------------------------------------------------------------------------------
@@ -359,7 +354,7 @@ void BeginGroupDrag(int Index, double X, double Y) {
   group_drag = true;
   AnchorX = X / kTwipsPerMillimetre / ZoomFactor;
   AnchorY = Y / kTwipsPerMillimetre / ZoomFactor;
-  ShowFrame(kRectangleFrame);
+  ShowFrame(kRectangleOutline);
   frmMain.SetMousePointer(kMovePointer);
 }
 
@@ -412,7 +407,7 @@ void lblHandle_MouseMove(int Index, int /*Button*/, int /*Shift*/, double X, dou
   }
   if (!Dragging) return;
   HideHandlesOnce();
-  frmMain.shpBox.SetBorderStyle(kSolid);
+  frmMain.shpBox.SetBorderStyle(kSolidBorder);
   Traced([&] { MoveHandle(handle, BoardUnitsX(X), BoardUnitsY(Y)); });
   const BoardPoint corner =
       CornerOfHandle(Index, FrameOf(handle), ScreenX(kHandleGap), ScreenY(kHandleGap));

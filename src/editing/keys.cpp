@@ -5,11 +5,10 @@
 #include "editing/selection.h"
 #include "forms/frmMain.h"
 #include "platform/controls/controls.h"
+#include "platform/controls/keys.h"
 
 namespace tagwright {
 namespace {
-
-constexpr int kDeleteKey = 46;
 
 // All but the one at the bottom right.
 void ShowThreeHandles(bool shown) {

@@ -9,6 +9,7 @@
 #include "editing/panel_stack.h"
 #include "editing/selected_object.h"
 #include "forms/frmMain.h"
+#include "platform/controls/outlines.h"
 #include "platform/faults/fault.h"
 #include "platform/painting/picture.h"
 #include "platform/text/locale.h"
@@ -17,10 +18,7 @@
 namespace tagwright {
 namespace {
 
-constexpr double kFontTop = 290;
-constexpr double kFontLeftOfBarcodes = 8450;
-constexpr double kFontLeftOfTexts = 8950;
-constexpr int kCurrentSample = 6;
+constexpr double kFontLeftOfBarcodes = 8450;  // twips, of a selected one
 constexpr Color kWhite = 0xFFFFFF;
 
 int Ticked(Flag flag) { return flag ? 1 : 0; }
@@ -111,7 +109,7 @@ void ShowTextByItsHold() {
   CarryOn([&] { hold.SetCaption(record.Text.Trimmed()); });
   CarryOn([&] { hold.SetAutoSize(true); });
   hold.SetBackColor(kWhite);
-  hold.SetBackStyle(0);
+  hold.SetBackStyle(kTransparentBack);
   hold.SetVisible(true);
 }
 
@@ -136,8 +134,8 @@ void FillShapePanel() {
   frmMain.picDrawing.ZOrder();
   frmMain.lblFCol(kCurrentSample).SetBackColor(SelectedRecord().ForeColor);
   const Color fill = SelectedRecord().FillColor;
-  frmMain.chkTransparent.SetValue(fill == -1 ? 1 : 0);
-  if (fill != -1) frmMain.lblBCol(kCurrentSample).SetBackColor(fill);
+  frmMain.chkTransparent.SetValue(fill == kNoFill ? 1 : 0);
+  if (fill != kNoFill) frmMain.lblBCol(kCurrentSample).SetBackColor(fill);
   CarryOn([] { frmMain.cboWeight.SetListIndex(SelectedRecord().Param); });
   frmMain.cboFont.SetVisible(false);
 }
@@ -163,7 +161,7 @@ void FillPanelByKind(bool keyboard_to_text) {
 }  // namespace
 
 void FillPanelFromObject(bool keyboard_to_text) {
-  if (CurrentTool > 0) return;
+  if (CurrentTool > kNoTool) return;
   const PanelFilling filling;
   CarryOn([&] { FillPanelByKind(keyboard_to_text); });
   SizeBoxFollowsFontBox();

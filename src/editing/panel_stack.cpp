@@ -6,7 +6,6 @@
 namespace tagwright {
 namespace {
 
-constexpr double kPanelLeft = 50;
 constexpr double kSizeBelowFont = 360;
 
 }  // namespace

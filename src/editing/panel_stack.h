@@ -9,6 +9,10 @@ namespace tagwright {
 // Left 50, top 0, to the front.
 void ShowPanel(PictureBox& panel);
 
+// Where cboFont stands over a panel, twips.
+constexpr double kFontTop = 290;
+constexpr double kFontLeftOfTexts = 8950;
+
 // cboFont to this place (twips), visible and in front; cboSize follows it.
 void ShowFontBoxes(double left, double top);
 

@@ -4,13 +4,8 @@
 #include "forms/frmMain.h"
 
 namespace tagwright {
-namespace {
 
-constexpr std::int16_t kCustomPointer = 99;
-
-}  // namespace
-
-void SetBoardPointer(std::int16_t shape) {
+void SetBoardPointer(PointerCode shape) {
   CursorShape = shape;
   frmMain.SetMousePointer(shape);
 }

@@ -2,19 +2,18 @@
 // the window's MousePointer what shows: off the board an arrow, whatever is armed.
 #pragma once
 
-#include <cstdint>
-
 #include "platform/controls/controls.h"
+#include "platform/controls/pointers.h"
 
 namespace tagwright {
 
-// Both become `shape`, a code of Control::MousePointer.
-void SetBoardPointer(std::int16_t shape);
+// Both become `shape`.
+void SetBoardPointer(PointerCode shape);
 
 // Both become the custom pointer, with the picture that `picture` holds.
 void SetToolPointer(const Image& picture);
 
-// Gives the window the pointer of CursorShape, unless it shows a custom one (99).
+// Gives the window the pointer of CursorShape, unless it shows a custom one.
 void RestorePointer();
 
 }  // namespace tagwright

@@ -8,11 +8,10 @@
 #include "editing/pointer.h"
 #include "editing/selection.h"
 #include "forms/frmMain.h"
+#include "platform/controls/pointers.h"
 
 namespace tagwright {
 namespace {
-
-constexpr std::int16_t kPickPointer = 14;  // arrow and question mark
 
 void CopyProperties(const ObjectRecord& source, int index) {
   ObjectRecord& target = ObjectAt(index);
@@ -48,7 +47,7 @@ void CopyToGroup(const ObjectRecord& source) {
 }  // namespace
 
 void mnuTextCopy_Click() {
-  SetBoardPointer(kPickPointer);
+  SetBoardPointer(kQuestionPointer);
   CopyPropsPending = true;
 }
 
@@ -60,7 +59,7 @@ void PickProperties(int index) {
 }
 
 void EndPropertyPick() {
-  SetBoardPointer(0);
+  SetBoardPointer(kDefaultPointer);
   CopyPropsPending = false;
 }
 

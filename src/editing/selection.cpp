@@ -12,6 +12,7 @@
 #include "editing/panel_stack.h"
 #include "editing/selected_object.h"
 #include "forms/frmMain.h"
+#include "platform/controls/outlines.h"
 #include "platform/faults/fault.h"
 
 namespace tagwright {
@@ -22,7 +23,8 @@ bool selecting_all = false;
 auto Group() { return SelectedList.begin() + SelectedUpper + 1; }
 
 void CountSelected() {
-  frmMain.sB1.SetPanelText(3, "Objects Selected: " + std::to_string(SelectedUpper + 1));
+  frmMain.sB1.SetPanelText(kSelectionPanel,
+                           "Objects Selected: " + std::to_string(SelectedUpper + 1));
 }
 
 bool IsEmptyText(int index) { return IsText(index) && ObjectAt(index).Text.Trimmed().empty(); }
@@ -52,7 +54,7 @@ void TakePlaceOfHold(ObjectRecord& text, const Label& hold) {
 // object would be emptied with it.
 void ReturnToPainter(ObjectRecord& text, Label& hold) {
   EndMeasuring(hold);
-  hold.SetBackStyle(0);
+  hold.SetBackStyle(kTransparentBack);
   TakePlaceOfHold(text, hold);
   SelectedObject = -1;
   frmMain.txtTool.SetText("");
@@ -164,7 +166,7 @@ void DeselectObject() {
   EndGroup();
   if (SelectedObject == -1) return ShowSizeFields();
   LeaveFields();
-  frmMain.sB1.SetPanelText(2, "");
+  frmMain.sB1.SetPanelText(kExtentPanel, "");
   if (IsText(SelectedObject)) CarryOn([] { EndText(SelectedObject); });
   HideHandles();
   SelectedObject = -1;
@@ -222,7 +224,7 @@ void ToggleInSelection(int index) {
 
 void mnuEditSelectAll_Click() {
   if (selecting_all) return;
-  frmMain.sB1.SetPanelText(3, "");
+  frmMain.sB1.SetPanelText(kSelectionPanel, "");
   if (ObjectUB < 0) return;
   LeaveEntryFields();
   RemoveEmptyTexts();

@@ -9,9 +9,6 @@
 namespace tagwright {
 namespace {
 
-constexpr int kCurrentSample = 6;
-constexpr Color kNoFill = -1;
-
 Label& FillSample() { return frmMain.lblBCol(kCurrentSample); }
 Label& OutlineSample() { return frmMain.lblFCol(kCurrentSample); }
 

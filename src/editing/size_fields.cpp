@@ -13,15 +13,11 @@
 #include "editing/object_panels.h"
 #include "editing/selected_object.h"
 #include "forms/frmMain.h"
+#include "platform/controls/pointers.h"
 #include "platform/faults/fault.h"
 
 namespace tagwright {
 namespace {
-
-enum Field { kLeft = 0, kTop = 1, kWidth = 2, kHeight = 3 };
-
-constexpr int kDefaultPointer = 0;
-constexpr int kArrow = 1;
 
 // A barcode that is marked as postal keeps its size. No barcode ever is: its format stands in
 // Param, and FillColor is 0. Postal symbols can be typed over.
@@ -33,14 +29,14 @@ class Entries {
  public:
   explicit Entries(const ObjectRecord& record) : shown_(ShownSizeOf(record)) {}
 
-  bool Has(Field field) const {
+  bool Has(SizeField field) const {
     const std::string& record_says = shown_[static_cast<std::size_t>(field)];
     return !IsAsShown(field) && frmMain.txtDSize(field).Text() != record_says;
   }
 
   // Gives the number to `take` if there is one.
   template <class Take>
-  void Give(Field field, Take&& take) const {
+  void Give(SizeField field, Take&& take) const {
     if (!Has(field)) return;
     CarryOn([&] { take(ToNumber(frmMain.txtDSize(field).Text()) * UnitScale); });
   }
@@ -50,8 +46,8 @@ class Entries {
 };
 
 void TakePlace(const Entries& entries, ObjectRecord& record) {
-  entries.Give(kLeft, [&](double millimetres) { record.Left = ToSingle(millimetres); });
-  entries.Give(kTop, [&](double millimetres) { record.Top = ToSingle(millimetres); });
+  entries.Give(kLeftField, [&](double millimetres) { record.Left = ToSingle(millimetres); });
+  entries.Give(kTopField, [&](double millimetres) { record.Top = ToSingle(millimetres); });
 }
 
 void MoveHoldToPlace() {
@@ -66,21 +62,21 @@ bool IsMarkedAsPostal(const ObjectRecord& record) {
 
 void TakeSize(const Entries& entries, ObjectRecord& record) {
   if (IsMarkedAsPostal(record)) return;
-  entries.Give(kWidth, [&](double millimetres) { record.Width = Finite(millimetres); });
-  entries.Give(kHeight, [&](double millimetres) { record.Height = Finite(millimetres); });
+  entries.Give(kWidthField, [&](double millimetres) { record.Width = Finite(millimetres); });
+  entries.Give(kHeightField, [&](double millimetres) { record.Height = Finite(millimetres); });
 }
 
 // What shows a text keeps its size through redraws, and gives it to the record in the end.
 void SizeHoldOfOpenText(const Entries& entries) {
   if (!IsShownByHold(SelectedObject)) return;
-  if (entries.Has(kWidth)) SelectedHold().SetWidth(SelectedRecord().Width);
-  if (entries.Has(kHeight)) SelectedHold().SetHeight(SelectedRecord().Height);
+  if (entries.Has(kWidthField)) SelectedHold().SetWidth(SelectedRecord().Width);
+  if (entries.Has(kHeightField)) SelectedHold().SetHeight(SelectedRecord().Height);
 }
 
 void TakeEntries() {
   ObjectRecord& record = SelectedRecord();
   const Entries entries(record);
-  const bool moved = entries.Has(kLeft) || entries.Has(kTop);
+  const bool moved = entries.Has(kLeftField) || entries.Has(kTopField);
   TakePlace(entries, record);
   if (moved && IsMeasured(record.ObjType)) CarryOn(MoveHoldToPlace);
   TakeSize(entries, record);
@@ -103,7 +99,7 @@ void txtDSize_GotFocus(int /*Index*/) {
 }
 
 void txtDSize_MouseMove(int Index) {
-  frmMain.txtDSize(Index).SetMousePointer(OneIsSelected() ? kDefaultPointer : kArrow);
+  frmMain.txtDSize(Index).SetMousePointer(OneIsSelected() ? kDefaultPointer : kArrowPointer);
 }
 
 void txtDSize_KeyPress(int Index, int& KeyAscii) {

@@ -126,7 +126,7 @@ void StoreTypedText() {
   record.ObjType = kText;
   hold.SetAutoSize(false);
   TextEntryActive = false;
-  CurrentTool = 0;
+  CurrentTool = kNoTool;
 }
 
 }  // namespace

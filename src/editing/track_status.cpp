@@ -37,8 +37,8 @@ void TrackStatus(const Control& control, double X, double Y) {
   if (frmMain.mnuOptXHair.Checked()) {
     MoveCrossHairs(x, y, board.ScaleWidth(), board.ScaleHeight());
   }
-  frmMain.sB1.SetPanelText(
-      1, "X:" + ShownPlace(x - BoardOriginX) + " - Y:" + ShownPlace(y - BoardOriginY) + UnitName());
+  frmMain.sB1.SetPanelText(kPlacePanel, "X:" + ShownPlace(x - BoardOriginX) +
+                                            " - Y:" + ShownPlace(y - BoardOriginY) + UnitName());
   if (!GestureUnderWay()) ShowSizeFields();
 }
 

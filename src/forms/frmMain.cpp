@@ -1,11 +1,12 @@
 #include "forms/frmMain.h"
 
+#include "platform/controls/outlines.h"
+
 namespace tagwright {
 namespace {
 
 // Lengths in twips. What Form_Resize computes is left at zero here.
 constexpr double kStripHeight = 1860;
-constexpr double kPanelLeft = 50;
 constexpr double kPanelWidth = 13000;
 constexpr double kToolColumnWidth = 1320;
 constexpr double kToolColumnHeight = 3795;
@@ -20,7 +21,6 @@ constexpr double kHandleSize = 105;
 // The one colour of what lies over the label: handles, frames, rules.
 constexpr Color kAccent = Rgb(47, 107, 216);
 constexpr Color kHair = Rgb(120, 150, 205);
-constexpr int kDots = 3;
 
 void DesignMenus(FrmMain& f) {
   f.mnuFileOpen.SetEnabled(true);
@@ -52,7 +52,9 @@ void DesignStrip(FrmMain& f) {
 void DesignTools(FrmMain& f) {
   f.picTools.SetWidth(kToolColumnWidth);
   f.picTools.SetHeight(kToolColumnHeight);
-  constexpr int kOrder[] = {0, 1, 2, 3, 4, 7, 5, 6};  // in two columns, row by row
+  // In two columns, row by row.
+  constexpr int kOrder[] = {kSelectButton,  kBarcodeButton, kPictureButton, kTextButton,
+                            kDrawingButton, kFieldButton,   kZoomInButton,  kZoomOutButton};
   for (int place = 0; place < 8; ++place) {
     const int column = place % 2, row = place / 2;
     f.cmdTools(kOrder[place])
@@ -70,18 +72,18 @@ void DesignBoard(FrmMain& f) {
   f.picBoard.SetBackColor(Rgb(160, 164, 170));
   for (const auto& [index, hold] : f.lblHold) {
     hold->SetVisible(false);
-    hold->SetBackStyle(0);  // a hit area never hides the label under it
+    hold->SetBackStyle(kTransparentBack);  // a hit area never hides the label under it
   }
   for (const auto& [index, handle] : f.lblHandle) {
     handle->SetWidth(kHandleSize);
     handle->SetHeight(kHandleSize);
     handle->SetBackColor(kAccent);
     handle->SetForeColor(Rgb(255, 255, 255));
-    handle->SetBorderStyle(1);
+    handle->SetBorderStyle(kSolidBorder);
     handle->SetVisible(false);
   }
   f.shpBox.SetBorderColor(kAccent);
-  f.shpBox.SetBorderStyle(kDots);
+  f.shpBox.SetBorderStyle(kDottedBorder);
   f.shpLine.SetBorderColor(kAccent);
   f.lnMX.SetBorderColor(kAccent);
   f.lnMY.SetBorderColor(kAccent);
@@ -92,8 +94,8 @@ void DesignBoard(FrmMain& f) {
   f.lnMX.SetVisible(false);
   f.lnMY.SetVisible(false);
   for (ScrollBar* bar : {&f.hS1, &f.vS1}) {
-    bar->SetRange(0, 500);
-    bar->SetValue(250);
+    bar->SetRange(0, kScrollEnd);
+    bar->SetValue(kScrollMiddle);
     bar->SetSteps(5, 50);
   }
 }

@@ -10,6 +10,58 @@
 
 namespace tagwright {
 
+// --- what the numbers of its controls mean ------------------------------------------------------
+
+// cmdTools.
+enum ToolButton : int {
+  kSelectButton = 0,
+  kBarcodeButton = 1,
+  kPictureButton = 2,
+  kTextButton = 3,
+  kDrawingButton = 4,
+  kZoomInButton = 5,
+  kZoomOutButton = 6,
+  kFieldButton = 7,
+};
+
+// txtDSize: the selection's place and size.
+enum SizeField : int { kLeftField = 0, kTopField = 1, kWidthField = 2, kHeightField = 3 };
+
+// txtLabLayout: how the labels of the chosen layout lie on their sheet.
+enum LayoutBox : int {
+  kAcrossBox = 0,  // labels in a row
+  kDownBox = 1,    // labels in a column
+  kLabelWidthBox = 2,
+  kLabelHeightBox = 3,
+  kLeftMarginBox = 4,
+  kTopMarginBox = 5,
+  kHorizGutterBox = 6,
+  kVertGutterBox = 7,
+};
+
+// lblBCol and lblFCol: the palette's greys from white to black, then the colour in force.
+enum PaletteSlot : int { kFirstGrey = 0, kLastGrey = 5, kCurrentSample = 6 };
+
+// lblFName.
+enum SourceCaption : int { kFileCaption = 0, kTableCaption = 1 };
+
+// The panels of sB1.
+enum StatusPanel : int {
+  kPlacePanel = 1,      // of the pointer
+  kExtentPanel = 2,     // of what is drawn or selected
+  kSelectionPanel = 3,  // how many are selected, and what is done to a magnetic rule
+  kNotesPanel = 4,      // why a project was not saved
+};
+
+// The scroll bars: 0 to the end, and the place where the label stands centred.
+constexpr int kScrollEnd = 500;
+constexpr int kScrollMiddle = 250;
+
+// Where the panels of the strip begin, twips.
+constexpr double kPanelLeft = 50;
+
+// --- the window ---------------------------------------------------------------------------------
+
 struct FrmMain : Form {
   FrmMain();
 
@@ -88,8 +140,7 @@ struct FrmMain : Form {
   // --- the strip across the top ---
   PictureBox picFunctions{this, "picFunctions"};  // the strip itself
   ComboBox cboZoom{&picFunctions, "cboZoom"};     // "Zoom": the label's size on screen
-  // Of the selected object, or of what the mouse draws or drags; in the user's unit.
-  ControlArray<TextBox> txtDSize{&picFunctions, "txtDSize", 4};  // 0 left, 1 top, 2 width, 3 height
+  ControlArray<TextBox> txtDSize{&picFunctions, "txtDSize", 4};  // by SizeField, in the user's unit
   CheckBox chkXHair{&picFunctions, "chkXHair"};  // "Cross Hairs": lines through the pointer
   ComboBox cboFont{&picFunctions, "cboFont"};    // "Font"; moves to the panel that needs it
   ComboBox cboSize{&picFunctions, "cboSize"};    // "Size" in points; goes with it
@@ -98,10 +149,8 @@ struct FrmMain : Form {
   PictureBox picProperties{&picFunctions, "picProperties"};   // how labels lie on the sheet
   ComboBox cboLabelLayout{&picProperties, "cboLabelLayout"};  // "Layout" of the sheet
   CommandButton cmdDesLabel{&picProperties, "cmdDesLabel"};   // "Design new Label" (later)
-  // Filled from the layout, which typing here leaves alone: 0 "No. Across", 1 "No. Down", and in
-  // the user's unit 2 "Width", 3 "Height", 4 "Left Margin", 5 "Top Margin", 6 "Horiz. Gutter", 7
-  // "Vert. Gutter".
-  ControlArray<TextBox> txtLabLayout{&picProperties, "txtLabLayout", 8};  // a job goes by them
+  ControlArray<TextBox> txtLabLayout{&picProperties, "txtLabLayout",
+                                     8};  // by LayoutBox; a job goes by them
 
   PictureBox picText{&picFunctions, "picText"};  // the selected text, or the style of the next
   TextBox txtTool{&picText, "txtTool"};          // what the text says, to be typed
@@ -126,9 +175,9 @@ struct FrmMain : Form {
   CommandButton cmdEllipse{&picDrawing, "cmdEllipse"};      // "Ellipse": likewise
   ComboBox cboWeight{&picDrawing, "cboWeight"};             // "Line Weight" in pixels, 0 no outline
   CommandButton cmdColor{&picDrawing, "cmdColor"};          // "Fill Colour": asks for another one
-  ControlArray<Label> lblBCol{&picDrawing, "lblBCol", 7};   // 0 to 5 greys, 6 the fill in force
+  ControlArray<Label> lblBCol{&picDrawing, "lblBCol", 7};   // by PaletteSlot, of the fill
   CommandButton cmdFColor{&picDrawing, "cmdFColor"};       // "Outline Colour": asks for another one
-  ControlArray<Label> lblFCol{&picDrawing, "lblFCol", 7};  // 0 to 5 greys, 6 the outline in force
+  ControlArray<Label> lblFCol{&picDrawing, "lblFCol", 7};  // by PaletteSlot, of the outline
   CheckBox chkTransparent{&picDrawing, "chkTransparent"};  // "Make Transparent": no fill
 
   PictureBox picPicture{&picFunctions, "picPicture"};     // the selected picture, or the next one
@@ -139,7 +188,7 @@ struct FrmMain : Form {
   PictureBox picFields{&picFunctions, "picFields"};         // the data source
   ComboBox cboImportType{&picFields, "cboImportType"};      // "Import File Type"; asks for the file
   CommandButton cmdBrowse{&picFields, "cmdBrowse"};         // "Load File": asks for the file
-  ControlArray<Label> lblFName{&picFields, "lblFName", 2};  // 0 "Filename", 1 "Recordset"
+  ControlArray<Label> lblFName{&picFields, "lblFName", 2};  // by SourceCaption
   Label lblFileName{&picFields, "lblFileName"};     // the file's path; empty without a source
   ComboBox cboRSet{&picFields, "cboRSet"};          // "Recordset": a table of the database
   CheckBox chkFirstRow{&picFields, "chkFirstRow"};  // "First Row contains Field Names"
@@ -169,10 +218,8 @@ struct FrmMain : Form {
   CommandButton cmdToBack{&picTools, "cmdToBack"};        // "Send to Back" (later)
   CommandButton cmdCenterLab{&picTools, "cmdCenterLab"};  // "Align to Centre of Label" (later)
   CommandButton cmdToFront{&picTools, "cmdToFront"};      // "Bring to Front" (later)
-  // 0 "Select Tool", 1 "Generate Barcode", 2 "Insert Picture", 3 "Text Tool", 4 "Drawing Options",
-  // 5 "Zoom In", 6 "Zoom Out", 7 "Import Data". Which panel opens and which tool is armed: see
-  // tools/tool_buttons.cpp.
-  ControlArray<CommandButton> cmdTools{&picTools, "cmdTools", 8};  // pressed while armed
+  ControlArray<CommandButton> cmdTools{&picTools, "cmdTools",
+                                       8};  // by ToolButton; pressed while armed
 
   // --- the zoom flyout ---
   PictureBox picMag{this, "picMag"};  // opens while Zoom In or Zoom Out is held
@@ -197,9 +244,7 @@ struct FrmMain : Form {
   // Stands for the board itself: takes the keyboard away from a field.
   ControlArray<TextBox> txtSetFocus{&picBoard, "txtSetFocus", 1};  // never seen
 
-  // 1 where the pointer is on the label, 2 the size of the selection or of what is drawn, 3 the
-  // zone of the rules or how many objects are selected, 4 notes, such as why a save failed.
-  StatusBar sB1{this, "sB1", 4};  // status bar
+  StatusBar sB1{this, "sB1", 4};  // by StatusPanel
 
   // --- off screen ---
   PictureBox picTemp{this, "picTemp"};   // holds the picture being painted

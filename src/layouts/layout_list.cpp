@@ -66,14 +66,14 @@ void RefillLayoutList() {
 
 void ShowLayout() {
   const LabelLayout layout = ChosenLayout();
-  ShowCount(0, layout.NoAcross);
-  ShowCount(1, layout.NoDown);
-  ShowLength(2, layout.LabelWidth);
-  ShowLength(3, layout.LabelHeight);
-  ShowLength(4, layout.LeftMargin);
-  ShowLength(5, layout.TopMargin);
-  ShowLength(6, layout.HorizGutter);
-  ShowLength(7, layout.VertGutter);
+  ShowCount(kAcrossBox, layout.NoAcross);
+  ShowCount(kDownBox, layout.NoDown);
+  ShowLength(kLabelWidthBox, layout.LabelWidth);
+  ShowLength(kLabelHeightBox, layout.LabelHeight);
+  ShowLength(kLeftMarginBox, layout.LeftMargin);
+  ShowLength(kTopMarginBox, layout.TopMargin);
+  ShowLength(kHorizGutterBox, layout.HorizGutter);
+  ShowLength(kVertGutterBox, layout.VertGutter);
   LabelWidth = layout.LabelWidth;
   LabelHeight = layout.LabelHeight;
   RedrawBoard();

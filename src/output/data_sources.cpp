@@ -93,7 +93,7 @@ void cmdBrowse_Click() {
   const std::string path = frmMain.cd1.FileName;
   CloseSource();
   OpenChosenSource();
-  frmMain.lblFName(1).SetVisible(frmMain.cboRSet.Visible());
+  frmMain.lblFName(kTableCaption).SetVisible(frmMain.cboRSet.Visible());
   frmMain.lblFileName.SetCaption(path);
 }
 

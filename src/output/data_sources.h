@@ -18,9 +18,6 @@
 
 namespace tagwright {
 
-// The kinds of source: the rows of cboImportType.
-enum SourceKind : int { kDatabaseSource = 0, kCommaSource = 1, kTabSource = 2 };
-
 inline std::string FieldSeparator;              // "," or a tab
 inline std::unique_ptr<LineReader> SourceFile;  // the open text source of a print, null none
 

@@ -19,7 +19,7 @@ namespace {
 
 void ShowDatabaseControls() {
   frmMain.cboRSet.SetVisible(true);
-  frmMain.lblFName(1).SetVisible(true);
+  frmMain.lblFName(kTableCaption).SetVisible(true);
   frmMain.chkFirstRow.SetVisible(false);
   frmMain.chkQuote.SetVisible(false);
 }

@@ -22,10 +22,6 @@
 namespace tagwright {
 namespace {
 
-constexpr int kPortrait = 1;
-constexpr int kLetter = 1;
-constexpr int kA4 = 9;
-
 // The whole part of a count, which may be larger than any counter; a negative one is none.
 double Whole(double number) { return std::max(0.0, std::floor(number)); }
 
@@ -49,12 +45,12 @@ struct Job {
 
 double Shown(int box) { return ToNumber(frmMain.txtLabLayout(box).Text()); }
 
-double Across() { return Shown(0); }
-double Down() { return Shown(1); }
-double PitchX() { return Shown(2) + Shown(6); }
-double PitchY() { return Shown(3) + Shown(7); }
-double LeftMargin() { return Shown(4); }
-double TopMargin() { return Shown(5); }
+double Across() { return Shown(kAcrossBox); }
+double Down() { return Shown(kDownBox); }
+double PitchX() { return Shown(kLabelWidthBox) + Shown(kHorizGutterBox); }
+double PitchY() { return Shown(kLabelHeightBox) + Shown(kVertGutterBox); }
+double LeftMargin() { return Shown(kLeftMarginBox); }
+double TopMargin() { return Shown(kTopMarginBox); }
 
 double FirstPage() { return ToNumber(frmMain.txtPrintFrom.Text()); }
 double LastPage() { return ToNumber(frmMain.txtPrintTo.Text()); }
@@ -287,7 +283,8 @@ bool OpenJob() {
 int PaperOfLayout() {
   const int index = frmMain.cboLabelLayout.ListIndex();
   if (index < 0 || index > LabelLayoutTop) RaiseFault(kOutOfBounds);
-  return LabelLayouts[static_cast<std::size_t>(index)].Paper == kPaperA4 ? kA4 : kLetter;
+  return LabelLayouts[static_cast<std::size_t>(index)].Paper == kPaperA4 ? kPrinterA4
+                                                                         : kPrinterLetter;
 }
 
 // Returns why no label was printed; nothing where some were, and where the user or the printer has
@@ -315,7 +312,7 @@ void cmdPrint_Click() {
 
 void PreparePrinter() {
   Traced([] { Printer().Page().Scale().SetScaleMode(kMillimetres); });
-  Traced([] { Printer().SetOrientation(kPortrait); });
+  Traced([] { Printer().SetOrientation(kPrinterPortrait); });
   Traced([] { Printer().SetPaperSize(PaperOfLayout()); });
 }
 

@@ -22,8 +22,8 @@ namespace {
 bool HasDataFile() { return !frmMain.lblFileName.Caption().empty(); }
 
 std::int16_t CellsByCounter() {
-  return ToInt16(ToNumber(frmMain.txtLabLayout(0).Text()) *
-                 ToNumber(frmMain.txtLabLayout(1).Text()));
+  return ToInt16(ToNumber(frmMain.txtLabLayout(kAcrossBox).Text()) *
+                 ToNumber(frmMain.txtLabLayout(kDownBox).Text()));
 }
 
 // Ten times the quotient as text, without its last character: whole pages where the quotient has

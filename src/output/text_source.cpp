@@ -22,7 +22,7 @@ namespace {
 
 void ShowTextControls() {
   frmMain.cboRSet.SetVisible(false);
-  frmMain.lblFName(1).SetVisible(false);
+  frmMain.lblFName(kTableCaption).SetVisible(false);
   frmMain.chkFirstRow.SetVisible(true);
   frmMain.chkQuote.SetVisible(true);
 }

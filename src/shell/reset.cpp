@@ -12,6 +12,7 @@
 #include "layouts/serial_number.h"
 #include "output/data_sources.h"
 #include "platform/controls/event.h"
+#include "platform/controls/pointers.h"
 #include "platform/controls/windows.h"
 #include "platform/painting/printer.h"
 #include "platform/services/desktop.h"
@@ -59,7 +60,7 @@ void ResetProgram() {
   UnloadAll();
   ForgetAfterHandlers(nullptr);
   ForgetDialogFolders();
-  SetScreenMousePointer(0);
+  SetScreenMousePointer(kDefaultPointer);
   ResetPrinter();
   ResetDataSources();
   ResetInstallation();

@@ -16,6 +16,8 @@
 #include "forms/frmSerialNumber.h"
 #include "layouts/label_layouts.h"
 #include "layouts/layout_list.h"
+#include "platform/controls/outlines.h"
+#include "platform/controls/pointers.h"
 #include "platform/controls/windows.h"
 #include "platform/files/files.h"
 #include "platform/painting/printer.h"
@@ -33,7 +35,6 @@ namespace {
 constexpr double kNeverSavedLeft = -1000.033;
 constexpr double kNeverSavedTop = 3900.0;
 constexpr double kFarthestPixel = 32767;
-constexpr int kWaitPointer = 11;
 
 // --- the steps ----------------------------------------------------------------------------------
 
@@ -99,15 +100,6 @@ void PlaceWindow() {
   CarryOn([&] { frmMain.SetHeight(Coordinate(s.WindowHeight)); });
 }
 
-void SetSerialDefaults() {
-  SerialIncrement = 1;
-  SerialPrintText = kTrue;
-  SerialValue = 1001;
-  SerialBarcodeType = kFormatCode128A;
-  SerialBarcodeWidth = 35.0;
-  SerialBarcodeHeight = 15.0;
-}
-
 void SetHelpFile() { HelpFile = AppFolder + "twlabel.chm"; }
 
 void SetUntitledCaption() { frmMain.SetCaption(ProductTitle + " [untitled]"); }
@@ -168,8 +160,8 @@ void SetFullZoom() { ZoomFactor = 1.0; }
 void FillBarcodeList() { FillBarcodeFormats(frmMain.cboBCode); }
 
 void MakeHitAreasTransparent() {
-  frmMain.lblHold(0).SetBackStyle(0);
-  frmMain.lblHold(1).SetBackStyle(0);
+  frmMain.lblHold(0).SetBackStyle(kTransparentBack);
+  frmMain.lblHold(1).SetBackStyle(kTransparentBack);
 }
 
 void ForgetDocument() {
@@ -179,7 +171,7 @@ void ForgetDocument() {
 }
 
 void FillPalette() {
-  for (int i = 0; i <= 5; ++i) {
+  for (int i = kFirstGrey; i <= kLastGrey; ++i) {
     const int grey = 255 - 51 * i;
     frmMain.lblFCol(i).SetBackColor(Rgb(grey, grey, grey));
     frmMain.lblBCol(i).SetBackColor(Rgb(grey, grey, grey));
@@ -192,8 +184,8 @@ void FillWeights() {
 }
 
 void SetColourSamples() {
-  frmMain.lblFCol(6).SetBackColor(Rgb(0, 0, 0));
-  frmMain.lblBCol(6).SetBackColor(Rgb(255, 255, 255));
+  frmMain.lblFCol(kCurrentSample).SetBackColor(Rgb(0, 0, 0));
+  frmMain.lblBCol(kCurrentSample).SetBackColor(Rgb(255, 255, 255));
 }
 
 // A print service that refuses one answer may still give the other.
@@ -218,7 +210,7 @@ void ListFonts() {
   SetScreenMousePointer(kWaitPointer);
   CarryOn([] { frmMain.cboFont.Clear(); });
   CarryOn([] { FillFontList(frmMain.cboFont); });
-  SetScreenMousePointer(0);
+  SetScreenMousePointer(kDefaultPointer);
 }
 
 // The comparison is with the padded field, so that only a name of all 50 characters is ever found:

@@ -6,6 +6,8 @@
 #include "editing/pointer.h"
 #include "forms/frmAbout.h"
 #include "forms/frmMain.h"
+#include "platform/controls/keys.h"
+#include "platform/controls/pointers.h"
 #include "platform/controls/windows.h"
 #include "platform/services/desktop.h"
 #include "tools/tool_buttons.h"
@@ -26,14 +28,7 @@ constexpr int kTicksOfAClick = 2;
 constexpr int kHoldDone = 1000;
 constexpr int kZoomHeld = 101;
 
-constexpr int kZoomInTool = 5;
-constexpr int kZoomOutTool = 6;
-
-constexpr int kEscapeKey = 27;
-constexpr int kDownKey = 40;
-constexpr int kMenuKey = 93;
-
-int flyout_tool = kZoomInTool;  // the button that the flyout belongs to
+int flyout_tool = kZoomInButton;  // the button that the flyout belongs to
 
 const char kWebsite[] = "https://www.tagwright.example/";
 constexpr int kShowNormal = 1;
@@ -80,7 +75,7 @@ void PlaceScrollBarsInTwips() {
 }
 
 void OpenFlyout() {
-  const CommandButton& zoom_in = frmMain.cmdTools(kZoomInTool);
+  const CommandButton& zoom_in = frmMain.cmdTools(kZoomInButton);
   PictureBox& flyout = frmMain.picMag;
   flyout.Move(Right(frmMain.picTools),
               frmMain.picTools.Top() + zoom_in.Top() + zoom_in.Height() / 2);
@@ -90,7 +85,7 @@ void OpenFlyout() {
 
 // Nothing is held then, so neither the hold nor an armed tool is touched.
 bool OpenFlyoutByKey() {
-  for (const int tool : {kZoomInTool, kZoomOutTool}) {
+  for (const int tool : {kZoomInButton, kZoomOutButton}) {
     if (!frmMain.cmdTools(tool).HasFocus()) continue;
     flyout_tool = tool;
     OpenFlyout();
@@ -129,7 +124,7 @@ void ShowWhetherToSave() {
 }
 
 void cmdTools_MouseDown(int Index) {
-  if (Index != kZoomInTool && Index != kZoomOutTool) return;
+  if (Index != kZoomInButton && Index != kZoomOutButton) return;
   flyout_tool = Index;
   HoldTicks = 0;
   frmMain.tmrButtons.SetEnabled(true);
@@ -141,8 +136,8 @@ void cmdTools_MouseUp() { frmMain.tmrButtons.SetEnabled(false); }
 void tmrButtons_Timer() {
   ++HoldTicks;
   if (HoldTicks <= kTicksOfAClick) return;
-  CurrentTool = 0;
-  SetBoardPointer(0);
+  CurrentTool = kNoTool;
+  SetBoardPointer(kDefaultPointer);
   if (HoldKind == kZoomHeld) OpenFlyout();
   HoldTicks = kHoldDone;
   frmMain.tmrButtons.SetEnabled(false);
@@ -154,7 +149,7 @@ void FlyoutKeyDown(int& KeyCode) {
   if (opens || closes) KeyCode = 0;
 }
 
-void ShowPointerOffBoard() { frmMain.SetMousePointer(0); }
+void ShowPointerOffBoard() { frmMain.SetMousePointer(kDefaultPointer); }
 
 void mnuHelpHelp_Click() {
   if (DesktopShowHelp()) DesktopShowHelp()(HelpFile);

@@ -13,6 +13,7 @@
 #include "editing/selection.h"
 #include "editing/track_status.h"
 #include "forms/frmMain.h"
+#include "platform/controls/pointers.h"
 #include "tools/placement.h"
 #include "tools/rule_drag.h"
 
@@ -22,8 +23,8 @@ namespace {
 constexpr double kHairLengths = 5;  // the hairs still span the board after it has grown
 
 void ShowPlace(double X, double Y) {
-  frmMain.sB1.SetPanelText(1, "X: " + InUsersUnit(X - BoardOriginX) +
-                                  " - Y:" + InUsersUnit(Y - BoardOriginY) + UnitName());
+  frmMain.sB1.SetPanelText(kPlacePanel, "X: " + InUsersUnit(X - BoardOriginX) +
+                                            " - Y:" + InUsersUnit(Y - BoardOriginY) + UnitName());
 }
 
 void ShowCrossHairs(double X, double Y) {
@@ -72,7 +73,7 @@ void picBoard_MouseUp(int /*Button*/, int /*Shift*/, double X, double Y) {
   if (RubberBox) Traced(PlaceObject);
   if (RubberLine) Traced(PlaceObject);
   if (CurrentTool == kDataField) Traced([&] { PlaceFieldAt(X, Y); });
-  if (CurrentTool == kText) SetBoardPointer(0);
+  if (CurrentTool == kText) SetBoardPointer(kDefaultPointer);
 }
 
 }  // namespace tagwright

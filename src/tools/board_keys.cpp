@@ -10,17 +10,13 @@
 #include "editing/property_pick.h"
 #include "editing/selection.h"
 #include "forms/frmMain.h"
+#include "platform/controls/keys.h"
 #include "tools/hold_mouse.h"
 #include "tools/placement.h"
 #include "tools/placement_arithmetic.h"
 
 namespace tagwright {
 namespace {
-
-constexpr int kReturnKey = 13;
-constexpr int kEscapeKey = 27;
-constexpr int kPageUpKey = 33;
-constexpr int kPageDownKey = 34;
 
 // A field keeps its keys. Where nothing has the keyboard, since a field with it was hidden, the
 // board is as good as any.

@@ -9,6 +9,7 @@
 #include "document/shown_size.h"
 #include "editing/selected_object.h"
 #include "forms/frmMain.h"
+#include "platform/controls/keys.h"
 #include "platform/controls/windows.h"
 #include "platform/faults/fault.h"
 #include "platform/services/dialogs.h"
@@ -16,9 +17,6 @@
 
 namespace tagwright {
 namespace {
-
-constexpr int kMenuKey = 93;
-constexpr int kF10Key = 121;
 
 std::int16_t KindOfEntry(int index) {
   switch (index) {

@@ -125,8 +125,9 @@ void ShowFont(const ObjectRecord& object) {
 }
 
 void ShowHoldSize(const Label& hold) {
-  frmMain.sB1.SetPanelText(2, "Width: " + FormatFixed(hold.Width() / UnitScale, 1) +
-                                  " Height: " + FormatFixed(hold.Height() / UnitScale, 1));
+  frmMain.sB1.SetPanelText(kExtentPanel,
+                           "Width: " + FormatFixed(hold.Width() / UnitScale, 1) +
+                               " Height: " + FormatFixed(hold.Height() / UnitScale, 1));
 }
 
 void ShowObject(int index) {
@@ -192,7 +193,7 @@ void lblHold_MouseDown(int Index, int Button, int /*Shift*/, double X, double Y)
   EndPropertyPick();
   if (Index > ObjectUB) return HideStaleHold(Index);
   TextEntryActive = false;
-  frmMain.sB1.SetPanelText(3, "");
+  frmMain.sB1.SetPanelText(kSelectionPanel, "");
   if (ModifierHeld) return EditGroup(Index);
   if (!InGroup(Index)) EndGroup();
   if (SelectedUpper < 0) return SelectOne(Index, Button, X, Y);

@@ -8,6 +8,7 @@
 #include "editing/object_panels.h"
 #include "editing/pointer.h"
 #include "forms/frmMain.h"
+#include "platform/controls/pointers.h"
 #include "platform/faults/fault.h"
 #include "platform/text/locale.h"
 #include "tools/font_box.h"
@@ -43,8 +44,8 @@ void SelectStyleOfLastField() {
 // end.
 void mnuFileImport_Click() {
   if (TextEditOpen) KeyboardToBoard();
-  CurrentTool = 0;
-  SetBoardPointer(0);
+  CurrentTool = kNoTool;
+  SetBoardPointer(kDefaultPointer);
   ShowPanel(frmMain.picFields);
   SelectStyleOfLastField();
   ShowFontBoxes(9840, 600);

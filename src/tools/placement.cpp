@@ -17,6 +17,8 @@
 #include "editing/selected_object.h"
 #include "editing/selection.h"
 #include "forms/frmMain.h"
+#include "platform/controls/outlines.h"
+#include "platform/controls/pointers.h"
 #include "platform/faults/fault.h"
 #include "platform/painting/picture.h"
 #include "platform/services/dialogs.h"
@@ -27,14 +29,6 @@
 
 namespace tagwright {
 namespace {
-
-constexpr int kRectangleShape = 0;
-constexpr int kOvalShape = 2;
-constexpr int kRoundedShape = 4;
-constexpr int kDots = 3;  // border style
-constexpr int kCurrentSample = 6;
-constexpr Color kNoFill = -1;
-constexpr std::int16_t kCross = 2;  // pointer
 
 const char kPictureFilter[] = "All Picture Formats |*.jpg;*.jpeg;*.wmf;*.gif";
 
@@ -105,7 +99,7 @@ void AnchorBox(double X, double Y) {
   ShowAnchor();
   frmMain.shpBox.Move(AnchorX, AnchorY, 0, 0);
   frmMain.shpBox.SetVisible(true);
-  frmMain.shpBox.SetBorderStyle(kDots);
+  frmMain.shpBox.SetBorderStyle(kDottedBorder);
 }
 
 // The line's own y is the pointer's and not the snapped one.
@@ -159,11 +153,11 @@ void UsePanelFont() {
 }
 
 void EndGesture() {
-  SetBoardPointer(0);
+  SetBoardPointer(kDefaultPointer);
   DirtyFlag = kTrue;
   RubberBox = kFalse;
   RubberLine = kFalse;
-  frmMain.shpBox.SetBorderStyle(kDots);
+  frmMain.shpBox.SetBorderStyle(kDottedBorder);
   frmMain.shpLine.SetVisible(false);
 }
 
@@ -248,7 +242,7 @@ bool FillText() {
   NewHold().SetFontName(frmMain.cboFont.Text());
   NewHold().SetFontSize(PanelFontSize());
   frmMain.txtTool.SetText("");
-  SetBoardPointer(0);
+  SetBoardPointer(kDefaultPointer);
   return true;
 }
 
@@ -307,7 +301,7 @@ bool PlaceField() {
   RedrawBoard();
   HideHandles();
   CurrentTool = kNoTool;
-  frmMain.SetMousePointer(0);
+  frmMain.SetMousePointer(kDefaultPointer);
   return false;
 }
 
@@ -420,11 +414,11 @@ void StartTool(double X, double Y) {
     case kRectangle:
     case kZoomIn:
     case kZoomOut:
-      return BeginBox(kRectangleShape);
+      return BeginBox(kRectangleOutline);
     case kRoundedRectangle:
-      return BeginBox(kRoundedShape);
+      return BeginBox(kRoundedOutline);
     case kEllipse:
-      return BeginBox(kOvalShape);
+      return BeginBox(kOvalOutline);
     case kLine:
       return BeginLine();
     case kText:
@@ -473,11 +467,11 @@ void CreateTextObject() {
   NewHold().SetCaption("|");
   SetBoxExtent({NewRecord().Width, NewRecord().Height});
   EmptyTextBox();
-  frmMain.shpBox.SetShape(kRectangleShape);
+  frmMain.shpBox.SetShape(kRectangleOutline);
   ShowHandles(NewHold());
   CarryOn([] { frmMain.txtTool.SetFocus(); });
   CurrentTool = kNoTool;
-  CursorShape = 0;
+  CursorShape = kDefaultPointer;
   ShowSizeFields();
 }
 
@@ -492,12 +486,12 @@ void InsertPicture() {
   PicturePath = dialog.FileName;
   frmMain.lblGraphicFName.SetCaption(PicturePath);
   CarryOn([] { ShowPictureSize(PicturePath); });
-  CursorShape = kCross;
+  CursorShape = kCrossPointer;
 }
 
 void Disarm() {
   CurrentTool = kNoTool;
-  SetBoardPointer(0);
+  SetBoardPointer(kDefaultPointer);
   if (!RubberBox && !RubberLine) return;
   RubberBox = kFalse;
   RubberLine = kFalse;

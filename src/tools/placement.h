@@ -9,9 +9,6 @@
 
 namespace tagwright {
 
-// What CurrentTool holds beside the kinds of objects.
-enum Tool : std::int16_t { kNoTool = 0, kZoomIn = 30, kZoomOut = 31 };
-
 // Full path of the picture chosen by InsertPicture, waiting for its placement.
 inline std::string PicturePath;
 

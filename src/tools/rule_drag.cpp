@@ -18,7 +18,7 @@ constexpr double kNear = 0.5;      // board units to either side of a rule that 
 constexpr double kRemoved = -1.0;  // a rule's place
 
 bool StandsAt(const LineControl& line, double rule, double place) {
-  return CurrentTool == 0 && line.Visible() && rule - kNear < place && place < rule + kNear;
+  return CurrentTool == kNoTool && line.Visible() && rule - kNear < place && place < rule + kNear;
 }
 
 // The figure in inches is the program's own, not the length of the zone.
@@ -41,7 +41,7 @@ void DragRuleY(double Y) {
 void PutRule(LineControl& line, double& place, double at, bool removed) {
   place = removed ? kRemoved : at;
   line.SetVisible(!removed);
-  if (removed) frmMain.sB1.SetPanelText(3, "");
+  if (removed) frmMain.sB1.SetPanelText(kSelectionPanel, "");
 }
 
 }  // namespace
@@ -50,7 +50,7 @@ bool GrabRules(double X, double Y) {
   DraggingRuleX = X < BoardUnitsX(kStrip) || StandsAt(frmMain.lnMX, MagRuleX + BoardOriginX, X);
   DraggingRuleY = Y < BoardUnitsY(kStrip) || StandsAt(frmMain.lnMY, MagRuleY + BoardOriginY, Y);
   if (!DraggingRuleX && !DraggingRuleY) return false;
-  frmMain.sB1.SetPanelText(3, "Magnetic Rule - Zone: " + ZoneText());
+  frmMain.sB1.SetPanelText(kSelectionPanel, "Magnetic Rule - Zone: " + ZoneText());
   return true;
 }
 

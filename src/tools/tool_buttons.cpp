@@ -8,6 +8,7 @@
 #include "editing/pointer.h"
 #include "editing/selection.h"
 #include "forms/frmMain.h"
+#include "platform/controls/pointers.h"
 #include "platform/faults/fault.h"
 #include "platform/text/locale.h"
 #include "tools/font_box.h"
@@ -17,11 +18,7 @@ namespace tagwright {
 namespace {
 
 constexpr int kHoldIsOver = 100;
-constexpr double kFontTop = 290;
-constexpr double kFontLeftOfBarcodes = 7250;
-constexpr double kFontLeftOfTexts = 8950;
-constexpr std::int16_t kCross = 2;  // pointers
-constexpr std::int16_t kIBeam = 3;
+constexpr double kFontLeftOfBarcodes = 7250;  // twips, of a new one
 
 void Arm(std::int16_t tool, std::int16_t pointer) {
   CurrentTool = tool;
@@ -44,7 +41,7 @@ void SelectDefaultFont(double size) {
 // --- one tool after the other ---
 
 void SelectTool() {
-  Arm(kNoTool, 0);
+  Arm(kNoTool, kDefaultPointer);
   ShowPanel(frmMain.picProperties);
   frmMain.cboFont.SetVisible(false);
 }
@@ -83,7 +80,7 @@ void TextTool() {
   ShowFontBoxes(kFontLeftOfTexts, kFontTop);
   const ObjectRecord* last = LastOf(kText);
   last ? TakeStyleOfText(*last) : SelectDefaultFont(ProgSettings.DefaultFontSize);
-  Arm(kText, kIBeam);
+  Arm(kText, kIBeamPointer);
 }
 
 void DrawingTools() {
@@ -103,25 +100,27 @@ void ZoomInTool() {
 
 // The release that ends a hold raises the button's click as any release does. It must not arm the
 // tool that the flyout has just replaced.
-bool HoldHasEnded(int index) { return (index == 5 || index == 6) && HoldTicks > kHoldIsOver; }
+bool HoldHasEnded(int index) {
+  return (index == kZoomInButton || index == kZoomOutButton) && HoldTicks > kHoldIsOver;
+}
 
 void RunTool(int index) {
   switch (index) {
-    case 0:
+    case kSelectButton:
       return SelectTool();
-    case 1:
+    case kBarcodeButton:
       return BarcodeTool();
-    case 2:
+    case kPictureButton:
       return PictureTool();
-    case 3:
+    case kTextButton:
       return TextTool();
-    case 4:
+    case kDrawingButton:
       return DrawingTools();
-    case 5:
+    case kZoomInButton:
       return ZoomInTool();
-    case 6:
+    case kZoomOutButton:
       return ZoomTool(kZoomOut, frmMain.Image4);
-    case 7:
+    case kFieldButton:
       return frmMain.mnuFileImport.Press();
     default:
       return;
@@ -132,22 +131,22 @@ void RunTool(int index) {
 int ColumnButtonOf(std::int16_t tool) {
   switch (tool) {
     case kBarcode:
-      return 1;
+      return kBarcodeButton;
     case kPicture:
-      return 2;
+      return kPictureButton;
     case kText:
-      return 3;
+      return kTextButton;
     case kLine:
     case kRectangle:
     case kRoundedRectangle:
     case kEllipse:
-      return 4;
+      return kDrawingButton;
     case kZoomIn:
-      return 5;
+      return kZoomInButton;
     case kZoomOut:
-      return 6;
+      return kZoomOutButton;
     case kDataField:
-      return 7;
+      return kFieldButton;
     default:
       return -1;
   }
@@ -163,10 +162,10 @@ void cmdTools_Click(int Index) {
   frmMain.picMag.SetVisible(false);
 }
 
-void cmdLine_Click() { Arm(kLine, kCross); }
-void cmdRect_Click() { Arm(kRectangle, kCross); }
-void cmdRoundRect_Click() { Arm(kRoundedRectangle, kCross); }
-void cmdEllipse_Click() { Arm(kEllipse, kCross); }
+void cmdLine_Click() { Arm(kLine, kCrossPointer); }
+void cmdRect_Click() { Arm(kRectangle, kCrossPointer); }
+void cmdRoundRect_Click() { Arm(kRoundedRectangle, kCrossPointer); }
+void cmdEllipse_Click() { Arm(kEllipse, kCrossPointer); }
 
 // Shapes and columns have their buttons on a panel, which may lie behind another one: the button
 // that opens it shows them too.

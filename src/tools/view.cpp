@@ -14,6 +14,7 @@
 #include "editing/selection.h"
 #include "forms/frmMain.h"
 #include "layouts/layout_list.h"
+#include "platform/controls/pointers.h"
 #include "platform/text/locale.h"
 #include "platform/text/text.h"
 
@@ -158,7 +159,7 @@ void cboZoom_Click() {
   ScaleBoardToZoom();
   DrawOnBoard();
   TextIsSelected() ? RedrawWithSelectedText() : RedrawWithSelection();
-  SetBoardPointer(0);
+  SetBoardPointer(kDefaultPointer);
 }
 
 void cmdMagnify_Click(int Index) {

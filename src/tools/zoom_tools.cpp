@@ -7,14 +7,13 @@
 #include "editing/drag.h"
 #include "editing/pointer.h"
 #include "forms/frmMain.h"
+#include "platform/controls/pointers.h"
 #include "tools/placement.h"
 #include "tools/placement_arithmetic.h"
 #include "tools/view.h"
 
 namespace tagwright {
 namespace {
-
-constexpr std::int16_t kCustomPointer = 99;
 
 double LastRowZoom() {
   const ComboBox& list = frmMain.cboZoom;

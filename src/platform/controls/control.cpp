@@ -2,6 +2,7 @@
 #include <utility>
 
 #include "platform/controls/controls.h"
+#include "platform/controls/pointers.h"
 
 namespace tagwright {
 namespace {
@@ -142,8 +143,7 @@ void Control::SetSpokenName(std::string value) {
 
 void Control::SetMousePointer(int value) {
   constexpr int kLastPointer = 15;
-  constexpr int kIconPointer = 99;
-  if ((value < 0 || value > kLastPointer) && value != kIconPointer) RaiseFault(kBadValue);
+  if ((value < 0 || value > kLastPointer) && value != kCustomPointer) RaiseFault(kBadValue);
   if (value == pointer_) return;
   pointer_ = value;
   Notify(Aspect::kLook);

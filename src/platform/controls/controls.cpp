@@ -11,8 +11,6 @@
 namespace tagwright {
 namespace {
 
-constexpr double kTwipsPerPoint = 20;
-
 void CheckRange(int value, int low, int high) {
   if (value < low || value > high) RaiseFault(kBadValue);
 }

@@ -8,6 +8,7 @@
 
 #include "platform/files/bytes.h"
 #include "platform/painting/fonts.h"
+#include "platform/painting/scale.h"
 #include "platform/text/text.h"
 
 namespace tagwright {
@@ -23,7 +24,6 @@ constexpr int kCreateFont = 0x02FB;
 constexpr int kRectangle = 0x041B;
 constexpr int kRectangleWords = 7;
 constexpr int kUnitsPerInch = 96;  // of a window that names none
-constexpr double kHundredthsPerInch = 2540;
 
 // A rectangle of a header or a window, in the units of the drawing.
 struct Frame {

@@ -18,7 +18,6 @@ constexpr std::int64_t kLargestFile = std::int64_t{256} * 1024 * 1024;
 // What is kept at most, counted in pixels of the screen, of which a decoded one takes four bytes.
 constexpr double kMostKept = 32e6;
 constexpr std::ptrdiff_t kMostPictures = 256;
-constexpr double kHundredthsPerPixel = 2540.0 / 96;
 
 PictureReader reader_in_force = nullptr;
 

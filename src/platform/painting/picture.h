@@ -5,13 +5,18 @@
 #include <string>
 #include <string_view>
 
+#include "platform/painting/scale.h"
+
 namespace tagwright {
+
+// Natural size of a raster picture's pixel, hundredths of a millimetre.
+constexpr double kHundredthsPerPixel = kHundredthsPerInch / kScreenPixelsPerInch;
 
 // A loaded picture. Immutable; the surfaces of the same platform know how to paint it.
 class Picture {
  public:
   virtual ~Picture() = default;
-  // Natural size in hundredths of a millimetre. A raster picture counts 2540 / 96 a pixel, whatever
+  // Natural size in hundredths of a millimetre. A raster picture counts its pixels, whatever
   // resolution its file names; a metafile has the size of its placeable header, or without one the
   // window it draws into at 96 units an inch, or 100 mm on its longer side where it names none.
   double Width = 0;

@@ -9,6 +9,9 @@
 
 namespace tagwright {
 
+enum PaperTurn : int { kPrinterPortrait = 1, kPrinterLandscape = 2 };
+enum PaperSizeCode : int { kPrinterLetter = 1, kPrinterA4 = 9 };
+
 // One printer. Its surface is a page of the chosen paper; the page opens with the first thing
 // painted. Lengths in twips.
 class PrinterDevice {
@@ -16,9 +19,9 @@ class PrinterDevice {
   virtual ~PrinterDevice() = default;
   virtual std::string DeviceName() const = 0;
   virtual Surface& Page() = 0;
-  virtual int Orientation() const = 0;         // 1 portrait, 2 landscape
+  virtual int Orientation() const = 0;         // a PaperTurn
   virtual void SetOrientation(int value) = 0;  // faults 380 for other values
-  virtual int PaperSize() const = 0;           // 1 Letter, 9 A4
+  virtual int PaperSize() const = 0;           // a PaperSizeCode
   virtual void SetPaperSize(int value) = 0;    // faults 380 for other values
   virtual double Width() const = 0;            // of the paper
   virtual double Height() const = 0;

@@ -4,11 +4,6 @@
 #include <iterator>
 
 namespace tagwright {
-namespace {
-
-constexpr double kPointsPerInch = 72;
-
-}  // namespace
 
 const Painted::Details& Painted::Own() const {
   static const Details kNone;

@@ -43,9 +43,9 @@ struct Painted {
 
 class RecordingSurface : public Surface {
  public:
-  // A page or board of this size; screens have 96 pixels an inch.
+  // A page or board of this size.
   explicit RecordingSurface(double width_twips = 12000, double height_twips = 9000,
-                            double pixels_per_inch = 96);
+                            double pixels_per_inch = kScreenPixelsPerInch);
 
   std::vector<Painted> painted;  // in painting order; Cls adds a kClear and keeps what was before
 

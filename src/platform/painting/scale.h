@@ -8,6 +8,10 @@ enum ScaleCode : int { kUserScale = 0, kTwips = 1, kPixels = 3, kMillimetres = 6
 
 constexpr double kTwipsPerInch = 1440.0;
 constexpr double kMillimetresPerInch = 25.4;
+constexpr double kHundredthsPerInch = 2540;  // of a millimetre: the natural sizes of pictures
+constexpr double kPointsPerInch = 72;
+constexpr double kTwipsPerPoint = kTwipsPerInch / kPointsPerInch;
+constexpr double kScreenPixelsPerInch = 96;
 constexpr double kTwipsPerMillimetre = kTwipsPerInch / kMillimetresPerInch;
 constexpr double kTwipsPerPixel = 15.0;  // one logical screen pixel
 
@@ -16,8 +20,9 @@ constexpr double kTwipsPerPixel = 15.0;  // one logical screen pixel
 // unit stretches when the area is resized.
 class ScaleSpace {
  public:
-  // Size in twips; `pixels_per_inch` of the device (96 on a screen, the queue's on a printer).
-  ScaleSpace(double width_twips = 0, double height_twips = 0, double pixels_per_inch = 96);
+  // Size in twips; `pixels_per_inch` of the device (on a printer the queue's).
+  ScaleSpace(double width_twips = 0, double height_twips = 0,
+             double pixels_per_inch = kScreenPixelsPerInch);
 
   double WidthTwips() const { return width_twips_; }
   double HeightTwips() const { return height_twips_; }

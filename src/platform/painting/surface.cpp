@@ -6,9 +6,6 @@
 namespace tagwright {
 namespace {
 
-constexpr double kTwipsPerPoint = 20;
-constexpr double kPointsPerInch = 72;
-
 // Records come from files, and a file can hold anything: what lies nowhere is not painted.
 template <class... Doubles>
 bool AreFinite(Doubles... values) {

@@ -17,12 +17,11 @@
 #include <utility>
 #include <vector>
 
+#include "platform/painting/scale.h"
 #include "qt/look/colors.h"
 
 namespace tagwright {
 namespace {
-
-constexpr double kPointsPerInch = 72;
 
 // Enough for every text and size of a large label at one zoom; beyond, the past is forgotten whole.
 constexpr std::size_t kShapesKept = 8192;

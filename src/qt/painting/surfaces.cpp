@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/painting/scale.h"
 #include "qt/pictures/pictures.h"
 
 namespace tagwright {
@@ -11,7 +12,6 @@ namespace {
 constexpr int kLargestSide = 20000;   // image pixels; beyond lies a wrong number, not a picture
 constexpr double kFarthest = 1e6;     // pixels; the toolkit counts in integers beneath
 constexpr double kTallestText = 2e4;  // pixels; a glyph larger than every page says nothing
-constexpr double kPointsPerInch = 72;
 constexpr std::size_t kPicturesStored = 32;
 constexpr double kFarthestOnPage = 2e7;  // painter's units, of which text takes 64ths
 constexpr std::size_t kBoxesAtOnce = 4096;

@@ -16,6 +16,7 @@
 #include <utility>
 
 #include "platform/painting/metafile_records.h"
+#include "platform/painting/scale.h"
 #include "platform/text/text.h"
 #include "qt/fonts/fonts.h"
 #include "qt/pictures/pictures.h"
@@ -384,7 +385,6 @@ void PrepareTextBox(QPainter& painter, const wmfDrawText_t& draw) {
 
 void DrawText(wmfAPI* api, wmfDrawText_t* draw) {
   if (!PainterOf(api) || !draw->str) return;
-  constexpr double kPointsPerInch = 72;
   QPainter& painter = *PainterOf(api);
   const MadeFont& font = FontOf(api, draw->dc->font);
   const std::string text = TextOf(font, draw->str);

@@ -14,7 +14,6 @@
 namespace tagwright {
 namespace {
 
-constexpr double kHundredthsPerPixel = 2540.0 / 96;
 constexpr int kLargestSide = 30000;               // pixels
 constexpr std::int64_t kMostPixels = 64'000'000;  // 256 MB once decoded, the toolkit's own limit
 constexpr double kShrinkByAverage = 2;
