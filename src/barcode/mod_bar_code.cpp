@@ -129,7 +129,7 @@ int DigitSum(std::string_view pattern) {
 
 std::int16_t SumPatterns(const Patterns& patterns) {
   std::int64_t sum = 0;
-  for (const std::string_view pattern : patterns) sum += DigitSum(pattern);
+  for (const std::string_view pattern : patterns) sum += SumPattern(pattern);
   return sum <= INT16_MAX ? static_cast<std::int16_t>(sum) : SumAsFarAsItGoes(patterns);
 }
 
@@ -177,7 +177,10 @@ void PaintPatterns(const Patterns& patterns) {
   for (const std::string_view pattern : patterns) PaintPattern(pattern);
 }
 
-std::int16_t SumPattern(std::string_view Pattern) { return SumPatterns({Pattern}); }
+std::int16_t SumPattern(std::string_view Pattern) {
+  const int sum = DigitSum(Pattern);
+  return sum <= INT16_MAX ? static_cast<std::int16_t>(sum) : SumAsFarAsItGoes({Pattern});
+}
 
 void MeasureModule(const Patterns& patterns, double Width, std::size_t gaps) {
   PatternSum = SumPatterns(patterns);

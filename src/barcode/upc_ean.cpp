@@ -106,17 +106,12 @@ void PrintFirstDigit(std::string_view data, float x, float y) {
   EngineTraced([&] { CursorX = ToSingle(CursorX + Target().TextWidth(digit) + kFirstDigitGap); });
 }
 
-void PaintGuard(std::string_view pattern) {
-  const double digits = BarHeight;
-  BarHeight = digits + kGuardLonger;
-  PaintPattern(pattern);
-  BarHeight = digits;
-}
+UpcEanElement Guard(int kind) { return {true, GuardPattern(kind), ' ', kind}; }
 
 void PaintElements(const std::vector<UpcEanElement>& elements) {
   for (const UpcEanElement& element : elements) {
     if (element.guard) {
-      PaintGuard(element.pattern);
+      DrawGuard(element.kind);
     } else {
       PaintPattern(element.pattern, {&element.digit, 1});
     }
@@ -135,7 +130,12 @@ std::string_view DigitPatternEven(int Digit, bool LeadingSpace) {
 
 std::string_view GuardPattern(int Kind) { return kGuards[static_cast<std::size_t>(Kind)]; }
 
-void DrawGuard(int Kind) { PaintGuard(GuardPattern(Kind)); }
+void DrawGuard(int Kind) {
+  const double digits = BarHeight;
+  BarHeight = digits + kGuardLonger;
+  PaintPattern(GuardPattern(Kind));
+  BarHeight = digits;
+}
 
 char UpcEanCheckDigit(std::string_view Data, std::int16_t Format) {
   int weight = Format == kFormatUpcA ? 3 : 1, sum = 0;
@@ -150,9 +150,9 @@ std::vector<UpcEanElement> UpcEanElements(std::string_view Data, std::int16_t Fo
   const int length = static_cast<int>(Data.size()), centre = CentrePosition(length, Format);
   std::vector<UpcEanElement> elements;
   elements.reserve(Data.size() + 3);
-  elements.push_back({true, GuardPattern(0), ' '});
+  elements.push_back(Guard(0));
   for (int i = Format == kFormatEan13 ? 2 : 1; i <= length; ++i) {
-    if (i == centre) elements.push_back({true, GuardPattern(1), ' '});
+    if (i == centre) elements.push_back(Guard(1));
     const char digit = Data[static_cast<std::size_t>(i - 1)];
     const bool with_space = i < centre;
     elements.push_back({false,
@@ -160,7 +160,7 @@ std::vector<UpcEanElement> UpcEanElements(std::string_view Data, std::int16_t Fo
                                                        : DigitPatternEven(digit - '0', with_space),
                         digit});
   }
-  elements.push_back({true, GuardPattern(Format == kFormatUpcE ? 2 : 0), ' '});
+  elements.push_back(Guard(Format == kFormatUpcE ? 2 : 0));
   return elements;
 }
 

@@ -13,6 +13,7 @@ struct UpcEanElement {
   bool guard = false;
   std::string_view pattern;
   char digit = ' ';
+  int kind = 0;  // of a guard
 };
 
 // The four widths of a digit, with a "0" in front when it begins with a space. `Digit` is 0 to 9.

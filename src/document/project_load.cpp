@@ -191,9 +191,7 @@ void RemovePicture(int index, std::set<std::string>& told) {
     MessageBox("The file " + path +
                " referenced in this project does not exist and will be removed");
   }
-  SelectedObject = static_cast<std::int16_t>(index);
   RemoveRecord(index);
-  SelectedObject = -1;
 }
 
 void RemoveMissingPictures() {

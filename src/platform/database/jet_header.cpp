@@ -17,12 +17,11 @@ namespace {
 constexpr std::string_view kFormatName{"\0\1\0\0Standard Jet DB\0", 20};
 constexpr std::size_t kVersion = 0x14;
 constexpr std::size_t kMasked = 0x18;
-constexpr std::size_t kMaskedBytes3 = 126;
-constexpr std::size_t kMaskedBytes4 = 128;
 constexpr std::size_t kPassword = 0x42;
 constexpr std::size_t kPasswordBytes3 = 20;
 constexpr std::size_t kPasswordBytes4 = 40;
 constexpr std::size_t kCreated = 0x72;
+constexpr std::size_t kMaskedBytes = kCreated + sizeof(double) - kMasked;  // as far as we read
 
 // Applies the stream cipher RC4 under the header's fixed key.
 void Unmask(std::string& bytes, std::size_t start, std::size_t count) {
@@ -80,7 +79,7 @@ std::optional<JetHeader> ReadJetHeader(std::string_view bytes) {
   const int version = 3 + static_cast<unsigned char>(bytes[kVersion]);
   if (version > 4) return std::nullopt;
   std::string header(bytes.substr(0, kJetHeaderBytes));
-  Unmask(header, kMasked, version == 3 ? kMaskedBytes3 : kMaskedBytes4);
+  Unmask(header, kMasked, kMaskedBytes);
   std::string password = header.substr(kPassword, version == 3 ? kPasswordBytes3 : kPasswordBytes4);
   if (version == 4) UnmaskByDate(password, DoubleAt(header, kCreated));
   return JetHeader{version, WithoutZerosAtEnd(password)};
