@@ -16,29 +16,16 @@ void MarkerTail(const Fault& fault);
 // file found is the same.
 void EngineMarkerTail(const Fault& fault);
 
-// Runs `statement`; a fault in it ends it, goes through the marker tail and is passed over. Returns
-// whether it ran to its end. What the statement would have set keeps its old value.
+// Carries on after a fault in `statement`, which goes through the marker tail.
 template <class Statement>
 bool Traced(Statement&& statement) {
-  try {
-    std::forward<Statement>(statement)();
-    return true;
-  } catch (const Fault& fault) {
-    MarkerTail(fault);
-    return false;
-  }
+  return CarryOn(std::forward<Statement>(statement), MarkerTail);
 }
 
 // The same for the routines of the barcode engine.
 template <class Statement>
 bool EngineTraced(Statement&& statement) {
-  try {
-    std::forward<Statement>(statement)();
-    return true;
-  } catch (const Fault& fault) {
-    EngineMarkerTail(fault);
-    return false;
-  }
+  return CarryOn(std::forward<Statement>(statement), EngineMarkerTail);
 }
 
 }  // namespace tagwright

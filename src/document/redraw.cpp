@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <string>
+#include <utility>
 
 #include "common/arithmetic.h"
 #include "common/diagnostics.h"
@@ -45,12 +46,10 @@ struct PixelBox {
 // caller; any other fault is traced and passed over.
 template <class Statement>
 void Step(Statement&& statement) {
-  try {
-    statement();
-  } catch (const Fault& fault) {
+  CarryOn(std::forward<Statement>(statement), [](const Fault& fault) {
     if (fault.number == kBadPicture) throw;
     MarkerTail(fault);
-  }
+  });
 }
 
 // --- before the objects -------------------------------------------------------------------------

@@ -48,16 +48,24 @@ struct Fault {
 // The stock description of `number`; "Application-defined fault" for one that has none.
 std::string FaultDescription(int number);
 
-// Runs `statement`; a fault in it ends it and is passed over. Returns whether it ran to its end.
-// This is the program's skip-and-continue: what the statement would have set keeps its old value.
-template <class Statement>
-bool CarryOn(Statement&& statement) {
+// Runs `statement`; a fault in it ends it and goes to `tell`, which may throw it on. Returns
+// whether the statement ran to its end. This is the program's skip-and-continue: what the statement
+// would have set keeps its old value.
+template <class Statement, class Tell>
+bool CarryOn(Statement&& statement, Tell&& tell) {
   try {
     std::forward<Statement>(statement)();
     return true;
-  } catch (const Fault&) {
+  } catch (const Fault& fault) {
+    std::forward<Tell>(tell)(fault);
     return false;
   }
+}
+
+// The same in silence.
+template <class Statement>
+bool CarryOn(Statement&& statement) {
+  return CarryOn(std::forward<Statement>(statement), [](const Fault&) {});
 }
 
 }  // namespace tagwright
