@@ -174,6 +174,11 @@ void DeselectObject() {
   ShowSizeFields();
 }
 
+void EndSelection() {
+  if (SelectedObject > -1) DeselectObject();
+  if (SelectedUpper > -1) DeselectObject();
+}
+
 // The fields are left while the record still stands in its place: what was typed there must not
 // reach the one that takes it.
 void RemoveObject() {

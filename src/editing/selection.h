@@ -15,6 +15,10 @@ inline bool CopyPropsPending = false;  // the next click on a text copies its pr
 // Nothing while ModifierHeld, so that a group can be built.
 void DeselectObject();
 
+// DeselectObject where anything is selected, and once more for what an empty text has left
+// selected.
+void EndSelection();
+
 // Adds an object to the group or takes it out. The first one joins the object that is selected by
 // itself, were it the same one. Panel 3 of sB1 counts. Faults 9 for a full list, with nothing
 // changed.

@@ -34,11 +34,6 @@ void ShowCrossHairs(double X, double Y) {
   ShowInFront(frmMain.HairY);
 }
 
-void EndSelection() {
-  if (SelectedObject > -1) DeselectObject();
-  if (SelectedUpper > -1) DeselectObject();  // also what an empty text has left selected
-}
-
 void EndEntry() {
   TextEntryActive = false;
   RedrawSkip = -1;

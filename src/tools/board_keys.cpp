@@ -4,7 +4,6 @@
 
 #include "common/diagnostics.h"
 #include "document/objects.h"
-#include "document/selection_state.h"
 #include "editing/drag.h"
 #include "editing/geometry.h"
 #include "editing/property_pick.h"
@@ -58,8 +57,7 @@ void DrawUp(const BoardPoint& middle, const Extent& drag) {
 
 void PlaceInMiddle() {
   const BoardPoint middle = MiddleOfView();
-  DeselectObject();
-  EndGroup();  // of what an empty text has left behind
+  EndSelection();
   DrawUp(middle, DragOfTool());
   CentrePicture = true;
   if (RubberBox || RubberLine) Traced(PlaceObject);

@@ -14,7 +14,7 @@
 #include "print/code_128_reader.h"
 #include "print/print_fixture.h"
 #include "support/fake_database.h"
-#include "support/full_disk.h"
+#include "support/file_size_limit.h"
 #include "support/pdf_reader.h"
 
 namespace tagwright {
@@ -291,7 +291,7 @@ TEST_F(SheetsTest, PrintingAgainReplacesTheFile) {
 // job, with room again, is a whole one.
 TEST_F(SheetsTest, ADiskThatBecomesFullDuringAJobKeepsTheFormerSheetsAndIsToldOnce) {
   constexpr int kFew = SheetOf14::kCells, kMany = 40 * SheetOf14::kCells;
-  if (!FullDisk::CanBeArranged(Pdf())) GTEST_SKIP() << "no limit for files here";
+  if (!FileSizeLimit::CanBeArranged(Pdf())) GTEST_SKIP() << "no limit for files here";
   DesignLabel(kFew);
   PrintToPdf(Pdf());
   const std::string former = ReadFile(Pdf());
@@ -302,7 +302,7 @@ TEST_F(SheetsTest, ADiskThatBecomesFullDuringAJobKeepsTheFormerSheetsAndIsToldOn
   };
   const auto files_before = files();
   {
-    const FullDisk disk(2 * former.size());
+    const FileSizeLimit disk(2 * former.size());
     PrintToPdf(Pdf());
   }
   ASSERT_EQ(dialogs.messages.size(), 1u);

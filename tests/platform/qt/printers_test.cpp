@@ -11,7 +11,7 @@
 #include "paint_environment.h"
 #include "platform/faults/fault.h"
 #include "platform/files/files.h"
-#include "support/full_disk.h"
+#include "support/file_size_limit.h"
 #include "support/pdf_reader.h"
 #include "support/test_support.h"
 
@@ -260,13 +260,14 @@ TEST_F(PrintersTest, AQueueThatIsNotThereIsToldOnce) {
 }
 
 TEST_F(PrintersTest, AFullDiskKeepsTheFormerFileAndIsToldOnce) {
-  if (!FullDisk::CanBeArranged(folder.File("tried"))) GTEST_SKIP() << "no limit for files here";
+  if (!FileSizeLimit::CanBeArranged(folder.File("tried")))
+    GTEST_SKIP() << "no limit for files here";
   DeleteFile(folder.File("tried"));
   WriteFile(folder.File("label.pdf"), "former");
   WriteTo("label.pdf");
   int fault = 0;
   {
-    const FullDisk disk(20000);
+    const FileSizeLimit disk(20000);
     Printer().StartDoc();
     for (int page = 0; page < 2000 && !Printer().JobLost(); ++page) {
       Printer().Page().Print("page " + std::to_string(page));
