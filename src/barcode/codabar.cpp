@@ -53,11 +53,7 @@ Patterns CodabarPatterns(std::string_view Data) {
 
 void DrawCodabar(std::string_view Data, std::int16_t, float X, float Y, double Height, double Width,
                  bool PrintCharacters, double FontSize) {
-  BeginSymbol(X, Y, Height);
-  const Patterns patterns = CodabarPatterns(Data);
-  EngineTraced([&] { MeasureModule(patterns, Width); });
-  PaintPatterns(patterns);
-  EndSymbol(Data, X, Y, Height, Width, PrintCharacters, FontSize);
+  PaintSymbol(CodabarPatterns(Data), Data, X, Y, Height, Width, PrintCharacters, FontSize);
 }
 
 }  // namespace tagwright

@@ -144,11 +144,7 @@ void DrawCode39(std::string_view Data, std::int16_t, float X, float Y, double He
 
 void DrawCode39Extended(std::string_view Data, std::int16_t, float X, float Y, double Height,
                         double Width, bool PrintCharacters, double FontSize) {
-  BeginSymbol(X, Y, Height);
-  const Patterns patterns = Code39ExtendedPatterns(Data);
-  EngineTraced([&] { MeasureModule(patterns, Width); });
-  PaintPatterns(patterns);
-  EndSymbol(Data, X, Y, Height, Width, PrintCharacters, FontSize);
+  PaintSymbol(Code39ExtendedPatterns(Data), Data, X, Y, Height, Width, PrintCharacters, FontSize);
 }
 
 }  // namespace tagwright

@@ -67,4 +67,9 @@ void BeginSymbol(float X, float Y, double Height);
 void EndSymbol(std::string_view Data, float X, float Y, double Height, double Width,
                bool PrintCharacters, double FontSize);
 
+// A whole symbol of the plain kind: its patterns side by side, as wide together as `Width`, and the
+// text below them.
+void PaintSymbol(const Patterns& patterns, std::string_view Data, float X, float Y, double Height,
+                 double Width, bool PrintCharacters, double FontSize);
+
 }  // namespace tagwright

@@ -203,4 +203,12 @@ void EndSymbol(std::string_view Data, float X, float Y, double Height, double Wi
   EngineTraced([&] { Target().Print(Data); });
 }
 
+void PaintSymbol(const Patterns& patterns, std::string_view Data, float X, float Y, double Height,
+                 double Width, bool PrintCharacters, double FontSize) {
+  BeginSymbol(X, Y, Height);
+  EngineTraced([&] { MeasureModule(patterns, Width); });
+  PaintPatterns(patterns);
+  EndSymbol(Data, X, Y, Height, Width, PrintCharacters, FontSize);
+}
+
 }  // namespace tagwright

@@ -36,8 +36,6 @@ constexpr bool TwoOfFiveAreTall() {
 }
 static_assert(TwoOfFiveAreTall());
 
-constexpr double Inches(double inches) { return inches * kMillimetresPerInch; }
-
 // --- Royal Mail ---
 
 constexpr double kBarWidth = 0.55;

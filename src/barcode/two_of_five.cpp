@@ -110,20 +110,12 @@ Patterns InterleavedPatterns(std::string_view Data) {
 
 void DrawTwoOfFive(std::string_view Data, std::int16_t, float X, float Y, double Height,
                    double Width, bool PrintCharacters, double FontSize) {
-  BeginSymbol(X, Y, Height);
-  const Patterns patterns = TwoOfFivePatterns(Data);
-  EngineTraced([&] { MeasureModule(patterns, Width); });
-  PaintPatterns(patterns);
-  EndSymbol(Data, X, Y, Height, Width, PrintCharacters, FontSize);
+  PaintSymbol(TwoOfFivePatterns(Data), Data, X, Y, Height, Width, PrintCharacters, FontSize);
 }
 
 void DrawInterleaved(std::string_view Data, std::int16_t, float X, float Y, double Height,
                      double Width, bool PrintCharacters, double FontSize) {
-  BeginSymbol(X, Y, Height);
-  const Patterns patterns = InterleavedPatterns(Data);
-  EngineTraced([&] { MeasureModule(patterns, Width); });
-  PaintPatterns(patterns);
-  EndSymbol(Data, X, Y, Height, Width, PrintCharacters, FontSize);
+  PaintSymbol(InterleavedPatterns(Data), Data, X, Y, Height, Width, PrintCharacters, FontSize);
 }
 
 }  // namespace tagwright

@@ -128,6 +128,15 @@ int CompleteCombo(ComboBox& Combo, int KeyAscii) {
   return 0;
 }
 
+bool SelectRow(ComboBox& Combo, std::string_view text) {
+  for (int row = 0; row < Combo.ListCount(); ++row) {
+    if (Combo.List(row) != text) continue;
+    Combo.SetListIndex(row);
+    return true;
+  }
+  return false;
+}
+
 void SelectComboText(ComboBox& Combo) {
   for (int row = 0; row < Combo.ListCount(); ++row) {
     if (!EqualIgnoringCase(Combo.List(row), Combo.Text())) continue;

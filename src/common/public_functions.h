@@ -35,6 +35,10 @@ int FilterKey(int KeyAscii, std::int16_t ToUpper, std::int16_t ToLower, std::int
 // on, 0 when it has been dealt with. Changes the combo's text and selection, raises nothing.
 int CompleteCombo(ComboBox& Combo, int KeyAscii);
 
+// Chooses the first entry that is exactly `text`, which raises its Click. Returns false, and
+// changes nothing, without one.
+bool SelectRow(ComboBox& Combo, std::string_view text);
+
 // Chooses the first entry equal to the combo's text, case ignored, which raises its Click. Without
 // one nothing changes.
 void SelectComboText(ComboBox& Combo);

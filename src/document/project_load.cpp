@@ -69,13 +69,6 @@ bool GoOnWithout(const std::string& data_file) {
                     MessageButtons::kYesNo, MessageIcon::kQuestion) == Answer::kYes;
 }
 
-void ShowSourceFields(bool database) {
-  frmMain.cboRSet.SetVisible(database);
-  frmMain.lblFName(kTableCaption).SetVisible(database);
-  frmMain.chkFirstRow.SetVisible(!database);
-  frmMain.chkQuote.SetVisible(!database);
-}
-
 // A database that does not open leaves the list of tables empty, and says so: one that is missing
 // has been asked about already.
 void ListTables(const std::string& path) {

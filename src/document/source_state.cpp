@@ -29,6 +29,13 @@ void ForgetSource() {
   frmMain.chkMailshot.SetVisible(false);
 }
 
+void ShowSourceFields(bool database) {
+  frmMain.cboRSet.SetVisible(database);
+  frmMain.lblFName(kTableCaption).SetVisible(database);
+  frmMain.chkFirstRow.SetVisible(!database);
+  frmMain.chkQuote.SetVisible(!database);
+}
+
 void TellNoDatabase(const std::string& path, const Fault& fault) {
   const bool says_more = fault.description != FaultDescription(fault.number);
   MessageBox("The file " + path + " cannot be read as a database" +

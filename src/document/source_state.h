@@ -31,6 +31,9 @@ void CloseSource();
 // chkMailshot is unticked and hidden.
 void ForgetSource();
 
+// Shows what a database asks for, the table, or what a text file does: titles and quotes.
+void ShowSourceFields(bool database);
+
 // Says that the file `path` cannot be read as a database, and why where the fault knows more than
 // that.
 void TellNoDatabase(const std::string& path, const Fault& fault);

@@ -27,13 +27,6 @@ double RowNumber(const ComboBox& list, int row) { return ToNumber(list.List(row)
 
 // --- fonts ---
 
-void ChooseFont(const std::string& name) {
-  ComboBox& list = frmMain.cboFont;
-  for (int row = 0; row < list.ListCount(); ++row) {
-    if (list.List(row) == name) return list.SetListIndex(row);
-  }
-}
-
 // 13.5 shows as "13"; a size between two rows, such as 15, as the next one up. One above all rows
 // leaves the box alone.
 void ChooseSizeOfBarcode(double size) {
@@ -63,7 +56,7 @@ void FillBarcodePanel() {
   frmMain.txtBCodeData.SetText(SelectedRecord().Text.Trimmed());
   frmMain.chkPriCharacter.SetValue(Ticked(SelectedRecord().Bold));
   frmMain.chkChkSum.SetValue(Ticked(SelectedRecord().Italic));
-  ChooseFont(SelectedRecord().FontName.Trimmed());
+  SelectRow(frmMain.cboFont, SelectedRecord().FontName.Trimmed());
   ChooseSizeOfBarcode(SelectedRecord().FontSize);
   ShowFontBoxes(kFontLeftOfBarcodes, kFontTop);
 }
@@ -85,7 +78,7 @@ void FillTextPanel() {
   frmMain.chkBold.SetValue(Ticked(SelectedRecord().Bold));
   frmMain.chkItalic.SetValue(Ticked(SelectedRecord().Italic));
   ChooseSizeOfText(SelectedRecord().FontSize);
-  ChooseFont(SelectedRecord().FontName.Trimmed());
+  SelectRow(frmMain.cboFont, SelectedRecord().FontName.Trimmed());
   frmMain.lblTextColor.SetBackColor(SelectedRecord().ForeColor);
 }
 

@@ -9,6 +9,7 @@
 #include "common/public_functions.h"
 #include "document/objects.h"
 #include "document/project_file.h"
+#include "document/source_state.h"
 #include "forms/frmMain.h"
 #include "output/data_sources.h"
 #include "platform/faults/fault.h"
@@ -16,13 +17,6 @@
 
 namespace tagwright {
 namespace {
-
-void ShowDatabaseControls() {
-  frmMain.cboRSet.SetVisible(true);
-  frmMain.lblFName(kTableCaption).SetVisible(true);
-  frmMain.chkFirstRow.SetVisible(false);
-  frmMain.chkQuote.SetVisible(false);
-}
 
 std::string Connect() { return ";PWD=" + DatabasePassword; }
 
@@ -126,7 +120,7 @@ void MeetAllRows() {
 }  // namespace
 
 void OpenDatabaseSource() {
-  ShowDatabaseControls();
+  ShowSourceFields(true);
   frmMain.cboRSet.Clear();
   if (!OpenAsking(frmMain.cd1.FileName)) return;
   Traced(ListTables);

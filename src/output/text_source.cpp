@@ -9,6 +9,7 @@
 #include "common/public_functions.h"
 #include "document/objects.h"
 #include "document/project_file.h"
+#include "document/source_state.h"
 #include "forms/frmMain.h"
 #include "output/data_sources.h"
 #include "platform/faults/fault.h"
@@ -19,13 +20,6 @@
 
 namespace tagwright {
 namespace {
-
-void ShowTextControls() {
-  frmMain.cboRSet.SetVisible(false);
-  frmMain.lblFName(kTableCaption).SetVisible(false);
-  frmMain.chkFirstRow.SetVisible(true);
-  frmMain.chkQuote.SetVisible(true);
-}
 
 std::string SeparatorOf(bool comma) { return comma ? "," : "\t"; }
 
@@ -74,7 +68,7 @@ void OpenTextSource(bool Comma) { TakeTextSource(frmMain.cd1.FileName, Comma); }
 
 void TakeTextSource(const std::string& path, bool Comma) {
   std::string line;
-  ShowTextControls();
+  ShowSourceFields(false);
   Traced([&] { line = FirstLine(path); });
   FieldSeparator = SeparatorOf(Comma);
   Traced([&] { SplitIntoFields(line); });

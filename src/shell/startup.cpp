@@ -215,20 +215,9 @@ void ListFonts() {
 
 // The comparison is with the padded field, so that only a name of all 50 characters is ever found:
 // the box stays blank until a tool that needs it brings the default font.
-void SelectDefaultFont() {
-  const std::string padded = ProgSettings.DefaultFontName.Padded();
-  for (int i = 0; i < frmMain.cboFont.ListCount(); ++i) {
-    if (frmMain.cboFont.List(i) != padded) continue;
-    frmMain.cboFont.SetListIndex(i);
-    return;
-  }
-}
+void SelectDefaultFont() { SelectRow(frmMain.cboFont, ProgSettings.DefaultFontName.Padded()); }
 
-void SelectFullZoom() {
-  for (int i = 0; i < frmMain.cboZoom.ListCount(); ++i) {
-    if (frmMain.cboZoom.List(i) == "100%") frmMain.cboZoom.SetListIndex(i);
-  }
-}
+void SelectFullZoom() { SelectRow(frmMain.cboZoom, "100%"); }
 
 void FillImportTypes() {
   frmMain.cboImportType.AddItem("Microsoft Access 97 Database");

@@ -26,8 +26,6 @@ constexpr double kIn = 1.5;
 constexpr double kOut = 0.75;
 constexpr double kLargestZoom = 50;
 
-double Inches(float inches) { return inches * kMillimetresPerInch; }
-
 double OnTwoDecimals(double zoom) { return ToNumber(FormatFixed(zoom, 2)); }
 
 }  // namespace

@@ -1,20 +1,10 @@
 // Containers: their children and their scale.
-#include <algorithm>
 #include <utility>
 
 #include "platform/controls/controls.h"
+#include "platform/controls/erase_last.h"
 
 namespace tagwright {
-namespace {
-
-// From the back: the last one made is the first one to go.
-template <class T>
-void EraseLast(std::vector<T*>& list, const T* element) {
-  const auto found = std::find(list.rbegin(), list.rend(), element);
-  if (found != list.rend()) list.erase(std::next(found).base());
-}
-
-}  // namespace
 
 Container::~Container() {
   for (Control* child : children_) child->container_ = nullptr;

@@ -2,17 +2,12 @@
 #include <utility>
 
 #include "platform/controls/controls.h"
+#include "platform/controls/erase_last.h"
 
 namespace tagwright {
 namespace {
 
 Form* active_form = nullptr;
-
-template <class List, class Element>
-void EraseLast(List& list, const Element* element) {
-  const auto found = std::find(list.rbegin(), list.rend(), element);
-  if (found != list.rend()) list.erase(std::next(found).base());
-}
 
 }  // namespace
 

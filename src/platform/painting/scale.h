@@ -15,6 +15,9 @@ constexpr double kScreenPixelsPerInch = 96;
 constexpr double kTwipsPerMillimetre = kTwipsPerInch / kMillimetresPerInch;
 constexpr double kTwipsPerPixel = 15.0;  // one logical screen pixel
 
+// So many inches in millimetres.
+constexpr double Inches(double inches) { return inches * kMillimetresPerInch; }
+
 // An area of a physical size, measured in one of the scales. In twips, pixels and millimetres the
 // scale width follows the physical size; a user scale keeps the numbers it was given, so that its
 // unit stretches when the area is resized.
