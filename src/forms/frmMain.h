@@ -149,8 +149,8 @@ struct FrmMain : Form {
   PictureBox picProperties{&picFunctions, "picProperties"};   // how labels lie on the sheet
   ComboBox cboLabelLayout{&picProperties, "cboLabelLayout"};  // "Layout" of the sheet
   CommandButton cmdDesLabel{&picProperties, "cmdDesLabel"};   // "Design new Label" (later)
-  ControlArray<TextBox> txtLabLayout{&picProperties, "txtLabLayout",
-                                     8};  // by LayoutBox; a job goes by them
+  // Filled from the layout and typed into; a job goes by them.
+  ControlArray<TextBox> txtLabLayout{&picProperties, "txtLabLayout", 8};  // by LayoutBox
 
   PictureBox picText{&picFunctions, "picText"};  // the selected text, or the style of the next
   TextBox txtTool{&picText, "txtTool"};          // what the text says, to be typed
@@ -218,8 +218,8 @@ struct FrmMain : Form {
   CommandButton cmdToBack{&picTools, "cmdToBack"};        // "Send to Back" (later)
   CommandButton cmdCenterLab{&picTools, "cmdCenterLab"};  // "Align to Centre of Label" (later)
   CommandButton cmdToFront{&picTools, "cmdToFront"};      // "Bring to Front" (later)
-  ControlArray<CommandButton> cmdTools{&picTools, "cmdTools",
-                                       8};  // by ToolButton; pressed while armed
+  // Pressed while armed. Which panel opens: see tools/tool_buttons.cpp.
+  ControlArray<CommandButton> cmdTools{&picTools, "cmdTools", 8};  // by ToolButton
 
   // --- the zoom flyout ---
   PictureBox picMag{this, "picMag"};  // opens while Zoom In or Zoom Out is held
