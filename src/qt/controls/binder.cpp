@@ -11,6 +11,9 @@
 #include <QWidget>
 
 #include "qt/controls/board_view.h"
+#include "qt/controls/control_widgets.h"
+#include "qt/controls/menu_views.h"
+#include "qt/controls/timer_view.h"
 #include "qt/controls/views.h"
 #include "qt/look/theme.h"
 #include "ui_frmAbout.h"

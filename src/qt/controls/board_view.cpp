@@ -9,7 +9,10 @@
 #include <string_view>
 #include <utility>
 
-#include "qt/controls/views.h"
+#include "qt/controls/control_widgets.h"
+#include "qt/controls/focus.h"
+#include "qt/controls/input_codes.h"
+#include "qt/controls/units.h"
 #include "qt/fonts/fonts.h"
 #include "qt/painting/surfaces.h"
 

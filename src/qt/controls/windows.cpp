@@ -23,7 +23,11 @@
 #include <vector>
 
 #include "qt/controls/binder.h"
-#include "qt/controls/views.h"
+#include "qt/controls/control_widgets.h"
+#include "qt/controls/focus.h"
+#include "qt/controls/input_codes.h"
+#include "qt/controls/modal_run.h"
+#include "qt/controls/units.h"
 #include "qt/look/theme.h"
 
 namespace tagwright {

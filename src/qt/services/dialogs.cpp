@@ -10,7 +10,8 @@
 #include <QSplitter>
 
 #include "platform/services/dialog_folders.h"
-#include "qt/controls/views.h"
+#include "qt/controls/modal_run.h"
+#include "qt/controls/units.h"
 #include "qt/controls/windows.h"
 #include "qt/look/colors.h"
 #include "qt/look/theme.h"

@@ -12,7 +12,8 @@
 #include <QWindow>
 #include <algorithm>
 
-#include "qt/controls/views.h"
+#include "qt/controls/modal_run.h"
+#include "qt/controls/units.h"
 #include "qt/controls/windows.h"
 
 namespace tagwright {

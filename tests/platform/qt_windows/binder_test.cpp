@@ -4,7 +4,7 @@
 #include <QAccessibleInterface>
 
 #include "platform/qt_windows/window_fixture.h"
-#include "qt/controls/views.h"
+#include "qt/controls/control_widgets.h"
 
 namespace tagwright {
 namespace {

@@ -4,7 +4,6 @@
 #include <cmath>
 
 #include "platform/qt_windows/window_fixture.h"
-#include "qt/controls/views.h"
 
 namespace tagwright {
 namespace {

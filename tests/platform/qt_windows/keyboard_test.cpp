@@ -10,7 +10,8 @@
 #include <QTimer>
 
 #include "platform/qt_windows/window_fixture.h"
-#include "qt/controls/views.h"
+#include "qt/controls/input_codes.h"
+#include "qt/controls/units.h"
 
 namespace tagwright {
 namespace {

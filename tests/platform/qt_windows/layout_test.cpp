@@ -10,7 +10,8 @@
 #include <set>
 
 #include "platform/qt_windows/window_fixture.h"
-#include "qt/controls/views.h"
+#include "qt/controls/control_widgets.h"
+#include "qt/controls/units.h"
 #include "qt/controls/windows.h"
 
 namespace tagwright {

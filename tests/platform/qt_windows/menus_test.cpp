@@ -3,7 +3,6 @@
 #include <QMenuBar>
 
 #include "platform/qt_windows/window_fixture.h"
-#include "qt/controls/views.h"
 
 namespace tagwright {
 namespace {

@@ -7,7 +7,7 @@
 #include <QListWidget>
 
 #include "platform/qt_windows/window_fixture.h"
-#include "qt/controls/views.h"
+#include "qt/controls/control_widgets.h"
 
 namespace tagwright {
 namespace {

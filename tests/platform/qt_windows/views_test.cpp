@@ -14,6 +14,7 @@
 
 #include "platform/controls/event.h"
 #include "platform/qt_windows/window_fixture.h"
+#include "qt/controls/units.h"
 
 namespace tagwright {
 namespace {

@@ -4,7 +4,7 @@
 #include <QTimer>
 
 #include "platform/qt_windows/window_fixture.h"
-#include "qt/controls/views.h"
+#include "qt/controls/units.h"
 #include "qt/controls/windows.h"
 
 namespace tagwright {

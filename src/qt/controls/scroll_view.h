@@ -1,0 +1,15 @@
+// The view of a scroll bar.
+#pragma once
+
+#include <memory>
+
+#include "platform/controls/controls.h"
+
+class QScrollBar;
+
+namespace tagwright {
+
+// Range, steps and value are the model's.
+std::unique_ptr<ControlView> MakeScrollView(ScrollBar& bar, QScrollBar& widget);
+
+}  // namespace tagwright

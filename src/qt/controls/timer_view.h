@@ -1,0 +1,13 @@
+// The view of a timer: nobody sees it, but it ticks.
+#pragma once
+
+#include <memory>
+
+#include "platform/controls/controls.h"
+
+namespace tagwright {
+
+// Ticks while the window stands.
+std::unique_ptr<ControlView> MakeTimerView(Timer& timer);
+
+}  // namespace tagwright
