@@ -15,7 +15,7 @@
 
 #include "barcode/mod_bar_code.h"
 #include "platform/painting/recorder.h"
-#include "qt/painting/surfaces.h"
+#include "qt/painting/page_surface.h"
 #include "qt/services/paint_services.h"
 
 namespace {

@@ -16,7 +16,7 @@
 #include "document/redraw.h"
 #include "forms/frmMain.h"
 #include "platform/services/desktop.h"
-#include "qt/painting/surfaces.h"
+#include "qt/painting/image_surface.h"
 #include "qt/services/paint_services.h"
 #include "shell/startup.h"
 

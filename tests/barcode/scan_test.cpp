@@ -16,7 +16,6 @@
 #include "document/redraw.h"
 #include "forms/frmMain.h"
 #include "platform/text/text.h"
-#include "qt/painting/surfaces.h"
 #include "qt/printing/printers.h"
 #include "qt/services/paint_services.h"
 

@@ -13,7 +13,7 @@
 #include "document/document_support.h"
 #include "platform/painting/picture.h"
 #include "platform/painting/printer.h"
-#include "qt/painting/surfaces.h"
+#include "qt/painting/image_surface.h"
 #include "qt/printing/printers.h"
 #include "qt/services/paint_services.h"
 #include "support/pdf_reader.h"

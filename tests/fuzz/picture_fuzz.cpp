@@ -6,7 +6,7 @@
 #include <string>
 
 #include "platform/painting/picture.h"
-#include "qt/painting/surfaces.h"
+#include "qt/painting/image_surface.h"
 #include "qt/pictures/pictures.h"
 #include "qt/services/paint_services.h"
 

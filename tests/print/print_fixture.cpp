@@ -7,7 +7,6 @@
 #include "forms/frmSerialNumber.h"
 #include "platform/controls/windows.h"
 #include "platform/services/desktop.h"
-#include "qt/painting/surfaces.h"
 #include "qt/services/paint_services.h"
 #include "shell/startup.h"
 

@@ -13,8 +13,10 @@
 #include "qt/controls/focus.h"
 #include "qt/controls/input_codes.h"
 #include "qt/controls/units.h"
-#include "qt/fonts/fonts.h"
-#include "qt/painting/surfaces.h"
+#include "qt/fonts/text_painting.h"
+#include "qt/look/colors.h"
+#include "qt/painting/image_surface.h"
+#include "qt/painting/screen_pixels.h"
 
 namespace tagwright {
 namespace {

@@ -1,27 +1,22 @@
 #include "qt/printing/printers.h"
 
-#include <cups/cups.h>
-
-#include <QList>
 #include <QPageLayout>
+#include <QPageSize>
 #include <QPagedPaintDevice>
 #include <QPainter>
-#include <QPdfWriter>
-#include <QPrintEngine>
-#include <QPrinter>
 #include <QPrinterInfo>
-#include <QSaveFile>
-#include <QStringList>
-#include <algorithm>
+#include <QString>
+#include <functional>
 #include <memory>
-#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
 
-#include "platform/controls/controls.h"
 #include "platform/faults/fault.h"
-#include "platform/services/dialog_folders.h"
 #include "platform/services/dialogs.h"
-#include "qt/fonts/fonts.h"
-#include "qt/painting/surfaces.h"
+#include "qt/painting/page_surface.h"
+#include "qt/printing/file_spool.h"
+#include "qt/printing/queue_spool.h"
 
 namespace tagwright {
 namespace {
@@ -30,21 +25,6 @@ constexpr int kPortrait = 1;
 constexpr int kLandscape = 2;
 constexpr int kLetter = 1;
 constexpr int kA4 = 9;
-constexpr int kUsualResolution = 600;  // pixels an inch, where a queue names none
-
-// Millimetres have three decimals on a page, and fonts the size that is asked for: the toolkit
-// counts both in whole units.
-constexpr int kUnitsPerInch = static_cast<int>(kPageStepsPerInch);
-
-// What one printer paints a job on.
-class Spool {
- public:
-  virtual ~Spool() = default;
-  virtual QPagedPaintDevice& Device() = 0;
-  virtual void Send() = 0;                   // after the painter has ended
-  virtual void Drop(QPainter& painter) = 0;  // ends the painter; nothing comes of the job
-  virtual bool Failed() const = 0;
-};
 
 // --- what became of a job -----------------------------------------------------------------------
 
@@ -56,118 +36,6 @@ void TellOf(const Fault& fault) {
 
 Fault NoPageOf(const std::string& name) {
   return {kPrinterFault, "The printer " + name + " does not take the job."};
-}
-
-// --- a file -------------------------------------------------------------------------------------
-
-std::string AskForFile() {
-  static const std::string kFilter = "PDF files (*.pdf)|*.pdf";
-  ModalOpens();
-  const std::optional<std::string> path = Dialogs().SaveFile({kFilter, "pdf", ""});
-  if (!path) RaiseFault(kDialogCancelled);
-  RememberFile(kFilter, *path);
-  return *path;
-}
-
-QPageLayout WholePage() {
-  QPageLayout layout(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF());
-  layout.setMode(QPageLayout::FullPageMode);
-  return layout;
-}
-
-// Aside first, so that a job that fails or is dropped leaves a former file of that name alone.
-class FileSpool : public Spool {
- public:
-  explicit FileSpool(const std::string& path) : path_(path), file_(QString::fromStdString(path)) {
-    if (!file_.open(QIODevice::WriteOnly)) Refuse(kFileAccess);
-    writer_.emplace(&file_);
-    writer_->setResolution(kUnitsPerInch);
-    writer_->setPageLayout(WholePage());
-    writer_->setCreator(QStringLiteral("Tagwright"));
-    writer_->setTitle(QStringLiteral("Labels"));
-  }
-  QPagedPaintDevice& Device() override { return *writer_; }
-  void Send() override {
-    writer_.reset();
-    if (!file_.commit()) Refuse(kDeviceFault);
-  }
-  void Drop(QPainter& painter) override {
-    file_.cancelWriting();
-    painter.end();
-  }
-  bool Failed() const override { return file_.error() != QFileDevice::NoError; }
-
- private:
-  [[noreturn]] void Refuse(int fault) const {
-    RaiseFault(fault, "The file " + path_ +
-                          " cannot be written: " + file_.errorString().toStdString() + ".");
-  }
-
-  std::string path_;
-  QSaveFile file_;
-  std::optional<QPdfWriter> writer_;
-};
-
-// --- a queue ------------------------------------------------------------------------------------
-
-// Hands options through to the print service; the toolkit has this key but gives it no name.
-constexpr auto kServiceOptions = QPrintEngine::PrintEnginePropertyKey(0xfe00);
-
-// A millimetre is a millimetre: the service must not fit the page to the printable area.
-void KeepSize(QPrinter& printer) {
-  printer.setFullPage(true);
-  QStringList options = printer.printEngine()->property(kServiceOptions).toStringList();
-  options << QStringLiteral("print-scaling") << QStringLiteral("none");
-  printer.printEngine()->setProperty(kServiceOptions, options);
-}
-
-// The queue is looked up anew: it may have gone since it was chosen.
-QPrinterInfo QueueNamed(const std::string& name) {
-  QPrinterInfo info = QPrinterInfo::printerInfo(QString::fromStdString(name));
-  if (info.isNull()) RaiseFault(kPrinterFault, "The printer " + name + " is not there any more.");
-  return info;
-}
-
-class QueueSpool : public Spool {
- public:
-  explicit QueueSpool(const std::string& name)
-      : name_(name), printer_(QueueNamed(name), QPrinter::HighResolution) {
-    printer_.setResolution(kUnitsPerInch);
-    printer_.setDocName(QStringLiteral("Labels"));
-    KeepSize(printer_);
-  }
-  QPagedPaintDevice& Device() override { return printer_; }
-  // The toolkit hands the job over and does not ask what became of it; the service's library knows.
-  void Send() override {
-    if (Failed()) Refuse("");
-    if (cupsLastError() > IPP_STATUS_OK_EVENTS_COMPLETE) Refuse(cupsLastErrorString());
-  }
-  // With the painter's end the toolkit sends what there is, an aborted job as well. Out of reach of
-  // the service that comes to nothing; afterwards the service is looked up anew.
-  void Drop(QPainter& painter) override {
-    cupsSetServer("/dev/null");
-    painter.end();
-    cupsSetServer(nullptr);
-  }
-  bool Failed() const override {
-    return printer_.printerState() == QPrinter::Error ||
-           printer_.printerState() == QPrinter::Aborted;
-  }
-
- private:
-  [[noreturn]] void Refuse(const std::string& reason) const {
-    RaiseFault(kPrinterFault, "The printer " + name_ + " does not take the job" +
-                                  (reason.empty() ? "." : ": " + reason));
-  }
-
-  std::string name_;
-  QPrinter printer_;
-};
-
-int FinestResolution(const QPrinterInfo& info) {
-  const QList<int> known = info.supportedResolutions();
-  const auto finest = std::max_element(known.begin(), known.end());
-  return finest == known.end() ? kUsualResolution : *finest;
 }
 
 // --- a printer ----------------------------------------------------------------------------------
@@ -326,16 +194,14 @@ bool ToolkitPrinter::JobLost() const {
 // --- the list -----------------------------------------------------------------------------------
 
 std::unique_ptr<PrinterDevice> OpenFilePrinter() {
-  return std::make_unique<ToolkitPrinter>(kPrintToPdf, kUsualResolution,
-                                          [] { return std::make_unique<FileSpool>(AskForFile()); });
+  return std::make_unique<ToolkitPrinter>(kPrintToPdf, kUsualResolution, OpenFileSpool);
 }
 
 // Who chooses a queue that has gone meanwhile keeps the former one, and is told.
 std::unique_ptr<PrinterDevice> OpenQueue(const std::string& name) {
   try {
-    const int resolution = FinestResolution(QueueNamed(name));
-    return std::make_unique<ToolkitPrinter>(name, resolution,
-                                            [name] { return std::make_unique<QueueSpool>(name); });
+    return std::make_unique<ToolkitPrinter>(name, FinestResolution(name),
+                                            [name] { return OpenQueueSpool(name); });
   } catch (const Fault& fault) {
     TellOf(fault);
     throw;

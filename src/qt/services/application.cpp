@@ -17,7 +17,6 @@
 #include "qt/controls/spoken.h"
 #include "qt/controls/windows.h"
 #include "qt/look/theme.h"
-#include "qt/painting/surfaces.h"
 #include "qt/services/database.h"
 #include "qt/services/dialogs.h"
 #include "qt/services/locale.h"

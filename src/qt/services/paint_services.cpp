@@ -3,7 +3,7 @@
 #include "platform/painting/fonts.h"
 #include "platform/painting/picture.h"
 #include "platform/painting/printer.h"
-#include "qt/fonts/fonts.h"
+#include "qt/fonts/font_service.h"
 #include "qt/pictures/pictures.h"
 #include "qt/printing/printers.h"
 

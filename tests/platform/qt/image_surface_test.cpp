@@ -1,4 +1,6 @@
 // The picture in memory that the board and the preview are painted to.
+#include "qt/painting/image_surface.h"
+
 #include <cmath>
 #include <limits>
 

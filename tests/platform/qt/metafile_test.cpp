@@ -12,7 +12,7 @@
 #include "platform/faults/fault.h"
 #include "platform/files/files.h"
 #include "platform/painting/metafile_records.h"
-#include "qt/fonts/fonts.h"
+#include "qt/fonts/text_painting.h"
 #include "qt/pictures/metafiles.h"
 #include "qt/pictures/pictures.h"
 #include "support/test_support.h"

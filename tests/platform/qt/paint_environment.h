@@ -9,7 +9,6 @@
 #include "platform/painting/fonts.h"
 #include "platform/painting/picture.h"
 #include "platform/painting/printer.h"
-#include "qt/painting/surfaces.h"
 #include "qt/services/paint_services.h"
 
 namespace tagwright {

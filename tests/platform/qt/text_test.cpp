@@ -9,7 +9,10 @@
 #include <vector>
 
 #include "paint_environment.h"
-#include "qt/fonts/fonts.h"
+#include "qt/fonts/shaping.h"
+#include "qt/fonts/text_painting.h"
+#include "qt/painting/image_surface.h"
+#include "qt/painting/page_surface.h"
 #include "support/pdf_reader.h"
 #include "support/test_support.h"
 

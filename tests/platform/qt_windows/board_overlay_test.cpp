@@ -6,7 +6,8 @@
 #include "platform/painting/fonts.h"
 #include "platform/qt_windows/window_fixture.h"
 #include "qt/controls/board_view.h"
-#include "qt/painting/surfaces.h"
+#include "qt/painting/image_surface.h"
+#include "qt/painting/screen_pixels.h"
 
 namespace tagwright {
 namespace {
