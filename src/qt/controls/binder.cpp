@@ -15,7 +15,7 @@
 #include "qt/controls/menu_views.h"
 #include "qt/controls/timer_view.h"
 #include "qt/controls/views.h"
-#include "qt/look/theme.h"
+#include "qt/look/icons.h"
 #include "ui_frmAbout.h"
 #include "ui_frmMain.h"
 #include "ui_frmSerialNumber.h"

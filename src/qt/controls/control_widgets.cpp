@@ -6,7 +6,7 @@
 #include "qt/controls/board_view.h"
 #include "qt/controls/units.h"
 #include "qt/controls/widget_view.h"
-#include "qt/look/theme.h"
+#include "qt/look/pointers.h"
 
 namespace tagwright {
 namespace {

@@ -28,7 +28,6 @@
 #include "qt/controls/input_codes.h"
 #include "qt/controls/modal_run.h"
 #include "qt/controls/units.h"
-#include "qt/look/theme.h"
 
 namespace tagwright {
 namespace {

@@ -1,10 +1,7 @@
-// The look of every window: colours, style sheet, icons and pointers, light and dark.
+// The look of every window: its colours, light and dark.
 #pragma once
 
 #include <QColor>
-#include <QCursor>
-#include <QIcon>
-#include <QString>
 
 class QApplication;
 
@@ -40,15 +37,10 @@ void UseTheme(QApplication& application, const Theme& theme);
 // Takes the light or dark look as the desktop's palette asks, now and whenever that changes.
 void FollowDesktopTheme(QApplication& application);
 
-// An icon of the program's own family by its file name without ending; drawn at any size in the
-// colours of the theme in force at that moment. Null when there is none of that name.
-QIcon ThemedIcon(const QString& name);
+// How much of an icon that cannot be used is left, and about as much of a text: 0 to 1.
+constexpr double kFadedOpacity = 0.36;
 
-// A pointer drawn from an icon, sharp at `device_pixel_ratio`; "pointer-zoom-in" and
-// "pointer-zoom-out" point with the centre of their lens, others with the centre of their cross.
-QCursor IconPointer(const QString& name, qreal device_pixel_ratio);
-
-// The pointer for one of the codes of Control::SetMousePointer (99 is IconPointer's work).
-Qt::CursorShape PointerShape(int code);
+// The colour of texts that cannot be used.
+QColor FadedText(const Theme& theme);
 
 }  // namespace tagwright

@@ -16,6 +16,7 @@
 #include "platform/text/text.h"
 #include "qt/controls/spoken.h"
 #include "qt/controls/windows.h"
+#include "qt/look/pointers.h"
 #include "qt/look/theme.h"
 #include "qt/services/database.h"
 #include "qt/services/dialogs.h"

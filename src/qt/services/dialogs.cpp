@@ -14,7 +14,7 @@
 #include "qt/controls/units.h"
 #include "qt/controls/windows.h"
 #include "qt/look/colors.h"
-#include "qt/look/theme.h"
+#include "qt/look/icons.h"
 
 namespace tagwright {
 namespace {

@@ -4,6 +4,8 @@
 #include <QToolButton>
 
 #include "platform/qt_windows/window_fixture.h"
+#include "qt/look/icons.h"
+#include "qt/look/pointers.h"
 
 namespace tagwright {
 namespace {
