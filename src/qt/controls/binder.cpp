@@ -1,13 +1,10 @@
 #include "qt/controls/binder.h"
 
 #include <QAction>
-#include <QDialog>
-#include <QLabel>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QRegularExpression>
-#include <QToolButton>
 #include <QWidget>
 
 #include "qt/controls/board_view.h"
@@ -15,60 +12,30 @@
 #include "qt/controls/menu_views.h"
 #include "qt/controls/timer_view.h"
 #include "qt/controls/views.h"
-#include "qt/look/icons.h"
-#include "ui_frmAbout.h"
-#include "ui_frmMain.h"
-#include "ui_frmSerialNumber.h"
 
 namespace tagwright {
 namespace {
 
-// --- building -----------------------------------------------------------------------------------
-
-template <class FormFile, class Window>
-std::unique_ptr<QWidget> Build(QWidget* parent) {
-  auto window = std::make_unique<Window>(parent);
-  FormFile().setupUi(window.get());
-  return window;
+bool IsOnBoard(const Control& control, const QWidget& window) {
+  if (!control.Parent()) return false;
+  auto* parent = window.findChild<QWidget*>(ObjectName(*control.Parent()));
+  return dynamic_cast<BoardView*>(parent) != nullptr;
 }
 
-struct KnownForm {
-  const char* name;
-  std::unique_ptr<QWidget> (*build)(QWidget* parent);
-};
-
-constexpr KnownForm kForms[] = {
-    {"frmMain", Build<Ui::frmMain, QMainWindow>},
-    {"frmAbout", Build<Ui::frmAbout, QDialog>},
-    {"frmSerialNumber", Build<Ui::frmSerialNumber, QDialog>},
-};
-
-// Icons stand in the form file by name, so that they take the colours of the theme.
-void SetIcons(QWidget& window) {
-  for (QToolButton* button : window.findChildren<QToolButton*>()) {
-    button->setIcon(ThemedIcon(button->property("iconName").toString()));
-  }
-  for (QLabel* label : window.findChildren<QLabel*>()) {
-    const QString name = label->property("iconName").toString();
-    if (name.isEmpty()) continue;
-    label->setPixmap(ThemedIcon(name).pixmap(label->minimumSize(), label->devicePixelRatioF()));
-  }
-}
-
-// --- matching -----------------------------------------------------------------------------------
-
-bool IsOnBoard(const Control& control) {
-  return control.Parent() && control.Parent()->Name() == "picBoard";
+// A picture that no window shows: the program keeps it to paint with.
+bool IsOffScreen(const Control& control) {
+  const auto* picture = dynamic_cast<const PictureBox*>(&control);
+  return picture && !picture->Visible() && picture->Children().empty();
 }
 
 // What nobody sees as a widget: the board's painted children, the text box that stands for the
 // board, timers, holders of icons, the off-screen picture.
-bool NeedsNoWidget(const Control& control) {
+bool NeedsNoWidget(const Control& control, const QWidget& window) {
   const bool painted =
       dynamic_cast<const Label*>(&control) || dynamic_cast<const Shape*>(&control) ||
       dynamic_cast<const LineControl*>(&control) || dynamic_cast<const TextBox*>(&control);
-  return (IsOnBoard(control) && painted) || dynamic_cast<const Timer*>(&control) ||
-         dynamic_cast<const Image*>(&control) || control.Name() == "picTemp";
+  return (painted && IsOnBoard(control, window)) || dynamic_cast<const Timer*>(&control) ||
+         dynamic_cast<const Image*>(&control) || IsOffScreen(control);
 }
 
 // The entry of a menu or of one of its items; null when the form file has none.
@@ -109,17 +76,6 @@ std::unique_ptr<ControlView> Bind(Control& control, QWidget& window) {
 
 }  // namespace
 
-std::unique_ptr<QWidget> BuildWindow(const Form& form, QWidget* parent) {
-  for (const KnownForm& known : kForms) {
-    if (form.Name() != known.name) continue;
-    std::unique_ptr<QWidget> window = known.build(parent);
-    window->setWindowIcon(ThemedIcon("application"));
-    SetIcons(*window);
-    return window;
-  }
-  return nullptr;
-}
-
 QWidget& ClientOf(QWidget& window) {
   auto* main = qobject_cast<QMainWindow*>(&window);
   return main ? *main->centralWidget() : window;
@@ -137,7 +93,7 @@ std::vector<std::unique_ptr<ControlView>> BindControls(Form& form, QWidget& wind
 QStringList ControlsWithoutWidget(const Form& form, const QWidget& window) {
   QStringList missing;
   for (const Control* control : form.AllControls()) {
-    if (control == &form || NeedsNoWidget(*control)) continue;
+    if (control == &form || NeedsNoWidget(*control, window)) continue;
     const bool is_menu = dynamic_cast<const Menu*>(control) != nullptr;
     const bool found = is_menu ? ActionOf(*control, window) != nullptr
                                : window.findChild<QWidget*>(ObjectName(*control)) != nullptr;

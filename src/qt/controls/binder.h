@@ -1,4 +1,4 @@
-// From form files to windows: builds a window and finds the widget of each control by its name.
+// From controls to the widgets of a window: finds that of each control by its name.
 #pragma once
 
 #include <QStringList>
@@ -10,10 +10,6 @@
 class QWidget;
 
 namespace tagwright {
-
-// The window that the form file of `form` describes, with its icons; null when there is no file of
-// that name. `parent` is the window that it opens over.
-std::unique_ptr<QWidget> BuildWindow(const Form& form, QWidget* parent);
 
 // The part of a window inside frame and menu bar.
 QWidget& ClientOf(QWidget& window);

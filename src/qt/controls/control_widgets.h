@@ -10,7 +10,7 @@ class QWidget;
 
 namespace tagwright {
 
-// Name of the widget or action of a control: elements of arrays carry their index, as txtDSize_2.
+// Name of the widget or action of a control: elements of arrays carry their index, as in "name_2".
 QString ObjectName(const Control& control);
 
 // The widget that shows `control`: its own, or that of the container which paints it; null for

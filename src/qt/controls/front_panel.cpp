@@ -2,13 +2,25 @@
 
 #include <QLayout>
 #include <QStackedWidget>
-#include <QString>
+#include <QVariant>
 
 #include "platform/controls/controls.h"
 #include "qt/controls/control_widgets.h"
 #include "qt/controls/focus.h"
 
 namespace tagwright {
+namespace {
+
+// The widget within `around` that the form file marks so; null for none.
+QWidget* Marked(const QWidget& around, const char* property) {
+  for (QWidget* widget : around.findChildren<QWidget*>()) {
+    if (widget->property(property).toBool()) return widget;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
 void ShowFrontPanel(QStackedWidget& stack, const Container& container) {
   const Control* front = nullptr;
   for (const Control* child : container.Children()) {
@@ -19,8 +31,8 @@ void ShowFrontPanel(QStackedWidget& stack, const Container& container) {
   if (!front) return;
   QWidget* panel = WidgetOf(*front);
   if (stack.currentWidget() == panel) return;
-  auto* floating = stack.findChild<QWidget*>("fontSlot");
-  auto* slot = panel->findChild<QWidget*>(panel->objectName().replace("pic", "slot"));
+  QWidget* floating = Marked(stack, "floats");
+  QWidget* slot = Marked(*panel, "takesFloating");
   if (floating && slot) {
     slot->layout()->addWidget(floating);
     slot->layout()->setAlignment(floating, Qt::AlignTop);

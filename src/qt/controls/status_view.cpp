@@ -2,6 +2,7 @@
 
 #include <QEvent>
 #include <QLabel>
+#include <QVariant>
 
 #include "qt/controls/units.h"
 #include "qt/controls/widget_view.h"
@@ -28,12 +29,12 @@ class StatusView : public WidgetView {
   void Render(Aspect aspect) override {
     if (aspect == Aspect::kGeometry) Dock();
     if (aspect != Aspect::kText) return;
-    for (int panel = 1; panel <= bar_.PanelCount(); ++panel) {
-      if (auto* text = widget_.findChild<QLabel*>(QString("statusPanel_%1").arg(panel))) {
-        text->setTextFormat(Qt::PlainText);
-        text->setText(ToQt(bar_.PanelText(panel)));
-        text->setAccessibleDescription(text->text());  // its name says which panel it is
-      }
+    for (QLabel* text : widget_.findChildren<QLabel*>()) {
+      const int panel = text->property("panel").toInt();
+      if (panel < 1 || panel > bar_.PanelCount()) continue;
+      text->setTextFormat(Qt::PlainText);
+      text->setText(ToQt(bar_.PanelText(panel)));
+      text->setAccessibleDescription(text->text());  // its name says which panel it is
     }
   }
 

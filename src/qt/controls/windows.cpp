@@ -135,13 +135,13 @@ class FormWindow : public QObject, public ControlView {
 
 // --- size and state -----------------------------------------------------------------------------
 
-// The form's design values fit the usual font. With a larger one the strip across the top grows,
-// before start-up lays the window out.
+// The form's design values fit the usual font. With a larger one what the form file marks, such as
+// the strip across the top, grows before start-up lays the window out.
 void FormWindow::FitToHints() {
   for (Control* child : form_.Children()) {
-    if (!dynamic_cast<PictureBox*>(child) || child->Name() != "picFunctions") continue;
+    if (!dynamic_cast<PictureBox*>(child)) continue;
     const QWidget* widget = WidgetOf(*child);
-    if (!widget || !widget->layout()) continue;
+    if (!widget || !widget->layout() || !widget->property("growsToHint").toBool()) continue;
     const double needed = Twips(widget->layout()->minimumSize().height());
     if (needed > child->Height()) child->SetHeight(needed);
   }
@@ -435,16 +435,23 @@ bool FormWindow::MoveFocus(QKeyEvent& event) {
   return true;
 }
 
+// The entry that the form file marks has the help key.
 void FormWindow::PressHelp() {
-  if (auto* help = dynamic_cast<Menu*>(form_.Find("mnuHelpHelp"))) help->Press();
+  for (const QAction* action : window_->findChildren<QAction*>()) {
+    if (!action->property("helpKey").toBool()) continue;
+    auto* help = dynamic_cast<Menu*>(form_.Find(action->objectName().toStdString()));
+    if (help) return help->Press();
+  }
 }
 
 // --- the service --------------------------------------------------------------------------------
 
 class ToolkitWindows : public WindowService {
  public:
+  explicit ToolkitWindows(WindowBuilder build) : build_(std::move(build)) {}
+
   void Create(Form& form) override {
-    std::unique_ptr<QWidget> window = BuildWindow(form, ParentFor(form));
+    std::unique_ptr<QWidget> window = build_(form, ParentFor(form));
     if (window) new FormWindow(form, std::move(window));  // goes with Destroy
   }
 
@@ -488,11 +495,15 @@ class ToolkitWindows : public WindowService {
   static QWidget* ParentFor(const Form& form) {
     return Forms().empty() || Forms().front() == &form ? nullptr : WindowOf(*Forms().front());
   }
+
+  WindowBuilder build_;
 };
 
 }  // namespace
 
-std::unique_ptr<WindowService> MakeWindowService() { return std::make_unique<ToolkitWindows>(); }
+std::unique_ptr<WindowService> MakeWindowService(WindowBuilder build) {
+  return std::make_unique<ToolkitWindows>(std::move(build));
+}
 
 QWidget* WindowOf(const Form& form) {
   const auto found = Windows().find(&form);

@@ -1,7 +1,7 @@
 // Windows of the toolkit for the forms of the program.
 #pragma once
 
-#include <QString>
+#include <functional>
 #include <memory>
 
 #include "platform/controls/windows.h"
@@ -10,8 +10,12 @@ class QWidget;
 
 namespace tagwright {
 
-// The window service. One window per loaded form; it reports what user and window system do to it.
-std::unique_ptr<WindowService> MakeWindowService();
+// Makes the window of a form, over `parent`; null for a form that has none.
+using WindowBuilder = std::function<std::unique_ptr<QWidget>(const Form& form, QWidget* parent)>;
+
+// The window service, whose windows `build` makes. One window per loaded form; it reports what user
+// and window system do to it.
+std::unique_ptr<WindowService> MakeWindowService(WindowBuilder build);
 
 // The window of a loaded form; null when it has none.
 QWidget* WindowOf(const Form& form);

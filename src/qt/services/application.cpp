@@ -15,7 +15,7 @@
 #include "platform/text/locale.h"
 #include "platform/text/text.h"
 #include "qt/controls/spoken.h"
-#include "qt/controls/windows.h"
+#include "qt/forms/form_files.h"
 #include "qt/look/pointers.h"
 #include "qt/look/theme.h"
 #include "qt/services/database.h"

@@ -5,6 +5,7 @@
 
 #include "platform/qt_windows/window_fixture.h"
 #include "qt/controls/control_widgets.h"
+#include "qt/forms/form_files.h"
 
 namespace tagwright {
 namespace {

@@ -2,6 +2,7 @@
 
 #include "platform/controls/event.h"
 #include "qt/controls/windows.h"
+#include "qt/forms/form_files.h"
 #include "qt/look/theme.h"
 
 namespace tagwright {
