@@ -16,6 +16,8 @@
 #include "document/objects.h"
 #include "document/redraw.h"
 #include "forms/frmMain.h"
+#include "platform/controls/control.h"
+#include "platform/controls/mouse.h"
 #include "platform/services/application.h"
 #include "platform/services/desktop.h"
 #include "shell/startup.h"

@@ -15,8 +15,9 @@
 #include <iostream>
 
 #include "document/objects.h"
-#include "document/project_file.h"
+#include "document/source_state.h"
 #include "forms/frmMain.h"
+#include "platform/controls/text_controls.h"
 #include "platform/services/application.h"
 #include "platform/services/desktop.h"
 #include "platform/services/dialogs.h"

@@ -12,7 +12,8 @@
 
 #include "common/prog_settings.h"
 #include "document/objects.h"
-#include "document/project_file.h"
+#include "document/project_load.h"
+#include "document/project_save.h"
 #include "document/redraw.h"
 #include "forms/frmMain.h"
 #include "platform/services/desktop.h"

@@ -10,7 +10,7 @@
 
 #include "barcode/formats.h"
 #include "document/objects.h"
-#include "document/project_file.h"
+#include "document/project_save.h"
 #include "forms/frmMain.h"
 #include "platform/faults/fault.h"
 #include "platform/services/desktop.h"

@@ -6,6 +6,7 @@
 #include "barcode/postal.h"
 #include "barcode/two_of_five.h"
 #include "barcode/upc_ean.h"
+#include "platform/controls/text_controls.h"
 
 namespace tagwright {
 namespace {

@@ -9,9 +9,10 @@
 #include <string_view>
 
 #include "common/barcode_format.h"
-#include "platform/controls/controls.h"
 
 namespace tagwright {
+
+class ComboBox;
 
 // The characters of one format as they are listed, with a look-up that costs nothing per character.
 struct CharacterSet {

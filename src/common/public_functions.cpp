@@ -3,6 +3,7 @@
 #include <cmath>
 #include <limits>
 
+#include "platform/controls/text_controls.h"
 #include "platform/controls/windows.h"
 #include "platform/faults/fault.h"
 #include "platform/services/desktop.h"

@@ -5,10 +5,12 @@
 #include <string>
 #include <string_view>
 
-#include "platform/controls/controls.h"
 #include "platform/database/database.h"
 
 namespace tagwright {
+
+class ComboBox;
+class TextControl;
 
 // --- numbers ------------------------------------------------------------------------------------
 

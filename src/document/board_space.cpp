@@ -1,6 +1,7 @@
 #include "document/board_space.h"
 
 #include "forms/frmMain.h"
+#include "platform/controls/shapes.h"
 
 namespace tagwright {
 

@@ -1,9 +1,9 @@
 // The board's space: twips of the screen in its units, and the lines that lie across it.
 #pragma once
 
-#include "platform/controls/controls.h"
-
 namespace tagwright {
+
+class LineControl;
 
 // A distance on the screen in board units, along either side.
 double BoardUnitsX(double twips);

@@ -1,3 +1,5 @@
+#include "document/object_text.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -7,6 +9,7 @@
 #include "common/public_functions.h"
 #include "document/objects.h"
 #include "document/redraw.h"
+#include "platform/controls/label.h"
 #include "platform/faults/fault.h"
 #include "platform/painting/surface.h"
 #include "platform/services/clock.h"

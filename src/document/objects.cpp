@@ -3,10 +3,12 @@
 #include <limits>
 #include <type_traits>
 
-#include "document/project_file.h"
+#include "document/recent_files.h"
 #include "document/redraw.h"
 #include "document/shown_size.h"
+#include "document/source_state.h"
 #include "forms/frmMain.h"
+#include "platform/controls/label.h"
 #include "platform/controls/outlines.h"
 #include "platform/controls/pointers.h"
 #include "platform/faults/fault.h"

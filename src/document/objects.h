@@ -9,10 +9,11 @@
 #include <vector>
 
 #include "common/barcode_format.h"
-#include "platform/controls/controls.h"
 #include "platform/text/text.h"
 
 namespace tagwright {
+
+class Label;
 
 // A boolean of the records and files: 0 or -1 in 16 bits.
 using Flag = std::int16_t;
@@ -201,8 +202,8 @@ void EndMeasuring(Label& hold);
 // The serial numbers' state as at program start, but for the prefix.
 void SetSerialDefaults();
 
-// The whole state of this folder (that of project_file.h and redraw.h too) back to program start.
-// Neither the form nor the barcode painter's slot is touched.
+// The whole state of this folder, whichever header declares it, back to program start. Neither the
+// form nor the barcode painter's slot is touched.
 void ResetDocumentState();
 
 }  // namespace tagwright

@@ -1,8 +1,11 @@
+#include "document/overlays.h"
+
 #include "document/objects.h"
 #include "document/overlay_geometry.h"
-#include "document/redraw.h"
 #include "forms/frmMain.h"
+#include "platform/controls/label.h"
 #include "platform/controls/outlines.h"
+#include "platform/controls/shapes.h"
 #include "platform/faults/fault.h"
 
 namespace tagwright {

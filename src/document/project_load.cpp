@@ -1,14 +1,19 @@
+#include "document/project_load.h"
+
 #include <algorithm>
 #include <set>
 #include <string>
 
 #include "common/prog_settings.h"
 #include "common/public_functions.h"
-#include "document/project_file.h"
+#include "document/project_record.h"
+#include "document/project_save.h"
+#include "document/recent_files.h"
 #include "document/redraw.h"
 #include "document/selection_state.h"
 #include "document/source_state.h"
 #include "forms/frmMain.h"
+#include "platform/controls/label.h"
 #include "platform/faults/fault.h"
 #include "platform/files/files.h"
 #include "platform/services/dialogs.h"

@@ -1,4 +1,5 @@
-#include "document/project_file.h"
+#include "document/project_record.h"
+
 #include "platform/files/bytes.h"
 
 namespace tagwright {

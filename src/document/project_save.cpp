@@ -1,9 +1,13 @@
+#include "document/project_save.h"
+
 #include <string>
 
 #include "common/prog_settings.h"
 #include "common/public_functions.h"
-#include "document/project_file.h"
+#include "document/project_record.h"
+#include "document/recent_files.h"
 #include "document/selection_state.h"
+#include "document/source_state.h"
 #include "forms/frmMain.h"
 #include "platform/faults/fault.h"
 #include "platform/files/files.h"

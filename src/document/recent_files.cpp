@@ -1,10 +1,13 @@
+#include "document/recent_files.h"
+
 #include <algorithm>
 #include <array>
 #include <string>
 
 #include "common/prog_settings.h"
-#include "document/project_file.h"
+#include "document/project_record.h"
 #include "forms/frmMain.h"
+#include "platform/controls/menu.h"
 #include "platform/files/files.h"
 #include "platform/services/dialog_folders.h"
 #include "platform/text/text.h"

@@ -6,8 +6,6 @@
 #include <set>
 #include <string>
 
-#include "platform/controls/controls.h"
-
 namespace tagwright {
 
 // Paints the whole label from Objects on DrawTarget. With `Output` false that is picBoard's canvas
@@ -56,36 +54,5 @@ using BarcodePainter =
     std::function<void(std::string data, std::int16_t format, float x, float y, double height,
                        double width, bool print_chars, double font_size, std::string font_name)>;
 inline BarcodePainter PaintBarcode;
-
-// Paints the text or data field object `Index` line by line on DrawTarget, whose font and colour
-// are set already. With `Output` true the merge tokens of a text and the value of a data field are
-// resolved (SerialUsed, ForeColor of the target and a barcode may follow); on the screen the text
-// shows as typed, a data field with a marker of its format behind it. Faults are traced and passed
-// over.
-void PaintObjectText(int Index, bool Output);
-
-// --- overlays of the board ----------------------------------------------------------------------
-
-// Puts shpBox and the four handles around one hit area and shows them.
-void ShowHandles(const Label& hold);
-// Puts shpBox around the group in SelectedList; the handles are placed and hidden. Nothing without
-// a group. Faults 9 for a group that is larger than its list or names no record.
-void ShowGroupBox();
-// Puts the handles around shpBox, this many board units away. Whether they show stays as it is.
-void PlaceHandlesAroundFrame(double gap);
-// Hides shpBox and the handles.
-void HideHandles();
-
-// Where the magnetic rules stand, millimetres from the label's top left corner; -1 when removed. A
-// redraw puts lnMX and lnMY there, across the whole board, unless the mouse holds them.
-inline double MagRuleX = -1.0;
-inline double MagRuleY = -1.0;
-inline bool DraggingRuleX = false;  // lnMX follows the pointer until the release
-inline bool DraggingRuleY = false;  // lnMY likewise
-
-// The rulers along the board's top and left side; nothing with mnuFileRulers unchecked. Ticks stand
-// every RulerScale millimetres from the label's corner, numbers at every tenth. A label too far
-// away or a board too wide to count its ticks has the bands alone.
-void DrawRulers();
 
 }  // namespace tagwright

@@ -1,9 +1,10 @@
+#include "document/rulers.h"
+
 #include <cmath>
 #include <string>
 
 #include "common/prog_settings.h"
 #include "document/objects.h"
-#include "document/redraw.h"
 #include "forms/frmMain.h"
 
 namespace tagwright {

@@ -1,9 +1,11 @@
 #include "document/selection_state.h"
 
 #include "document/objects.h"
-#include "document/redraw.h"
+#include "document/overlays.h"
 #include "document/shown_size.h"
 #include "forms/frmMain.h"
+#include "platform/controls/label.h"
+#include "platform/controls/menu.h"
 #include "platform/faults/fault.h"
 
 namespace tagwright {

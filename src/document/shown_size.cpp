@@ -3,6 +3,7 @@
 #include <cstddef>
 
 #include "forms/frmMain.h"
+#include "platform/controls/text_controls.h"
 #include "platform/faults/fault.h"
 #include "platform/text/locale.h"
 

@@ -1,7 +1,6 @@
 #include "document/source_state.h"
 
 #include "document/objects.h"
-#include "document/project_file.h"
 #include "forms/frmMain.h"
 #include "platform/services/dialogs.h"
 

@@ -2,6 +2,7 @@
 // reading its rows are in output/data_sources.h.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>
@@ -19,6 +20,13 @@ struct TableDef {
   std::string Name;
   std::vector<std::string> Fields;  // names of the columns
 };
+
+// What a project carries of its source.
+inline std::string DatabasePassword;              // plain; blank for none
+inline std::string CurrentTable;                  // the chosen table's name
+inline std::int32_t UnlistedTable = -1;           // its row, while no database fills cboRSet
+inline std::int32_t RecordCount = -1;             // rows of the source, -1 none
+inline std::unique_ptr<Database> SourceDatabase;  // the open database, null none
 
 inline TableDef SourceTable;                        // the chosen table
 inline std::unique_ptr<Recordset> SourceRecordset;  // its open rows, null none

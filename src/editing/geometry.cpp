@@ -7,19 +7,6 @@
 
 namespace tagwright {
 
-Snapped SnapPoint(double value, const Rule& rule) {
-  const bool caught = rule.in_force && rule.at - rule.zone < value && value < rule.at + rule.zone;
-  return {caught ? rule.at : value, caught};
-}
-
-Snapped SnapBox(double start, double extent, const Rule& rule) {
-  for (const double inside : {0.0, extent, extent / 2}) {
-    const Snapped edge = SnapPoint(start + inside, rule);
-    if (edge.hit) return {edge.at - inside, true};
-  }
-  return {start, false};
-}
-
 BoardFrame BoxBetween(const BoardPoint& a, const BoardPoint& b) {
   return {std::min(a.x, b.x), std::min(a.y, b.y), std::abs(a.x - b.x), std::abs(a.y - b.y)};
 }

@@ -1,6 +1,6 @@
-// The arithmetic of selecting and dragging, without windows and state: snapping, the rubber box and
-// line, the size of a text that is dragged larger. Lengths are in one unit throughout, on the board
-// that is board units.
+// The arithmetic of dragging, without windows and state: the rubber box and line, the size of a
+// text that is dragged larger. Lengths are in one unit throughout, on the board that is board
+// units.
 #pragma once
 
 namespace tagwright {
@@ -12,29 +12,6 @@ struct BoardPoint {
 struct BoardFrame {
   double left, top, width, height;
 };
-
-// --- magnetic rules -----------------------------------------------------------------------------
-
-// One rule: whether it is in force, where it stands, and how far its pull reaches to either side.
-struct Rule {
-  bool in_force;
-  double at;
-  double zone;
-};
-
-// A coordinate and whether the rule has caught it.
-struct Snapped {
-  double at;
-  bool hit;
-};
-
-// The rule's place for a coordinate that is nearer to it than the zone, which itself is out; any
-// other coordinate unchanged.
-Snapped SnapPoint(double value, const Rule& rule);
-
-// Where a box of `extent` from `start` comes to lie: its near edge is tried first, then the far
-// one, then the middle. One that snaps ends the search, however close the others may be.
-Snapped SnapBox(double start, double extent, const Rule& rule);
 
 // --- rubber -------------------------------------------------------------------------------------
 

@@ -1,11 +1,13 @@
 #include "editing/keys.h"
 
 #include "document/objects.h"
-#include "editing/clipboard.h"
+#include "editing/deletion.h"
 #include "editing/selection.h"
 #include "forms/frmMain.h"
-#include "platform/controls/controls.h"
+#include "platform/controls/control.h"
 #include "platform/controls/keys.h"
+#include "platform/controls/mouse.h"
+#include "platform/controls/text_controls.h"
 
 namespace tagwright {
 namespace {

@@ -2,6 +2,8 @@
 
 #include "common/public_functions.h"
 #include "forms/frmMain.h"
+#include "platform/controls/picture_box.h"
+#include "platform/controls/text_controls.h"
 
 namespace tagwright {
 namespace {

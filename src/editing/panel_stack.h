@@ -2,9 +2,9 @@
 // belong to no panel and move to the one that needs them.
 #pragma once
 
-#include "platform/controls/controls.h"
-
 namespace tagwright {
+
+class PictureBox;
 
 // Left 50, top 0, to the front.
 void ShowPanel(PictureBox& panel);

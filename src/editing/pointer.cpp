@@ -2,6 +2,7 @@
 
 #include "document/objects.h"
 #include "forms/frmMain.h"
+#include "platform/controls/image.h"
 
 namespace tagwright {
 

@@ -2,10 +2,11 @@
 // the window's MousePointer what shows: off the board an arrow, whatever is armed.
 #pragma once
 
-#include "platform/controls/controls.h"
 #include "platform/controls/pointers.h"
 
 namespace tagwright {
+
+class Image;
 
 // Both become `shape`.
 void SetBoardPointer(PointerCode shape);

@@ -2,12 +2,14 @@
 
 #include "common/diagnostics.h"
 #include "document/objects.h"
+#include "document/overlays.h"
 #include "document/redraw.h"
 #include "document/selection_state.h"
 #include "editing/object_panels.h"
 #include "editing/pointer.h"
 #include "editing/selection.h"
 #include "forms/frmMain.h"
+#include "platform/controls/label.h"
 #include "platform/controls/pointers.h"
 
 namespace tagwright {

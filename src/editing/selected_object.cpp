@@ -1,6 +1,7 @@
 #include "editing/selected_object.h"
 
 #include "forms/frmMain.h"
+#include "platform/controls/label.h"
 #include "platform/faults/fault.h"
 
 namespace tagwright {

@@ -5,6 +5,8 @@
 
 namespace tagwright {
 
+class Label;
+
 // The record and the hit area of SelectedObject. Fault 9 without one.
 ObjectRecord& SelectedRecord();
 Label& SelectedHold();

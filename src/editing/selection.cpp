@@ -5,13 +5,15 @@
 
 #include "common/arithmetic.h"
 #include "document/objects.h"
+#include "document/overlays.h"
 #include "document/redraw.h"
 #include "document/selection_state.h"
 #include "document/shown_size.h"
-#include "editing/object_panels.h"
 #include "editing/panel_stack.h"
 #include "editing/selected_object.h"
+#include "editing/text_panel.h"
 #include "forms/frmMain.h"
+#include "platform/controls/label.h"
 #include "platform/controls/outlines.h"
 #include "platform/faults/fault.h"
 

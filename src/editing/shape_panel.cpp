@@ -1,9 +1,10 @@
-// Colours, pen width and transparency. The samples double as the defaults of the next shape.
+#include "editing/shape_panel.h"
+
 #include "common/public_functions.h"
 #include "document/redraw.h"
-#include "editing/object_panels.h"
 #include "editing/selected_object.h"
 #include "forms/frmMain.h"
+#include "platform/controls/label.h"
 #include "platform/faults/fault.h"
 
 namespace tagwright {

@@ -1,4 +1,5 @@
-// The four fields of place and size.
+#include "editing/size_fields.h"
+
 #include <algorithm>
 #include <cstddef>
 #include <string>
@@ -6,13 +7,14 @@
 #include "common/arithmetic.h"
 #include "common/barcode_format.h"
 #include "common/public_functions.h"
+#include "document/overlays.h"
 #include "document/redraw.h"
 #include "document/selection_state.h"
 #include "document/shown_size.h"
 #include "editing/drag.h"
-#include "editing/object_panels.h"
 #include "editing/selected_object.h"
 #include "forms/frmMain.h"
+#include "platform/controls/label.h"
 #include "platform/controls/pointers.h"
 #include "platform/faults/fault.h"
 

@@ -1,14 +1,16 @@
-// Fonts, alignment and typing.
+#include "editing/text_panel.h"
+
 #include <string>
 
 #include "common/arithmetic.h"
 #include "common/public_functions.h"
+#include "document/overlays.h"
 #include "document/redraw.h"
 #include "document/shown_size.h"
-#include "editing/object_panels.h"
 #include "editing/panel_stack.h"
 #include "editing/selected_object.h"
 #include "forms/frmMain.h"
+#include "platform/controls/label.h"
 #include "platform/faults/fault.h"
 
 namespace tagwright {

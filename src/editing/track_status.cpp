@@ -8,6 +8,9 @@
 #include "document/shown_size.h"
 #include "editing/drag.h"
 #include "forms/frmMain.h"
+#include "platform/controls/control.h"
+#include "platform/controls/picture_box.h"
+#include "platform/controls/shapes.h"
 #include "platform/text/locale.h"
 
 namespace tagwright {

@@ -1,9 +1,9 @@
 // What follows the pointer while it is over an object: cross hairs, status bar, position fields.
 #pragma once
 
-#include "platform/controls/controls.h"
-
 namespace tagwright {
+
+class Control;
 
 // Follows the pointer over `control`, a hit area or handle of the board; X and Y are twips from the
 // control's corner. With mnuOptXHair checked HairX and HairY go through the pointer; panel 1 of sB1

@@ -1,7 +1,10 @@
 // The window "About".
 #pragma once
 
-#include "platform/controls/controls.h"
+#include "platform/controls/buttons.h"
+#include "platform/controls/form.h"
+#include "platform/controls/label.h"
+#include "platform/controls/picture_box.h"
 
 namespace tagwright {
 

@@ -5,7 +5,19 @@
 // "(later)" marks what is seen and does nothing yet.
 #pragma once
 
-#include "platform/controls/controls.h"
+#include "platform/controls/buttons.h"
+#include "platform/controls/control_array.h"
+#include "platform/controls/form.h"
+#include "platform/controls/image.h"
+#include "platform/controls/label.h"
+#include "platform/controls/list_box.h"
+#include "platform/controls/menu.h"
+#include "platform/controls/picture_box.h"
+#include "platform/controls/scroll_bar.h"
+#include "platform/controls/shapes.h"
+#include "platform/controls/status_bar.h"
+#include "platform/controls/text_controls.h"
+#include "platform/controls/timer.h"
 #include "platform/services/dialogs.h"
 
 namespace tagwright {

@@ -1,7 +1,11 @@
 // The window "Serial Numbers".
 #pragma once
 
-#include "platform/controls/controls.h"
+#include "platform/controls/buttons.h"
+#include "platform/controls/control_array.h"
+#include "platform/controls/form.h"
+#include "platform/controls/label.h"
+#include "platform/controls/text_controls.h"
 
 namespace tagwright {
 

@@ -4,6 +4,7 @@
 #include "document/redraw.h"
 #include "forms/frmMain.h"
 #include "layouts/label_layouts.h"
+#include "platform/controls/text_controls.h"
 #include "platform/faults/fault.h"
 #include "platform/text/locale.h"
 

@@ -7,6 +7,7 @@
 #include "barcode/formats.h"
 #include "common/public_functions.h"
 #include "forms/frmSerialNumber.h"
+#include "platform/controls/text_controls.h"
 #include "platform/controls/windows.h"
 #include "platform/faults/fault.h"
 #include "platform/painting/scale.h"

@@ -3,6 +3,7 @@
 #include "common/diagnostics.h"
 #include "document/objects.h"
 #include "document/redraw.h"
+#include "platform/controls/label.h"
 
 namespace tagwright {
 namespace {

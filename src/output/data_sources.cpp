@@ -4,7 +4,6 @@
 
 #include "common/diagnostics.h"
 #include "document/objects.h"
-#include "document/project_file.h"
 #include "editing/pointer.h"
 #include "forms/frmMain.h"
 #include "output/database_source.h"

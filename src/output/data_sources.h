@@ -2,8 +2,8 @@
 // rows, and the cursor that a print job drives.
 //
 // While designing FieldValues holds the names of the columns, while printing the row under the
-// cursor. RecordCount, CurrentTable, DatabasePassword and SourceDatabase travel with a project and
-// are declared in document/project_file.h, SourceTable and SourceRecordset in
+// cursor. What of a source travels with a project (RecordCount, CurrentTable, DatabasePassword,
+// SourceDatabase) and its open table (SourceTable, SourceRecordset) are declared in
 // document/source_state.h.
 //
 // A fault in these routines goes through the marker tail, what it would have set keeps its old
@@ -29,16 +29,6 @@ inline std::unique_ptr<LineReader> SourceFile;  // the open text source of a pri
 // stays wrong leaves a message and an empty DatabasePassword.
 void cmdBrowse_Click();
 
-// Reads the columns and counts the rows, the first line included, of the text file cd1.FileName.
-// The columns are added behind FieldUB. A file that cannot be read has one column without a name
-// and no rows.
-void OpenTextSource(bool Comma);
-
-// Opens the database cd1.FileName, asking for a password if it wants one, and lists its tables in
-// cboRSet. A file that does not open, or an empty answer, ends the routine with words that it
-// cannot be read as a database. Faults 3031 for a wrong password, after saying so.
-void OpenDatabaseSource();
-
 // lstFields shows FieldValues(0) to FieldValues(FieldUB).
 void FillFieldList();
 
@@ -48,9 +38,6 @@ void ShowRecordCount();
 // Opens the file dialog. While a project is being loaded it takes the columns and counts the rows
 // of the text file that lblFileName names instead; a database's come with its table.
 void cboImportType_Click();
-// Takes the columns and counts the rows of the chosen table; those of the former one are gone. Says
-// so of a table that lies in another file.
-void cboRSet_Click();
 void chkFirstRow_Click();   // sets DirtyFlag, nothing else
 void chkQuote_Click();      // likewise
 void lstFields_DblClick();  // arms tool 20 with its pointer

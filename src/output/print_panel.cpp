@@ -8,7 +8,7 @@
 #include "common/diagnostics.h"
 #include "common/public_functions.h"
 #include "document/objects.h"
-#include "document/project_file.h"
+#include "document/source_state.h"
 #include "forms/frmMain.h"
 #include "output/print_job.h"
 #include "platform/painting/printer.h"

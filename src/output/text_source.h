@@ -5,6 +5,11 @@
 
 namespace tagwright {
 
+// Reads the columns and counts the rows, the first line included, of the text file cd1.FileName.
+// The columns are added behind FieldUB. A file that cannot be read has one column without a name
+// and no rows.
+void OpenTextSource(bool Comma);
+
 // Shows the boxes of text files and takes the columns of the file `path`, behind FieldUB, and the
 // count of its rows.
 void TakeTextSource(const std::string& path, bool Comma);

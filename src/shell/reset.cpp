@@ -17,7 +17,7 @@
 #include "platform/painting/printer.h"
 #include "platform/services/desktop.h"
 #include "platform/services/dialog_folders.h"
-#include "shell/window.h"
+#include "shell/help.h"
 #include "tools/barcode_panel.h"
 #include "tools/font_box.h"
 #include "tools/placement.h"

@@ -2,7 +2,7 @@
 
 #include "common/prog_settings.h"
 #include "document/objects.h"
-#include "document/project_file.h"
+#include "document/project_save.h"
 #include "document/selection_state.h"
 #include "forms/frmMain.h"
 #include "platform/controls/windows.h"

@@ -1,14 +1,12 @@
 #include "shell/startup.h"
 
-#include <cmath>
 #include <string>
 
 #include "barcode/formats.h"
-#include "common/font_list.h"
 #include "common/prog_settings.h"
 #include "common/public_functions.h"
 #include "document/objects.h"
-#include "document/project_file.h"
+#include "document/recent_files.h"
 #include "document/redraw.h"
 #include "editing/magnetic_rule.h"
 #include "forms/frmAbout.h"
@@ -16,25 +14,26 @@
 #include "forms/frmSerialNumber.h"
 #include "layouts/label_layouts.h"
 #include "layouts/layout_list.h"
+#include "platform/controls/menu.h"
 #include "platform/controls/outlines.h"
 #include "platform/controls/pointers.h"
+#include "platform/controls/shapes.h"
+#include "platform/controls/text_controls.h"
 #include "platform/controls/windows.h"
 #include "platform/files/files.h"
 #include "platform/painting/printer.h"
 #include "platform/services/desktop.h"
+#include "shell/help.h"
 #include "shell/reset.h"
 #include "shell/settings_file.h"
 #include "shell/window.h"
 #include "shell/wiring.h"
+#include "tools/font_box.h"
 #include "tools/panels.h"
 #include "tools/view.h"
 
 namespace tagwright {
 namespace {
-
-constexpr double kNeverSavedLeft = -1000.033;
-constexpr double kNeverSavedTop = 3900.0;
-constexpr double kFarthestPixel = 32767;
 
 // --- the steps ----------------------------------------------------------------------------------
 
@@ -76,28 +75,6 @@ void ReadOrBuildSettings() {
 
 void CheckMagneticZone() {
   frmMain.mnuMagRule(ToInt16(2 * ProgSettings.MagneticZone - 1)).SetChecked(true);
-}
-
-// Window systems count pixels in 16 bits, so what lies beyond is no place but a damaged file.
-double Coordinate(double value) {
-  if (!(std::abs(value) <= kFarthestPixel * kTwipsPerPixel)) RaiseFault(kOverflow);
-  return value;
-}
-
-// A file that a full disk has cut short holds no width, and a window of none would never be seen. A
-// missing height is made up for by the window's own floor.
-double SavedWidth(double value) {
-  if (!(value >= kTwipsPerPixel)) RaiseFault(kBadValue);
-  return Coordinate(value);
-}
-
-void PlaceWindow() {
-  const SettingsRecord& s = ProgSettings;
-  if (s.WindowLeft == kNeverSavedLeft && s.WindowTop == kNeverSavedTop) return;
-  CarryOn([&] { frmMain.SetLeft(Coordinate(s.WindowLeft)); });
-  CarryOn([&] { frmMain.SetTop(Coordinate(s.WindowTop)); });
-  CarryOn([&] { frmMain.SetWidth(SavedWidth(s.WindowWidth)); });
-  CarryOn([&] { frmMain.SetHeight(Coordinate(s.WindowHeight)); });
 }
 
 void SetHelpFile() { HelpFile = AppFolder + "twlabel.chm"; }
@@ -143,17 +120,6 @@ void CheckViewEntries() {
 }
 
 void ForgetGroup() { SelectedUpper = -1; }
-
-void AddPercents(int first, int last, int step) {
-  for (int n = first; n <= last; n += step) frmMain.cboZoom.AddItem(std::to_string(n) + "%");
-}
-
-void FillZoomList() {
-  AddPercents(20, 150, 10);
-  AddPercents(175, 250, 25);
-  AddPercents(300, 750, 50);
-  frmMain.chkXHair.SetValue(1);
-}
 
 void SetFullZoom() { ZoomFactor = 1.0; }
 

@@ -1,16 +1,17 @@
 #include "shell/window.h"
 
-#include "common/public_functions.h"
+#include <cmath>
+
+#include "common/prog_settings.h"
 #include "document/objects.h"
 #include "document/redraw.h"
-#include "editing/pointer.h"
-#include "forms/frmAbout.h"
 #include "forms/frmMain.h"
-#include "platform/controls/keys.h"
+#include "platform/controls/control.h"
+#include "platform/controls/form.h"
+#include "platform/controls/picture_box.h"
 #include "platform/controls/pointers.h"
-#include "platform/controls/windows.h"
-#include "platform/services/desktop.h"
-#include "tools/tool_buttons.h"
+#include "platform/faults/fault.h"
+#include "platform/painting/scale.h"
 #include "tools/view.h"
 
 namespace tagwright {
@@ -24,14 +25,9 @@ constexpr double kToolsLeft = 60;
 constexpr double kBarThickness = 260;
 constexpr double kHorizontalBarStart = 20;
 
-constexpr int kTicksOfAClick = 2;
-constexpr int kHoldDone = 1000;
-constexpr int kZoomHeld = 101;
-
-int flyout_tool = kZoomInButton;  // the button that the flyout belongs to
-
-const char kWebsite[] = "https://www.tagwright.example/";
-constexpr int kShowNormal = 1;
+constexpr double kNeverSavedLeft = -1000.033;
+constexpr double kNeverSavedTop = 3900.0;
+constexpr double kFarthestPixel = 32767;
 
 double Right(const Control& control) { return control.Left() + control.Width(); }
 double Bottom(const Control& control) { return control.Top() + control.Height(); }
@@ -74,37 +70,29 @@ void PlaceScrollBarsInTwips() {
   CarryOn([&] { board.SetScaleHeight(height); });
 }
 
-void OpenFlyout() {
-  const CommandButton& zoom_in = frmMain.cmdTools(kZoomInButton);
-  PictureBox& flyout = frmMain.picMag;
-  flyout.Move(Right(frmMain.picTools),
-              frmMain.picTools.Top() + zoom_in.Top() + zoom_in.Height() / 2);
-  flyout.SetVisible(true);
-  flyout.ZOrder();
+// Window systems count pixels in 16 bits, so what lies beyond is no place but a damaged file.
+double Coordinate(double value) {
+  if (!(std::abs(value) <= kFarthestPixel * kTwipsPerPixel)) RaiseFault(kOverflow);
+  return value;
 }
 
-// Nothing is held then, so neither the hold nor an armed tool is touched.
-bool OpenFlyoutByKey() {
-  for (const int tool : {kZoomInButton, kZoomOutButton}) {
-    if (!frmMain.cmdTools(tool).HasFocus()) continue;
-    flyout_tool = tool;
-    OpenFlyout();
-    frmMain.cmdMagnify(0).SetFocus();
-    return true;
-  }
-  return false;
-}
-
-bool CloseFlyoutByKey() {
-  if (!frmMain.picMag.Visible()) return false;
-  const Control* active = frmMain.ActiveControl();
-  const bool inside = active && active->Parent() == &frmMain.picMag;
-  if (inside) frmMain.cmdTools(flyout_tool).SetFocus();
-  frmMain.picMag.SetVisible(false);
-  return true;
+// A file that a full disk has cut short holds no width, and a window of none would never be seen. A
+// missing height is made up for by the window's own floor.
+double SavedWidth(double value) {
+  if (!(value >= kTwipsPerPixel)) RaiseFault(kBadValue);
+  return Coordinate(value);
 }
 
 }  // namespace
+
+void PlaceWindow() {
+  const SettingsRecord& s = ProgSettings;
+  if (s.WindowLeft == kNeverSavedLeft && s.WindowTop == kNeverSavedTop) return;
+  CarryOn([&] { frmMain.SetLeft(Coordinate(s.WindowLeft)); });
+  CarryOn([&] { frmMain.SetTop(Coordinate(s.WindowTop)); });
+  CarryOn([&] { frmMain.SetWidth(SavedWidth(s.WindowWidth)); });
+  CarryOn([&] { frmMain.SetHeight(Coordinate(s.WindowHeight)); });
+}
 
 void Form_Resize() {
   if (frmMain.State() == WindowState::kMinimized) return;
@@ -123,43 +111,6 @@ void ShowWhetherToSave() {
   if (DirtyFlag) frmMain.mnuFileSaveAs.SetEnabled(true);
 }
 
-void cmdTools_MouseDown(int Index) {
-  if (Index != kZoomInButton && Index != kZoomOutButton) return;
-  flyout_tool = Index;
-  HoldTicks = 0;
-  frmMain.tmrButtons.SetEnabled(true);
-  HoldKind = kZoomHeld;
-}
-
-void cmdTools_MouseUp() { frmMain.tmrButtons.SetEnabled(false); }
-
-void tmrButtons_Timer() {
-  ++HoldTicks;
-  if (HoldTicks <= kTicksOfAClick) return;
-  CurrentTool = kNoTool;
-  SetBoardPointer(kDefaultPointer);
-  if (HoldKind == kZoomHeld) OpenFlyout();
-  HoldTicks = kHoldDone;
-  frmMain.tmrButtons.SetEnabled(false);
-}
-
-void FlyoutKeyDown(int& KeyCode) {
-  const bool opens = (KeyCode == kDownKey || KeyCode == kMenuKey) && OpenFlyoutByKey();
-  const bool closes = KeyCode == kEscapeKey && CloseFlyoutByKey();
-  if (opens || closes) KeyCode = 0;
-}
-
 void ShowPointerOffBoard() { frmMain.SetMousePointer(kDefaultPointer); }
-
-void mnuHelpHelp_Click() {
-  if (DesktopShowHelp()) DesktopShowHelp()(HelpFile);
-}
-
-void mnuHelpWebsite_Click() { ShellOpen(kWebsite, kShowNormal); }
-
-void mnuHelpAbout_Click() {
-  Load(frmAbout);
-  ShowModal(frmAbout);
-}
 
 }  // namespace tagwright

@@ -10,6 +10,8 @@
 #include "editing/selected_object.h"
 #include "forms/frmMain.h"
 #include "platform/controls/keys.h"
+#include "platform/controls/menu.h"
+#include "platform/controls/mouse.h"
 #include "platform/controls/windows.h"
 #include "platform/faults/fault.h"
 #include "platform/services/dialogs.h"

@@ -5,8 +5,21 @@
 #include "common/public_functions.h"
 #include "document/objects.h"
 #include "forms/frmMain.h"
+#include "platform/controls/text_controls.h"
+#include "platform/painting/fonts.h"
 
 namespace tagwright {
+
+int AddFontToCombo(std::string_view face_name, ComboBox& combo) {
+  combo.AddItem(std::string(face_name.substr(0, face_name.find('\0'))));
+  return -1;
+}
+
+void FillFontList(ComboBox& combo) {
+  for (const std::string& family : Fonts().Families()) {
+    if (AddFontToCombo(family, combo) == 0) return;
+  }
+}
 
 // They show what a new object will have: a selected one keeps what it has.
 void SelectFontRow(std::string_view name) {

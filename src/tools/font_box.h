@@ -1,4 +1,5 @@
-// cboFont and cboSize: rows chosen by their text, and typing completed against the list of fonts.
+// cboFont and cboSize: the font families that they offer, rows chosen by their text, and typing
+// completed against the list of fonts.
 #pragma once
 
 #include <cstdint>
@@ -8,8 +9,18 @@
 
 namespace tagwright {
 
+class ComboBox;
+
 // The user typed in cboFont since it got the keyboard.
 inline Flag FontComboTyped = kFalse;
+
+// Adds one family to `combo`: its face name up to the first zero character. Returns -1, which goes
+// on with the enumeration.
+int AddFontToCombo(std::string_view face_name, ComboBox& combo);
+
+// Adds every font family to `combo`, as the system delivers them; a sorted combo sorts them. What
+// the combo holds already stays.
+void FillFontList(ComboBox& combo);
 
 // Chooses the row of cboFont that equals `name` exactly; without one the combo stays as it is. No
 // object takes it.

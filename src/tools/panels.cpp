@@ -5,13 +5,14 @@
 #include "common/prog_settings.h"
 #include "document/objects.h"
 #include "document/selection_state.h"
-#include "editing/object_panels.h"
 #include "editing/pointer.h"
+#include "editing/text_panel.h"
 #include "forms/frmMain.h"
 #include "platform/controls/pointers.h"
 #include "platform/faults/fault.h"
 #include "platform/text/locale.h"
 #include "tools/font_box.h"
+#include "tools/placement.h"
 
 namespace tagwright {
 namespace {

@@ -5,9 +5,12 @@
 #include "common/prog_settings.h"
 #include "document/board_space.h"
 #include "document/objects.h"
+#include "document/overlays.h"
 #include "editing/magnetic_rule.h"
 #include "forms/frmMain.h"
+#include "platform/controls/shapes.h"
 #include "platform/text/locale.h"
+#include "tools/placement.h"
 
 namespace tagwright {
 namespace {

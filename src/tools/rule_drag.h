@@ -1,8 +1,6 @@
 // The magnetic rules under the mouse: pulled out of the ruler strips, moved, and pushed back.
 #pragma once
 
-#include "document/redraw.h"
-
 namespace tagwright {
 
 // Whether a left press at this place (board units) grabs a rule: one from the strip along the left

@@ -8,10 +8,12 @@
 #include "editing/pointer.h"
 #include "editing/selection.h"
 #include "forms/frmMain.h"
+#include "platform/controls/image.h"
 #include "platform/controls/pointers.h"
 #include "platform/faults/fault.h"
 #include "platform/text/locale.h"
 #include "tools/font_box.h"
+#include "tools/picture_tool.h"
 #include "tools/placement.h"
 
 namespace tagwright {

@@ -5,16 +5,22 @@
 #include "common/arithmetic.h"
 #include "common/prog_settings.h"
 #include "common/public_functions.h"
+#include "document/overlays.h"
 #include "document/redraw.h"
 #include "document/selection_state.h"
 #include "document/shown_size.h"
-#include "editing/object_panels.h"
 #include "editing/pointer.h"
 #include "editing/selected_object.h"
 #include "editing/selection.h"
+#include "editing/size_fields.h"
 #include "forms/frmMain.h"
 #include "layouts/layout_list.h"
+#include "platform/controls/label.h"
+#include "platform/controls/menu.h"
+#include "platform/controls/picture_box.h"
 #include "platform/controls/pointers.h"
+#include "platform/controls/scroll_bar.h"
+#include "platform/controls/text_controls.h"
 #include "platform/text/locale.h"
 #include "platform/text/text.h"
 
@@ -112,6 +118,10 @@ void ShowUnit(bool metric, double ruler_scale, double unit_scale) {
   frmMain.mnuUnitIn.SetChecked(!metric);
 }
 
+void AddPercents(int first, int last, int step) {
+  for (int n = first; n <= last; n += step) frmMain.cboZoom.AddItem(std::to_string(n) + "%");
+}
+
 }  // namespace
 
 double BoardWidth() {
@@ -135,6 +145,13 @@ bool SelectZoomRow(double zoom) {
     return true;
   }
   return false;
+}
+
+void FillZoomList() {
+  AddPercents(20, 150, 10);
+  AddPercents(175, 250, 25);
+  AddPercents(300, 750, 50);
+  frmMain.chkXHair.SetValue(1);
 }
 
 double ParsePercent(std::string_view text) {

@@ -15,6 +15,9 @@ inline std::int16_t CrossHairsShown = kTrue;
 
 // --- zoom ---------------------------------------------------------------------------------------
 
+// Adds the percentages that cboZoom offers, and ticks chkXHair.
+void FillZoomList();
+
 // The factor of a text that ends in "%": the number before it over 100. 0 for any other text.
 double ParsePercent(std::string_view text);
 

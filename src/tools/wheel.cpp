@@ -6,6 +6,8 @@
 #include "common/public_functions.h"
 #include "document/objects.h"
 #include "forms/frmMain.h"
+#include "platform/controls/mouse.h"
+#include "platform/controls/scroll_bar.h"
 #include "tools/board.h"
 #include "tools/view.h"
 

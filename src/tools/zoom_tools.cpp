@@ -3,11 +3,15 @@
 #include <algorithm>
 
 #include "common/public_functions.h"
+#include "document/overlays.h"
 #include "document/redraw.h"
 #include "editing/drag.h"
 #include "editing/pointer.h"
 #include "forms/frmMain.h"
+#include "platform/controls/picture_box.h"
 #include "platform/controls/pointers.h"
+#include "platform/controls/scroll_bar.h"
+#include "platform/controls/text_controls.h"
 #include "tools/placement.h"
 #include "tools/placement_arithmetic.h"
 #include "tools/view.h"

@@ -7,8 +7,6 @@
 
 #include "common/prog_settings.h"
 #include "document/objects.h"
-#include "document/project_file.h"
-#include "document/redraw.h"
 #include "forms/frmMain.h"
 #include "platform/files/files.h"
 #include "platform/text/locale.h"

@@ -1,6 +1,9 @@
+#include "document/object_text.h"
+
 #include <cmath>
 
 #include "document/document_support.h"
+#include "document/redraw.h"
 #include "platform/faults/fault.h"
 
 namespace tagwright {

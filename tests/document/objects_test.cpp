@@ -1,6 +1,8 @@
 #include "document/objects.h"
 
 #include "document/document_support.h"
+#include "document/recent_files.h"
+#include "document/source_state.h"
 #include "platform/faults/fault.h"
 #include "support/fault_of.h"
 

@@ -1,3 +1,5 @@
+#include "document/overlays.h"
+
 #include "document/document_support.h"
 #include "platform/faults/fault.h"
 #include "support/fault_of.h"

@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "document/document_support.h"
+#include "document/redraw.h"
 #include "platform/painting/picture.h"
 #include "platform/painting/printer.h"
 #include "qt/painting/image_surface.h"

@@ -1,7 +1,14 @@
+#include "document/project_commands.h"
+
 #include <functional>
 
 #include "document/document_support.h"
+#include "document/overlays.h"
+#include "document/project_record.h"
+#include "document/project_save.h"
+#include "document/recent_files.h"
 #include "document/selection_state.h"
+#include "document/source_state.h"
 #include "platform/services/dialog_folders.h"
 #include "platform/text/text.h"
 

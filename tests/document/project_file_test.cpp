@@ -1,9 +1,14 @@
-#include "document/project_file.h"
-
 #include <filesystem>
 #include <limits>
 
 #include "document/document_support.h"
+#include "document/overlays.h"
+#include "document/project_commands.h"
+#include "document/project_load.h"
+#include "document/project_record.h"
+#include "document/project_save.h"
+#include "document/recent_files.h"
+#include "document/redraw.h"
 #include "document/selection_state.h"
 #include "document/source_state.h"
 #include "platform/painting/picture.h"

@@ -1,7 +1,9 @@
 // Files that are anything but projects: whatever stands in them, they load without a fault and
 // leave a document that can be painted and saved.
 
+#include "document/project_save.h"
 #include "document/random_projects.h"
+#include "document/redraw.h"
 
 namespace tagwright {
 namespace {

@@ -1,3 +1,5 @@
+#include "document/project_record.h"
+
 #include <cstring>
 
 #include "document/document_support.h"

@@ -7,6 +7,8 @@
 #include <vector>
 
 #include "document/document_support.h"
+#include "document/project_load.h"
+#include "document/project_record.h"
 #include "platform/controls/event.h"
 
 namespace tagwright {

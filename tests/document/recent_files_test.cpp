@@ -1,3 +1,5 @@
+#include "document/recent_files.h"
+
 #include "document/document_support.h"
 #include "platform/text/text.h"
 

@@ -6,6 +6,7 @@
 
 #include "common/prog_settings.h"
 #include "document/document_support.h"
+#include "document/overlays.h"
 #include "platform/painting/picture.h"
 #include "platform/painting/printer.h"
 

@@ -1,3 +1,5 @@
+#include "document/rulers.h"
+
 #include <cmath>
 #include <limits>
 

@@ -4,6 +4,7 @@
 
 #include "editing/editing_support.h"
 #include "editing/geometry.h"
+#include "editing/rubber.h"
 
 namespace tagwright {
 namespace {

@@ -6,13 +6,18 @@
 #include <string>
 
 #include "document/document_support.h"
+#include "document/overlays.h"
+#include "document/redraw.h"
 #include "document/selection_state.h"
 #include "editing/drag.h"
 #include "editing/keys.h"
 #include "editing/magnetic_rule.h"
 #include "editing/object_panels.h"
+#include "editing/resize.h"
 #include "editing/selection.h"
+#include "editing/text_panel.h"
 #include "editing/undo.h"
+#include "platform/controls/mouse.h"
 
 namespace tagwright {
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "editing/magnetic_rule.h"
 #include "support/fault_of.h"
 
 namespace tagwright {

@@ -1,6 +1,7 @@
 #include "editing/magnetic_rule.h"
 
 #include "common/prog_settings.h"
+#include "document/overlays.h"
 #include "forms/frmMain.h"
 #include "support/test_support.h"
 

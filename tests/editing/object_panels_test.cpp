@@ -1,8 +1,10 @@
 // The panels of the selected object: what they show, and what their edits make of the record.
 #include "editing/object_panels.h"
 
+#include "document/redraw.h"
 #include "document/shown_size.h"
 #include "editing/panel_stack.h"
+#include "editing/text_panel.h"
 #include "tools/hand_fixture.h"
 
 namespace tagwright {

@@ -9,7 +9,8 @@
 #include <string_view>
 
 #include "document/objects.h"
-#include "document/project_file.h"
+#include "document/project_load.h"
+#include "document/project_save.h"
 #include "platform/controls/event.h"
 #include "platform/faults/fault.h"
 #include "platform/files/files.h"

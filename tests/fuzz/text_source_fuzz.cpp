@@ -5,9 +5,10 @@
 #include <filesystem>
 
 #include "document/objects.h"
-#include "document/project_file.h"
+#include "document/source_state.h"
 #include "forms/frmMain.h"
 #include "output/data_sources.h"
+#include "output/text_source.h"
 #include "platform/controls/windows.h"
 #include "platform/faults/fault.h"
 #include "platform/files/files.h"

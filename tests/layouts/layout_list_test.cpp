@@ -1,7 +1,6 @@
 #include "layouts/layout_list.h"
 
 #include "document/objects.h"
-#include "document/redraw.h"
 #include "forms/frmMain.h"
 #include "layouts/label_layouts.h"
 #include "platform/faults/fault.h"

@@ -5,6 +5,7 @@
 
 #include "barcode/formats.h"
 #include "barcode/mod_bar_code.h"
+#include "document/object_text.h"
 #include "document/redraw.h"
 #include "forms/frmMain.h"
 #include "forms/frmSerialNumber.h"

@@ -2,7 +2,6 @@
 #include "output/data_fields.h"
 
 #include "document/objects.h"
-#include "document/redraw.h"
 #include "forms/frmMain.h"
 #include "support/test_support.h"
 

@@ -1,6 +1,7 @@
 // Choosing a source, and what the panel shows of it.
 #include "output/data_sources.h"
 
+#include "document/source_state.h"
 #include "output/source_fixture.h"
 #include "platform/services/dialog_folders.h"
 

@@ -1,6 +1,10 @@
 // Databases as sources: passwords, tables, counting, and the rows of a merge.
 #include "output/database_source.h"
 
+#include "document/project_commands.h"
+#include "document/project_load.h"
+#include "document/project_save.h"
+#include "document/source_state.h"
 #include "output/source_fixture.h"
 
 namespace tagwright {

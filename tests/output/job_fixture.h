@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "common/public_functions.h"
-#include "document/redraw.h"
 #include "layouts/label_layouts.h"
 #include "layouts/layout_list.h"
 #include "output/print_job.h"

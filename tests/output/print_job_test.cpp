@@ -5,7 +5,12 @@
 #include <functional>
 #include <random>
 
+#include "document/project_commands.h"
+#include "document/project_load.h"
+#include "document/redraw.h"
+#include "document/source_state.h"
 #include "output/job_fixture.h"
+#include "platform/controls/mouse.h"
 
 namespace tagwright {
 namespace {

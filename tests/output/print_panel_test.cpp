@@ -1,4 +1,5 @@
 // The print panel: the pages it proposes, the printer it chooses.
+#include "document/source_state.h"
 #include "output/job_fixture.h"
 
 namespace tagwright {

@@ -6,6 +6,7 @@
 #include <QJsonObject>
 #include <algorithm>
 
+#include "document/source_state.h"
 #include "output/source_fixture.h"
 #include "platform/text/text.h"
 

@@ -3,6 +3,10 @@
 
 #include <fstream>
 
+#include "document/project_commands.h"
+#include "document/project_load.h"
+#include "document/project_save.h"
+#include "document/source_state.h"
 #include "output/source_fixture.h"
 
 namespace tagwright {

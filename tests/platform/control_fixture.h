@@ -7,7 +7,20 @@
 #include <string>
 #include <vector>
 
-#include "platform/controls/controls.h"
+#include "platform/controls/buttons.h"
+#include "platform/controls/control.h"
+#include "platform/controls/control_array.h"
+#include "platform/controls/control_view.h"
+#include "platform/controls/form.h"
+#include "platform/controls/label.h"
+#include "platform/controls/list_box.h"
+#include "platform/controls/menu.h"
+#include "platform/controls/picture_box.h"
+#include "platform/controls/scroll_bar.h"
+#include "platform/controls/shapes.h"
+#include "platform/controls/status_bar.h"
+#include "platform/controls/text_controls.h"
+#include "platform/controls/timer.h"
 #include "platform/controls/windows.h"
 #include "platform/services/dialogs.h"
 #include "support/test_support.h"

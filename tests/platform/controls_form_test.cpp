@@ -2,6 +2,7 @@
 #include <memory>
 
 #include "control_fixture.h"
+#include "platform/controls/mouse.h"
 
 namespace tagwright {
 namespace {

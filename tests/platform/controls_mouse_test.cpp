@@ -2,6 +2,7 @@
 #include <cmath>
 
 #include "control_fixture.h"
+#include "platform/controls/mouse.h"
 
 namespace tagwright {
 namespace {

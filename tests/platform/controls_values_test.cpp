@@ -1,5 +1,6 @@
 // Lists, buttons, bars, timers, menus and the small helpers.
 #include "control_fixture.h"
+#include "platform/controls/mouse.h"
 #include "platform/painting/recorder.h"
 
 namespace tagwright {

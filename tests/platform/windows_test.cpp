@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "control_fixture.h"
+#include "platform/controls/mouse.h"
 
 namespace tagwright {
 namespace {

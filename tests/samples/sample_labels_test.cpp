@@ -2,7 +2,8 @@
 #include <string>
 
 #include "document/objects.h"
-#include "document/project_file.h"
+#include "document/project_load.h"
+#include "document/project_save.h"
 #include "forms/frmMain.h"
 #include "platform/files/files.h"
 #include "platform/painting/picture.h"

@@ -7,11 +7,12 @@
 #include <set>
 
 #include "document/objects.h"
-#include "document/redraw.h"
 #include "document/shown_size.h"
 #include "editing/drag.h"
 #include "editing/keys.h"
+#include "editing/rubber.h"
 #include "editing/selection.h"
+#include "platform/controls/mouse.h"
 #include "platform/controls/windows.h"
 #include "platform/painting/picture.h"
 #include "platform/text/locale.h"

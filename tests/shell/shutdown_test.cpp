@@ -3,7 +3,6 @@
 #include <vector>
 
 #include "document/objects.h"
-#include "document/project_file.h"
 #include "forms/frmAbout.h"
 #include "shell/shell_fixture.h"
 

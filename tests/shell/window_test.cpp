@@ -2,6 +2,7 @@
 
 #include "document/objects.h"
 #include "forms/frmAbout.h"
+#include "platform/controls/mouse.h"
 #include "platform/services/desktop.h"
 #include "shell/shell_fixture.h"
 #include "tools/tool_buttons.h"

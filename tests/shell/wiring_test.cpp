@@ -5,10 +5,9 @@
 #include <functional>
 
 #include "document/objects.h"
-#include "document/project_file.h"
-#include "document/redraw.h"
-#include "editing/object_panels.h"
+#include "document/project_save.h"
 #include "editing/selection.h"
+#include "editing/text_panel.h"
 #include "shell/shell_fixture.h"
 #include "tools/placement.h"
 

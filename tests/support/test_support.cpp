@@ -5,7 +5,6 @@
 
 #include "common/prog_settings.h"
 #include "document/objects.h"
-#include "document/project_file.h"
 #include "forms/frmMain.h"
 #include "platform/controls/windows.h"
 #include "platform/services/clock.h"

@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "document/project_commands.h"
+#include "document/project_record.h"
 #include "shell/shutdown.h"
 #include "tools/hand_fixture.h"
 

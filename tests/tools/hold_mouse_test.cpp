@@ -3,9 +3,11 @@
 
 #include <limits>
 
-#include "editing/clipboard.h"
+#include "editing/deletion.h"
 #include "editing/editing_support.h"
 #include "editing/property_pick.h"
+#include "editing/rubber.h"
+#include "editing/shape_panel.h"
 #include "platform/controls/windows.h"
 #include "tools/barcode_panel.h"
 #include "tools/placement.h"

@@ -3,7 +3,11 @@
 
 #include <cmath>
 
+#include "document/project_load.h"
+#include "document/project_save.h"
+#include "editing/rubber.h"
 #include "tools/hand_fixture.h"
+#include "tools/picture_tool.h"
 
 namespace tagwright {
 namespace {

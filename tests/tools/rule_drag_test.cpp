@@ -1,6 +1,7 @@
 // Magnetic rules under the mouse: 125 twips are the strip along the edge, 200 the way back.
 #include "tools/rule_drag.h"
 
+#include "editing/rubber.h"
 #include "tools/hand_fixture.h"
 
 namespace tagwright {

@@ -1,7 +1,7 @@
-// Containers: their children and their scale.
+#include "platform/controls/container.h"
+
 #include <utility>
 
-#include "platform/controls/controls.h"
 #include "platform/controls/erase_last.h"
 
 namespace tagwright {

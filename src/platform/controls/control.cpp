@@ -1,8 +1,11 @@
-// What every control has: its place, state, focus and order.
+#include "platform/controls/control.h"
+
 #include <utility>
 
-#include "platform/controls/controls.h"
+#include "platform/controls/container.h"
+#include "platform/controls/form.h"
 #include "platform/controls/pointers.h"
+#include "platform/faults/fault.h"
 
 namespace tagwright {
 namespace {
@@ -184,5 +187,11 @@ void Control::Notify(Aspect aspect) const {
 int Control::WaitLevel() const { return form_ ? form_->EventLevel() : 0; }
 
 bool Control::Waits() const { return HandlerRuns(WaitLevel()); }
+
+// --- values -------------------------------------------------------------------------------------
+
+void Control::CheckRange(int value, int low, int high) {
+  if (value < low || value > high) RaiseFault(kBadValue);
+}
 
 }  // namespace tagwright

@@ -1,9 +1,11 @@
+#include "platform/controls/form.h"
+
 #include <algorithm>
 #include <utility>
 
-#include "platform/controls/controls.h"
+#include "platform/controls/control.h"
+#include "platform/controls/control_view.h"
 #include "platform/controls/erase_last.h"
-
 namespace tagwright {
 namespace {
 

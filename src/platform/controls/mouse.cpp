@@ -1,10 +1,9 @@
-// The mouse: which control a press belongs to, and how a press that a modal window has interrupted
-// comes to its end.
-#include <algorithm>
+#include "platform/controls/mouse.h"
+
 #include <bit>
 #include <vector>
 
-#include "platform/controls/controls.h"
+#include "platform/controls/form.h"
 
 namespace tagwright {
 namespace {
@@ -45,11 +44,6 @@ void ReleaseEverywhere(const Control* except) {
 }
 
 }  // namespace
-
-void ModalOpens() {
-  if (Form* active = ActiveForm()) active->KeyboardLeaves();
-  UserButtonsUp();
-}
 
 void UserButtonsUp() { ReleaseEverywhere(nullptr); }
 

@@ -1,8 +1,9 @@
-// Controls that the user types in.
+#include "platform/controls/text_controls.h"
+
 #include <algorithm>
 #include <utility>
 
-#include "platform/controls/controls.h"
+#include "platform/faults/fault.h"
 #include "platform/text/text.h"
 
 namespace tagwright {

@@ -2,6 +2,9 @@
 
 #include <algorithm>
 
+#include "platform/controls/mouse.h"
+#include "platform/faults/fault.h"
+
 namespace tagwright {
 namespace {
 
@@ -92,6 +95,11 @@ void UnloadAll() {
 void PopupMenu(Form& form, Menu& menu) {
   ModalOpens();
   if (State().service) State().service->PopupMenu(form, menu);
+}
+
+void ModalOpens() {
+  if (Form* active = ActiveForm()) active->KeyboardLeaves();
+  UserButtonsUp();
 }
 
 void SendTab() {

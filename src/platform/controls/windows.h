@@ -5,9 +5,11 @@
 #include <string>
 #include <vector>
 
-#include "platform/controls/controls.h"
+#include "platform/controls/form.h"
 
 namespace tagwright {
+
+class Menu;
 
 // What the toolkit does for windows; without one (in tests) forms live as models only.
 class WindowService {
@@ -63,6 +65,12 @@ void UnloadAll();
 
 // Pops up a menu at the pointer and returns when it is closed; the chosen entry's Click has run.
 void PopupMenu(Form& form, Menu& menu);
+
+// To be called before a modal window, a message box or a pop-up menu opens (ShowModal, PopupMenu
+// and the dialogs do). Keys held in the active window end there: it raises KeyUp. A press under way
+// will lose its release to the new window: MouseUp follows, where the pointer was last seen, as
+// soon as the handler that opened it is done.
+void ModalOpens();
 
 // Types the tab key, which leaves the present control.
 void SendTab();

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "platform/controls/controls.h"
+#include "platform/controls/windows.h"
 #include "platform/faults/fault.h"
 #include "platform/services/dialog_folders.h"
 

@@ -7,6 +7,14 @@
 #include <QRegularExpression>
 #include <QWidget>
 
+#include "platform/controls/control.h"
+#include "platform/controls/image.h"
+#include "platform/controls/label.h"
+#include "platform/controls/menu.h"
+#include "platform/controls/picture_box.h"
+#include "platform/controls/shapes.h"
+#include "platform/controls/text_controls.h"
+#include "platform/controls/timer.h"
 #include "qt/controls/board_view.h"
 #include "qt/controls/control_widgets.h"
 #include "qt/controls/menu_views.h"

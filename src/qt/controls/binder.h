@@ -5,7 +5,8 @@
 #include <memory>
 #include <vector>
 
-#include "platform/controls/controls.h"
+#include "platform/controls/control_view.h"
+#include "platform/controls/form.h"
 
 class QWidget;
 

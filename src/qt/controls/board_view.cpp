@@ -9,6 +9,10 @@
 #include <string_view>
 #include <utility>
 
+#include "platform/controls/form.h"
+#include "platform/controls/label.h"
+#include "platform/controls/mouse.h"
+#include "platform/controls/shapes.h"
 #include "qt/controls/control_widgets.h"
 #include "qt/controls/focus.h"
 #include "qt/controls/input_codes.h"

@@ -7,7 +7,9 @@
 #include <unordered_map>
 #include <vector>
 
-#include "platform/controls/controls.h"
+#include "platform/controls/control.h"
+#include "platform/controls/control_view.h"
+#include "platform/controls/picture_box.h"
 
 namespace tagwright {
 

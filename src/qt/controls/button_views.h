@@ -3,7 +3,8 @@
 
 #include <memory>
 
-#include "platform/controls/controls.h"
+#include "platform/controls/buttons.h"
+#include "platform/controls/control_view.h"
 
 class QAbstractButton;
 class QCheckBox;

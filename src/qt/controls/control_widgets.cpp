@@ -3,6 +3,7 @@
 #include <QVariant>
 #include <QWidget>
 
+#include "platform/controls/container.h"
 #include "qt/controls/board_view.h"
 #include "qt/controls/units.h"
 #include "qt/controls/widget_view.h"

@@ -4,7 +4,7 @@
 #include <QCursor>
 #include <QString>
 
-#include "platform/controls/controls.h"
+#include "platform/controls/control.h"
 
 class QWidget;
 

@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <QWidget>
 
-#include "platform/controls/controls.h"
+#include "platform/controls/form.h"
 #include "qt/controls/control_widgets.h"
 #include "qt/controls/units.h"
 

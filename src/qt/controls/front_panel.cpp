@@ -4,7 +4,7 @@
 #include <QStackedWidget>
 #include <QVariant>
 
-#include "platform/controls/controls.h"
+#include "platform/controls/container.h"
 #include "qt/controls/control_widgets.h"
 #include "qt/controls/focus.h"
 

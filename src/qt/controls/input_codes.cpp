@@ -1,6 +1,6 @@
 #include "qt/controls/input_codes.h"
 
-#include "platform/controls/controls.h"
+#include "platform/controls/mouse.h"
 
 namespace tagwright {
 int ButtonCode(Qt::MouseButton button) { return ButtonCodes(Qt::MouseButtons(button)); }

@@ -3,7 +3,9 @@
 
 #include <memory>
 
-#include "platform/controls/controls.h"
+#include "platform/controls/control_view.h"
+#include "platform/controls/list_box.h"
+#include "platform/controls/text_controls.h"
 
 class QComboBox;
 class QListWidget;

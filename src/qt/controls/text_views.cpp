@@ -9,6 +9,7 @@
 #include <QSignalBlocker>
 #include <QTextCursor>
 
+#include "platform/controls/windows.h"
 #include "qt/controls/input_codes.h"
 #include "qt/controls/modal_run.h"
 #include "qt/controls/text_places.h"

@@ -3,7 +3,8 @@
 
 #include <memory>
 
-#include "platform/controls/controls.h"
+#include "platform/controls/control_view.h"
+#include "platform/controls/timer.h"
 
 namespace tagwright {
 

@@ -5,7 +5,8 @@
 #include <QString>
 #include <string>
 
-#include "platform/controls/controls.h"
+#include "platform/controls/control.h"
+#include "platform/painting/scale.h"
 
 namespace tagwright {
 

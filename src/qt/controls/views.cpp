@@ -8,6 +8,13 @@
 #include <QPlainTextEdit>
 #include <QScrollBar>
 
+#include "platform/controls/buttons.h"
+#include "platform/controls/label.h"
+#include "platform/controls/list_box.h"
+#include "platform/controls/picture_box.h"
+#include "platform/controls/scroll_bar.h"
+#include "platform/controls/status_bar.h"
+#include "platform/controls/text_controls.h"
 #include "qt/controls/button_views.h"
 #include "qt/controls/frame_view.h"
 #include "qt/controls/label_views.h"

@@ -4,7 +4,12 @@
 
 #include <memory>
 
-#include "platform/controls/controls.h"
+#include "platform/controls/control.h"
+#include "platform/controls/control_view.h"
+#include "platform/controls/form.h"
+#include "platform/controls/menu.h"
+#include "platform/controls/mouse.h"
+#include "platform/controls/timer.h"
 
 class QWidget;
 

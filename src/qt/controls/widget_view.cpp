@@ -3,6 +3,9 @@
 #include <QLabel>
 #include <QStackedWidget>
 
+#include "platform/controls/container.h"
+#include "platform/controls/form.h"
+#include "platform/controls/mouse.h"
 #include "qt/controls/control_widgets.h"
 #include "qt/controls/focus.h"
 #include "qt/controls/front_panel.h"

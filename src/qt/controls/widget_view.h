@@ -8,7 +8,8 @@
 #include <QObject>
 #include <QWidget>
 
-#include "platform/controls/controls.h"
+#include "platform/controls/control.h"
+#include "platform/controls/control_view.h"
 
 namespace tagwright {
 

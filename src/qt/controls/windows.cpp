@@ -22,6 +22,11 @@
 #include <utility>
 #include <vector>
 
+#include "platform/controls/control.h"
+#include "platform/controls/control_view.h"
+#include "platform/controls/menu.h"
+#include "platform/controls/mouse.h"
+#include "platform/controls/picture_box.h"
 #include "qt/controls/binder.h"
 #include "qt/controls/control_widgets.h"
 #include "qt/controls/focus.h"

@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 
+#include "platform/controls/form.h"
 #include "platform/controls/windows.h"
 
 class QWidget;

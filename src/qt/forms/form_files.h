@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "platform/controls/controls.h"
+#include "platform/controls/form.h"
 #include "platform/controls/windows.h"
 
 class QWidget;

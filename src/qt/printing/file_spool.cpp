@@ -8,7 +8,7 @@
 #include <optional>
 #include <string>
 
-#include "platform/controls/controls.h"
+#include "platform/controls/windows.h"
 #include "platform/faults/fault.h"
 #include "platform/services/dialog_folders.h"
 #include "platform/services/dialogs.h"

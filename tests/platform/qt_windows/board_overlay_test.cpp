@@ -3,6 +3,7 @@
 #include <cmath>
 #include <utility>
 
+#include "platform/controls/mouse.h"
 #include "platform/painting/fonts.h"
 #include "platform/qt_windows/window_fixture.h"
 #include "qt/controls/board_view.h"

@@ -1,7 +1,6 @@
-#include "common/font_list.h"
-
 #include "forms/frmMain.h"
 #include "support/test_support.h"
+#include "tools/font_box.h"
 
 namespace tagwright {
 namespace {

@@ -1,4 +1,4 @@
-#include "editing/clipboard.h"
+#include "editing/deletion.h"
 
 #include <utility>
 
