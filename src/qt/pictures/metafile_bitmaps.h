@@ -2,7 +2,7 @@
 #pragma once
 
 // The library's record of functions; its header is for sources alone.
-struct _wmfFunctionReference;
+struct _wmfFunctionReference;  // NOLINT(bugprone-reserved-identifier): its own name
 
 namespace tagwright {
 

@@ -2,8 +2,8 @@
 #pragma once
 
 // The library's records of functions; its header is for sources alone.
-struct _wmfFunctionReference;
-struct _wmfFontData;
+struct _wmfFunctionReference;  // NOLINT(bugprone-reserved-identifier): its own name
+struct _wmfFontData;           // NOLINT(bugprone-reserved-identifier): its own name
 
 namespace tagwright {
 
