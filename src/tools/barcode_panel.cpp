@@ -98,12 +98,13 @@ void TakeData(ObjectRecord& record) {
 
 }  // namespace
 
+// A format that the panel shows for the next barcode is looked at, and no barcode takes it.
 void cboBCode_Click() {
   const std::string text = frmMain.txtBCodeData.Text();
   if (text.empty()) return;
-  DirtyFlag = kTrue;
+  if (!PanelLoading) DirtyFlag = kTrue;
   frmMain.cmdBCode.SetEnabled(false);
-  if (!Accepted(text, text) || !BarcodeIsSelected()) return;
+  if (!Accepted(text, text) || PanelLoading || !BarcodeIsSelected()) return;
   TakeFormat();
   FitPostalSize(text);
 }

@@ -40,6 +40,12 @@ void SelectDefaultFont(double size) {
   SelectSizeRow(FormatNumber(size));
 }
 
+// As the font and the size: a selected barcode keeps its own.
+void SelectFormatRow(int format) {
+  const PanelFilling filling;
+  CarryOn([&] { frmMain.cboBCode.SetListIndex(format); });
+}
+
 // --- one tool after the other ---
 
 void SelectTool() {
@@ -51,12 +57,12 @@ void SelectTool() {
 void TakeStyleOfBarcode(const ObjectRecord& last) {
   SelectFontRow(last.FontName.Trimmed());
   SelectSizeRow(FormatNumber(last.FontSize));
-  CarryOn([&] { frmMain.cboBCode.SetListIndex(last.Param); });
+  SelectFormatRow(last.Param);
 }
 
 void TakeDefaultBarcode() {
   SelectDefaultFont(ProgSettings.BarcodeFontSize);
-  CarryOn([] { frmMain.cboBCode.SetListIndex(ProgSettings.AlphaBarcodeType); });
+  SelectFormatRow(ProgSettings.AlphaBarcodeType);
 }
 
 // Its panel alone arms nothing: cmdBCode does, once there is data to place.

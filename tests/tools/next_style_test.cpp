@@ -30,6 +30,7 @@ class NextStyleTest : public HandTest {
       last.ObjType = kind;
       last.FontName = "Times New Roman";
       last.FontSize = 8;
+      last.Param = kind == kBarcode ? kFormatPostNet : 0;
       last.Top += 5;
       Put(last);
     }
@@ -84,6 +85,24 @@ TEST_F(NextStyleTest, AToolButtonWithAModifierLeavesTheSelectionAlone) {
       frmMain.cmdTools(0).Press();
     }
   }
+}
+
+// Not even a postal one, whose size its data decides.
+TEST_F(NextStyleTest, TheFormatOfTheNextBarcodeIsNotGivenToTheSelectedOne) {
+  constexpr int kBarcodeIndex = 2;
+  ClickOnLabel(ObjectAt(kBarcodeIndex).Left + 1, ObjectAt(kBarcodeIndex).Top + 1);
+  ASSERT_EQ(SelectedObject, kBarcodeIndex);
+  ASSERT_EQ(frmMain.txtBCodeData.Text(), "12345");
+  const ObjectRecord before = ObjectAt(kBarcodeIndex);
+  DirtyFlag = kFalse;
+  ModifierHeld = true;
+  frmMain.cmdTools(kBarcodeButton).UserFocus();
+  frmMain.cmdTools(kBarcodeButton).Press();
+  ModifierHeld = false;
+  EXPECT_EQ(frmMain.cboBCode.ListIndex(), kFormatPostNet);
+  EXPECT_EQ(ObjectAt(kBarcodeIndex), before);
+  EXPECT_EQ(DirtyFlag, kFalse);
+  EXPECT_TRUE(frmMain.cmdBCode.Enabled()) << "the data has been looked at";
 }
 
 }  // namespace
